@@ -1,0 +1,29 @@
+# SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# One interface target carries what every target of ours is compiled with.
+add_library(zuno_common INTERFACE)
+target_include_directories(zuno_common INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_definitions(zuno_common INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(MSVC)
+  target_compile_options(zuno_common INTERFACE /W4 /permissive- /utf-8 /fp:precise
+    $<$<BOOL:${WARNINGS_AS_ERRORS}>:/WX>)
+else()
+  # Laps must come out the same to the bit on every machine: no fused multiply-add behind our back.
+  target_compile_options(zuno_common INTERFACE
+    -ffp-contract=off
+    -Wall -Wextra -pedantic -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+    -Wunused -Wnull-dereference -Wimplicit-fallthrough
+    $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+
+if(SANITIZE)
+  target_compile_options(zuno_common INTERFACE
+    -fsanitize=address,undefined,float-cast-overflow
+    -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zuno_common INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# Installs the Debian packages that building and starting needs, and that are not there yet.
+#   --core    what the core, the command line tool and their tests need
+#   --gui     that, and what the desktop program needs (this is the default)
+#   --checks  additionally the tools of scripts/check.sh
+set -euo pipefail
+
+core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
+# The virtual display, the tools that find and photograph a window on it, and letters to draw.
+gui=(libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
+# The compiler brings the sanitizers' libraries itself.
+checks=(git clang-format clang-tidy cppcheck shellcheck)
+
+packages=()
+sort_of=gui
+for argument in "$@"; do
+    case $argument in
+    --core) sort_of=core ;;
+    --gui) sort_of=gui ;;
+    --checks) packages+=("${checks[@]}") ;;
+    *)
+        echo "usage: ${0##*/} [--gui|--core] [--checks]" >&2
+        exit 2
+        ;;
+    esac
+done
+packages+=("${core[@]}")
+if [[ $sort_of == gui ]]; then
+    packages+=("${gui[@]}")
+fi
+
+missing=()
+if command -v dpkg-query >/dev/null; then
+    for package in "${packages[@]}"; do
+        # shellcheck disable=SC2016 # dpkg-query replaces it, not the shell
+        state=$(dpkg-query --show --showformat='${db:Status-Status} ' "$package" 2>/dev/null || true)
+        [[ " $state" == *" installed "* ]] || missing+=("$package")
+    done
+else
+    missing=("${packages[@]}")
+fi
+if ((${#missing[@]} == 0)); then
+    exit 0
+fi
+
+if ! command -v apt-get >/dev/null; then
+    echo "There is no apt-get here to install what Debian 12 calls: ${missing[*]}" >&2
+    echo "Install these with the tools of your system, and call cmake --preset dev yourself." >&2
+    exit 1
+fi
+as_root=()
+if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+        echo "Packages are missing, and there is no sudo. Run this as root:" >&2
+        echo "  apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
+    fi
+    as_root=(sudo)
+fi
+
+echo "Installing: ${missing[*]}"
+apt() { "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0 "$@"; }
+apt update
+# Quiet as long as it works; the whole of it when it does not.
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+if ! apt install -y --no-install-recommends "${missing[@]}" >"$log" 2>&1; then
+    cat "$log" >&2
+    echo "The packages could not be installed." >&2
+    exit 1
+fi

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <cli/input.h>
+
+#include <QDir>
+
+#include <app/settings.h>
+#include <cli/console.h>
+#include <maps/mapdetection.h>
+#include <session/sessionfile.h>
+
+namespace zuno::cli {
+
+namespace {
+
+// An absolute path: what is left of a map's path without the folder is the map's name.
+QString mapsFolder(const CommandLine &line)
+{
+    const QString folder = line.isSet(QStringLiteral("maps"))
+                               ? line.value(QStringLiteral("maps"))
+                               : Settings(Settings::defaultRoot()).mapsFolder();
+    return QDir(folder).absolutePath();
+}
+
+} // namespace
+
+std::unique_ptr<Session> openReported(const QString &path)
+{
+    OpenedSession opened = openSession(path);
+    if (!opened.session)
+        printFileError(path, describe(opened.error));
+    return std::move(opened.session);
+}
+
+void addMapOptions(CommandLine &line)
+{
+    line.addValue({QStringLiteral("maps")}, QStringLiteral("DIR"),
+                  QStringLiteral("The folder of map files (default: the program's)."));
+    line.addValue({QStringLiteral("map")}, QStringLiteral("NAME"),
+                  QStringLiteral("The map chosen for the session, by its path below the maps "
+                                 "folder (\"/Country/Circuit.map\"); without it, or when there "
+                                 "is no such map, it is detected."));
+}
+
+DisplayedSession displayReported(const QString &path, const CommandLine &line)
+{
+    DisplayedSession displayed;
+    displayed.session = openReported(path);
+    if (!displayed.session)
+        return displayed;
+    displayed.session->smooth();
+    displayed.maps.loadMaps(mapsFolder(line));
+    const QString name = line.value(QStringLiteral("map"));
+    const Map *stored = displayed.maps.find(name);
+    if (stored == nullptr && !name.isEmpty())
+        printError(QStringLiteral("there is no map \"%1\"; the map is detected").arg(name));
+    chooseMapByLength(*displayed.session,
+                      stored != nullptr
+                          ? QList<const Map *> {stored}
+                          : findCandidates(*displayed.session, displayed.maps.maps()));
+    return displayed;
+}
+
+const Lap *lapReported(const Session &session, int number)
+{
+    const LapList &laps = session.laps();
+    if (number >= 1 && static_cast<std::size_t>(number) <= laps.size())
+        return laps[static_cast<std::size_t>(number) - 1].get();
+    printFileError(session.filePath(),
+                   QStringLiteral("has no lap %1 (laps: %2)").arg(number).arg(laps.size()));
+    return nullptr;
+}
+
+} // namespace zuno::cli

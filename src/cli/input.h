@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <maps/mapfile.h>
+#include <session/session.h>
+
+namespace zuno::cli {
+
+class CommandLine;
+
+/// The session of a file; nothing, and the reason reported, when it gives none.
+[[nodiscard]] std::unique_ptr<Session> openReported(const QString &path);
+
+/// A session as the program displays it: smoothed, given its map, cut into laps.
+struct DisplayedSession
+{
+    MapLibrary maps;
+    std::unique_ptr<Session> session;
+};
+
+/// Adds the options --maps and --map.
+void addMapOptions(CommandLine &line);
+
+/// Opens the file and does what displaying it does, with the maps that the options name. Without
+/// a session the reason has been reported.
+[[nodiscard]] DisplayedSession displayReported(const QString &path, const CommandLine &line);
+
+/// The lap with that number; nullptr, and reported, when the session has none.
+[[nodiscard]] const Lap *lapReported(const Session &session, int number);
+
+} // namespace zuno::cli

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QByteArray>
+
+namespace zuno {
+
+class JsonWriter;
+class Lap;
+class PointAcquisition;
+
+/// How the speed stands in a point object: as a number, or to the nearest km/h.
+enum class SpeedForm { Exact, Rounded };
+
+/// Writes the ten keys of a sample, without the braces, so that more can follow.
+void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedForm speed);
+
+/// The JSON text of one sample as the map page reads it, its speed rounded.
+[[nodiscard]] QByteArray pointPayload(const PointAcquisition &point);
+
+/// The JSON text of a lap as the map page draws it. The first sample stands at the end once more,
+/// so that the line closes; the landmarks are the map's start and timing points in the order of
+/// their names.
+[[nodiscard]] QByteArray lapPayload(const Lap &lap);
+
+} // namespace zuno

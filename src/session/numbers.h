@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QtGlobal>
+
+namespace zuno {
+
+/// @p value truncated toward zero; -2147483648 for NaN and for what a signed 32-bit integer
+/// cannot hold.
+[[nodiscard]] qint32 truncatedToInt(double value);
+
+/// @p value rounded to the nearest integer, halves away from zero; -2147483648 for NaN and for
+/// what a signed 32-bit integer cannot hold.
+[[nodiscard]] qint32 roundedToInt(double value);
+
+/// A time stamp in whole milliseconds from a computed one: truncated toward zero, counted modulo
+/// 2^32 as the logger's counter does; 0 when @p value is not finite.
+[[nodiscard]] quint32 stampFromFloat(float value);
+
+/// a + b and a - b, wrapping around at 32 bits.
+[[nodiscard]] constexpr qint32 wrappedSum(qint32 a, qint32 b)
+{
+    return static_cast<qint32>(static_cast<quint32>(a) + static_cast<quint32>(b));
+}
+[[nodiscard]] constexpr qint32 wrappedDifference(quint32 a, quint32 b)
+{
+    return static_cast<qint32>(a - b);
+}
+
+} // namespace zuno

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <session/session.h>
+
+#include <algorithm>
+
+#include <QFileInfo>
+
+#include <maps/map.h>
+#include <session/laptimes.h>
+#include <session/smoothing.h>
+
+namespace zuno {
+
+Session::Session(QString filePath, QObject *parent)
+    : QObject(parent)
+    , m_filePath(std::move(filePath))
+{
+}
+
+Session::~Session() = default;
+
+QString Session::fileName() const
+{
+    return QFileInfo(m_filePath).fileName();
+}
+
+void Session::fetchSamples() const
+{
+    if (m_fetched)
+        return;
+    m_fetched = true;
+    if (m_sampleSource)
+        m_samples = m_sampleSource();
+}
+
+const Points &Session::samples() const
+{
+    fetchSamples();
+    return m_samples.points;
+}
+
+std::span<const PointAcquisition> Session::wholeSamples() const
+{
+    const std::span<const PointAcquisition> all(samples());
+    return all.first(std::min(all.size(), static_cast<std::size_t>(m_recording.wholeSampleCount)));
+}
+
+const ReadingLists &Session::readingLists() const
+{
+    fetchSamples();
+    return m_samples.lists;
+}
+
+void Session::smooth()
+{
+    if (m_smoothed)
+        return;
+    m_smoothed = true;
+    fetchSamples();
+    smoothSamples(m_samples.points);
+}
+
+StoredText Session::bestLapStored() const
+{
+    if (laps().empty())
+        return m_information.bestLapText;
+    return StoredText(laps()[static_cast<std::size_t>(m_results.bestLap)]->timeText());
+}
+
+StoredText Session::idealTimeStored() const
+{
+    if (laps().empty())
+        return m_information.idealTimeText;
+    return StoredText(timeText(m_results.idealTime));
+}
+
+QList<quint8> Session::invalidLaps() const
+{
+    if (laps().empty())
+        return m_information.invalidLaps;
+    QList<quint8> numbers;
+    for (const auto &lap : laps()) {
+        // A lap's number is stored in a byte; a greater one would throw out another lap.
+        if (!lap->isValid() && lap->lapNumber() <= 255)
+            numbers.append(static_cast<quint8>(lap->lapNumber()));
+    }
+    return numbers;
+}
+
+void Session::setMap(const Map *map)
+{
+    if (map == m_map)
+        return;
+    m_map = map;
+    setCircuitName(map != nullptr ? storableText(map->displayName()) : QString());
+    cutIntoLaps();
+    Q_EMIT mapInfoChanged();
+}
+
+void Session::cutIntoLaps()
+{
+    m_results = zuno::cutIntoLaps(*this);
+}
+
+void Session::rankLaps()
+{
+    zuno::rankLaps(m_results, m_map);
+}
+
+void Session::setLapValid(std::size_t index, bool valid)
+{
+    if (index >= laps().size() || laps()[index]->isValid() == valid)
+        return;
+    laps()[index]->setIsValid(valid);
+    m_information.invalidLaps = invalidLaps();
+    rankLaps();
+}
+
+} // namespace zuno

@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include <QList>
+#include <QObject>
+#include <QString>
+
+#include <session/lapcutter.h>
+#include <session/recording.h>
+#include <session/storedtext.h>
+
+namespace zuno {
+
+class Map;
+
+/// What a rider can say about a session; the information block at the end of its file.
+struct SessionInformation
+{
+    StoredText circuitName;
+    StoredText event;
+    StoredText driver;
+    StoredText bestLapText;
+    StoredText idealTimeText;
+    StoredText vehicle;
+    StoredText condition {QStringLiteral("Dry")};
+    /// Degrees; the file keeps the low byte.
+    qint32 temperature = 20;
+    StoredText tyres;
+    StoredText notes;
+    QList<quint8> invalidLaps;
+};
+
+/// One recording: what its file says, and, once it has a map, the laps cut from it.
+///
+/// The samples are decoded when they are first asked for. A session owns its samples and laps; it
+/// points at its map without owning it. Changing a session never touches its file.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Fetches the samples of a session, with their readings attached.
+    struct Samples
+    {
+        Points points;
+        ReadingLists lists;
+    };
+    using SampleSource = std::function<Samples()>;
+
+    explicit Session(QString filePath, QObject *parent = nullptr);
+    ~Session() override;
+
+    [[nodiscard]] const QString &filePath() const { return m_filePath; }
+    void setFilePath(const QString &path) { m_filePath = path; }
+    /// The last component of the path, with its extension.
+    [[nodiscard]] QString fileName() const;
+
+    /// What the file says around the samples.
+    [[nodiscard]] const Recording &recording() const { return m_recording; }
+    void setRecording(Recording recording) { m_recording = std::move(recording); }
+    void setSampleSource(SampleSource source) { m_sampleSource = std::move(source); }
+
+    /// How many samples the session has; known without decoding them.
+    [[nodiscard]] qint64 sampleCount() const { return m_recording.sampleCount; }
+    /// Every sample, those included that a file cut short holds no bytes for.
+    [[nodiscard]] const Points &samples() const;
+    /// The samples that the file holds whole: the ones to compute with and to show.
+    [[nodiscard]] std::span<const PointAcquisition> wholeSamples() const;
+    [[nodiscard]] const ReadingLists &readingLists() const;
+    /// Runs the smoothing pass; does nothing when it has run before.
+    void smooth();
+
+    /// Whether the session has never been opened for display; the file's byte.
+    [[nodiscard]] quint8 newSession() const { return m_newSession; }
+    void setNewSession(quint8 flag) { m_newSession = flag; }
+
+    [[nodiscard]] const SessionInformation &information() const { return m_information; }
+    void setInformation(SessionInformation information) { m_information = std::move(information); }
+    /// Takes the display name of the map when it is given one.
+    [[nodiscard]] QString circuitName() const { return m_information.circuitName.text(); }
+    [[nodiscard]] QString event() const { return m_information.event.text(); }
+    [[nodiscard]] QString driver() const { return m_information.driver.text(); }
+    [[nodiscard]] QString vehicle() const { return m_information.vehicle.text(); }
+    [[nodiscard]] QString condition() const { return m_information.condition.text(); }
+    [[nodiscard]] qint32 temperature() const { return m_information.temperature; }
+    [[nodiscard]] QString tyres() const { return m_information.tyres.text(); }
+    [[nodiscard]] QString notes() const { return m_information.notes.text(); }
+    void setCircuitName(const QString &text) { m_information.circuitName.set(text); }
+    void setEvent(const QString &text) { m_information.event.set(text); }
+    void setDriver(const QString &text) { m_information.driver.set(text); }
+    void setVehicle(const QString &text) { m_information.vehicle.set(text); }
+    void setCondition(const QString &text) { m_information.condition.set(text); }
+    void setTemperature(qint32 degrees) { m_information.temperature = degrees; }
+    void setTyres(const QString &text) { m_information.tyres.set(text); }
+    void setNotes(const QString &text) { m_information.notes.set(text); }
+    /// Texts of the best lap and of the ideal time: computed while the session has laps,
+    /// otherwise what the file says.
+    [[nodiscard]] QString bestLapText() const { return bestLapStored().text(); }
+    [[nodiscard]] QString idealTimeText() const { return idealTimeStored().text(); }
+    [[nodiscard]] StoredText bestLapStored() const;
+    [[nodiscard]] StoredText idealTimeStored() const;
+    /// The numbers of the laps thrown out: by the laps' flags, without laps as stored.
+    [[nodiscard]] QList<quint8> invalidLaps() const;
+    /// Stores the numbers of laps thrown out; laps that are cut already keep their flags.
+    void setInvalidLaps(const QList<quint8> &numbers) { m_information.invalidLaps = numbers; }
+
+    [[nodiscard]] const Map *map() const { return m_map; }
+    /// Gives the session another map (or none) and cuts it into laps. The same map changes
+    /// nothing.
+    void setMap(const Map *map);
+    /// Cuts the session into laps on its map. Without a map, or with one that has no start point,
+    /// it has no laps.
+    void cutIntoLaps();
+    /// Computes best lap, cumulated times, best sectors and ideal time from the laps' flags.
+    void rankLaps();
+    /// Throws a lap out or takes it back and ranks the laps anew.
+    void setLapValid(std::size_t index, bool valid);
+
+    [[nodiscard]] const LapResults &results() const { return m_results; }
+    [[nodiscard]] const LapList &laps() const { return m_results.laps; }
+
+Q_SIGNALS:
+    void mapInfoChanged();
+
+private:
+    void fetchSamples() const;
+
+    QString m_filePath;
+    Recording m_recording;
+    SessionInformation m_information;
+    LapResults m_results;
+    SampleSource m_sampleSource;
+    // Decoded on first use, which is no change of the session.
+    mutable Samples m_samples;
+    mutable bool m_fetched = false;
+    const Map *m_map = nullptr;
+    quint8 m_newSession = 1;
+    bool m_smoothed = false;
+};
+
+} // namespace zuno

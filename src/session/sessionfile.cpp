@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <session/sessionfile.h>
+
+#include <algorithm>
+#include <bit>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <session/bytereader.h>
+
+namespace zuno {
+
+namespace {
+
+constexpr qint64 SampleSize = 28;
+constexpr qint64 ReadingSize = 12;
+constexpr qint64 WordSize = 4;
+
+// Up to this many missing samples are taken for a recording cut short by a flat battery.
+constexpr qint64 PlausibleCount = 1000;
+
+// Samples are fetched from the file in pieces of this many.
+constexpr qint64 SamplesAtOnce = 2048;
+
+// A sample's block of readings in either list.
+constexpr std::size_t ReadingsPerSample = 10;
+
+constexpr quint8 ListsFollow = 1;
+
+// The samples as the file has them.
+struct SampleExtent
+{
+    qint64 count = 0;
+    qint64 whole = 0;
+};
+
+SessionFileError readVersion(ByteReader &reader, QByteArray &version)
+{
+    if (reader.countedBytes() != "RA1")
+        return SessionFileError::NotASession;
+    version = reader.countedBytes();
+    return version < "1.0.0.0" ? SessionFileError::VersionTooOld : SessionFileError::None;
+}
+
+SampleExtent readExtent(ByteReader &reader)
+{
+    SampleExtent extent;
+    extent.count = std::max(reader.i32(), 0);
+    extent.whole = std::min(extent.count, reader.left() / SampleSize);
+    // A count that nothing in the file supports is damage, not a recording cut short.
+    if (extent.count > PlausibleCount && extent.count * SampleSize > 2 * reader.left())
+        extent.count = extent.whole;
+    return extent;
+}
+
+// A sample cut short reads as zeros from the first number that is not there; less than a number
+// is left over and belongs to what follows.
+void skipSamples(ByteReader &reader, const SampleExtent &extent)
+{
+    reader.skip(extent.whole * SampleSize);
+    if (extent.count > extent.whole)
+        reader.skip(reader.left() / WordSize * WordSize);
+}
+
+double toDouble(const char *bytes)
+{
+    return static_cast<double>(std::bit_cast<float>(qFromLittleEndian<quint32>(bytes)));
+}
+
+void readSample(const char *bytes, PointAcquisition &sample)
+{
+    sample.dataTimeStamp = qFromLittleEndian<quint32>(bytes);
+    sample.dataTimeSec = sample.dataTimeStamp / 1000.0;
+    sample.dataCoordX = toDouble(bytes + 4);
+    sample.dataCoordY = toDouble(bytes + 8);
+    sample.dataSpeed = toDouble(bytes + 12);
+    sample.dataAngle = toDouble(bytes + 16);
+    sample.dataAccelXPH = toDouble(bytes + 20);
+    sample.dataAccelYPH = toDouble(bytes + 24);
+}
+
+// The sample at which the file ends, from the whole numbers that are left of it.
+void readCutSample(ByteReader &reader, PointAcquisition &sample)
+{
+    QByteArray bytes = reader.take(reader.left() / WordSize * WordSize).toByteArray();
+    bytes.resize(SampleSize, '\0');
+    readSample(bytes.constData(), sample);
+}
+
+Points readSamples(ByteReader &reader, const SampleExtent &extent)
+{
+    Points samples(static_cast<std::size_t>(extent.count));
+    std::size_t i = 0;
+    for (qint64 done = 0; done < extent.whole;) {
+        const qint64 piece = std::min(SamplesAtOnce, extent.whole - done);
+        const QByteArrayView bytes = reader.take(piece * SampleSize);
+        if (bytes.size() < piece * SampleSize)
+            break;
+        for (qint64 k = 0; k < piece; ++k)
+            readSample(bytes.data() + (k * SampleSize), samples[i++]);
+        done += piece;
+    }
+    if (i < samples.size() && extent.count > extent.whole)
+        readCutSample(reader, samples[i]);
+    quint32 number = 0;
+    for (PointAcquisition &sample : samples)
+        sample.acquisitionNumber = ++number;
+    return samples;
+}
+
+std::vector<Reading> readReadings(ByteReader &reader)
+{
+    const qint64 count = reader.i32();
+    std::vector<Reading> readings;
+    if (count < 1)
+        return readings;
+    readings.reserve(static_cast<std::size_t>(std::min(count, (reader.left() / ReadingSize) + 2)));
+    for (qint64 i = 0; i < count && reader.left() >= WordSize; ++i) {
+        const qint32 number = reader.i32();
+        readings.push_back({number, static_cast<float>(reader.f64())});
+    }
+    return readings;
+}
+
+// Leaves the reader where readReadings would. Less than a whole reading is left at the end: each
+// number of it reads as a reading of its own.
+void skipReadings(ByteReader &reader)
+{
+    const qint64 count = reader.i32();
+    if (count < 1)
+        return;
+    const qint64 whole = std::min(count, reader.left() / ReadingSize);
+    reader.skip(whole * ReadingSize);
+    reader.skip(std::min(count - whole, reader.left() / WordSize) * WordSize);
+}
+
+void skipWords(ByteReader &reader, quint32 count)
+{
+    reader.skip(std::min<qint64>(count, reader.left() / WordSize) * WordSize);
+}
+
+using AddReadings = void (PointAcquisition::*)(const Reading *, std::size_t);
+
+// A sample gets its block whole or not at all, and only when the list goes on after it: a block
+// that ends the list may have been cut short.
+void attachReadings(Points &samples, const std::vector<Reading> &list, AddReadings add)
+{
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const std::size_t begin = ReadingsPerSample * i;
+        if (list.size() <= begin + ReadingsPerSample)
+            return;
+        (samples[i].*add)(&list[begin], ReadingsPerSample);
+    }
+}
+
+StoredText readStored(ByteReader &reader)
+{
+    return StoredText::fromFile(reader.countedBytes());
+}
+
+QString readText(ByteReader &reader)
+{
+    return QString::fromLocal8Bit(reader.countedBytes());
+}
+
+// The block's first byte, the length of the circuit's name, has been read when it stands in the
+// place of the lists' flag.
+SessionInformation readInformation(ByteReader &reader, quint8 listsFlag)
+{
+    SessionInformation information;
+    information.circuitName = listsFlag == ListsFollow
+                                  ? readStored(reader)
+                                  : StoredText::fromFile(reader.bytes(listsFlag));
+    information.event = readStored(reader);
+    information.driver = readStored(reader);
+    information.bestLapText = readStored(reader);
+    information.idealTimeText = readStored(reader);
+    information.vehicle = readStored(reader);
+    information.condition = readStored(reader);
+    information.temperature = reader.u8();
+    information.tyres = readStored(reader);
+    information.notes = readStored(reader);
+    const int invalidCount = reader.u8();
+    for (int i = 0; i < invalidCount && !reader.atEnd(); ++i)
+        information.invalidLaps.append(reader.u8());
+    return information;
+}
+
+// What stands between the samples and the lists.
+struct Header
+{
+    SessionLayout layout;
+    quint8 newSession = 0;
+    bool hasFlags = false;
+};
+
+Header readHeader(ByteReader &reader, Recording &recording)
+{
+    Header header;
+    recording.words = reader.u32();
+    skipWords(reader, recording.words);
+    recording.date = readText(reader);
+    recording.reservedByte = reader.u8();
+    recording.time = readText(reader);
+    recording.reservedDouble = reader.f64();
+    header.layout.newSessionAt = reader.position();
+    header.newSession = reader.u8();
+    header.layout.listsFlagAt = reader.position();
+    header.hasFlags = !reader.atEnd();
+    recording.listsFlag = reader.u8();
+    return header;
+}
+
+void skipLists(ByteReader &reader, const Recording &recording)
+{
+    if (recording.listsFlag != ListsFollow)
+        return;
+    skipReadings(reader);
+    skipReadings(reader);
+}
+
+// Reads everything around the samples into the session.
+SessionFileError describeSession(ByteReader &reader, Session &session)
+{
+    Recording recording;
+    if (const auto error = readVersion(reader, recording.version); error != SessionFileError::None)
+        return error;
+    const SampleExtent extent = readExtent(reader);
+    recording.sampleCount = extent.count;
+    recording.wholeSampleCount = extent.whole;
+    skipSamples(reader, extent);
+    session.setNewSession(readHeader(reader, recording).newSession);
+    skipLists(reader, recording);
+    if (!reader.atEnd())
+        session.setInformation(readInformation(reader, recording.listsFlag));
+    session.setRecording(std::move(recording));
+    return SessionFileError::None;
+}
+
+Session::Samples fetchSamples(ByteReader &reader)
+{
+    Session::Samples fetched;
+    QByteArray version;
+    if (readVersion(reader, version) != SessionFileError::None)
+        return fetched;
+    fetched.points = readSamples(reader, readExtent(reader));
+    Recording recording;
+    readHeader(reader, recording);
+    if (recording.listsFlag == ListsFollow) {
+        fetched.lists.list1 = readReadings(reader);
+        fetched.lists.list2 = readReadings(reader);
+        attachReadings(fetched.points, fetched.lists.list1, &PointAcquisition::addSuspension1);
+        attachReadings(fetched.points, fetched.lists.list2, &PointAcquisition::addSuspension2);
+    }
+    return fetched;
+}
+
+Session::Samples fetchSamplesFrom(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    ByteReader reader(file);
+    return fetchSamples(reader);
+}
+
+OpenedSession openWith(ByteReader &reader, const QString &path)
+{
+    OpenedSession opened;
+    auto session = std::make_unique<Session>(path);
+    opened.error = describeSession(reader, *session);
+    if (opened.error == SessionFileError::None)
+        opened.session = std::move(session);
+    return opened;
+}
+
+} // namespace
+
+QString describe(SessionFileError error)
+{
+    switch (error) {
+    case SessionFileError::Unreadable:
+        return QCoreApplication::translate("SessionFile", "cannot be read");
+    case SessionFileError::NotASession:
+        return QCoreApplication::translate("SessionFile", "is no session file");
+    case SessionFileError::VersionTooOld:
+        return QCoreApplication::translate("SessionFile", "has a format that is too old");
+    case SessionFileError::None:
+        break;
+    }
+    return {};
+}
+
+OpenedSession openSession(const QString &path)
+{
+    QFile file(path);
+    // Only regular files: opening a pipe would wait for somebody to write to it.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return {nullptr, SessionFileError::Unreadable};
+    ByteReader reader(file);
+    OpenedSession opened = openWith(reader, path);
+    if (Session *session = opened.session.get())
+        session->setSampleSource([session] { return fetchSamplesFrom(session->filePath()); });
+    return opened;
+}
+
+OpenedSession decodeSession(const QByteArray &bytes, const QString &path)
+{
+    ByteReader reader(bytes);
+    OpenedSession opened = openWith(reader, path);
+    if (opened.session) {
+        opened.session->setSampleSource([bytes] {
+            ByteReader again(bytes);
+            return fetchSamples(again);
+        });
+    }
+    return opened;
+}
+
+SessionFileError findLayout(ByteReader &reader, SessionLayout &layout, bool &hasFlags)
+{
+    Recording recording;
+    if (const auto error = readVersion(reader, recording.version); error != SessionFileError::None)
+        return error;
+    skipSamples(reader, readExtent(reader));
+    const Header header = readHeader(reader, recording);
+    skipLists(reader, recording);
+    layout = header.layout;
+    layout.informationAt
+        = recording.listsFlag == ListsFollow ? reader.position() : layout.listsFlagAt;
+    hasFlags = header.hasFlags;
+    return SessionFileError::None;
+}
+
+} // namespace zuno

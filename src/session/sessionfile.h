@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QByteArray>
+#include <QString>
+
+#include <session/session.h>
+
+namespace zuno {
+
+class ByteReader;
+
+/// Why a file gave no session.
+enum class SessionFileError {
+    None,
+    /// The file cannot be opened or is no regular file.
+    Unreadable,
+    /// The file does not begin as a recording does.
+    NotASession,
+    /// A recording of a format version before "1.0.0.0".
+    VersionTooOld,
+};
+
+/// A session, or why there is none.
+struct OpenedSession
+{
+    std::unique_ptr<Session> session;
+    SessionFileError error = SessionFileError::None;
+};
+
+/// @p error in words, without the file's name.
+[[nodiscard]] QString describe(SessionFileError error);
+
+/// Opens the session file at @p path by its descriptive data alone: what stands before and after
+/// the samples. The samples are read from the file when they are first asked for; when it is
+/// gone or no session any more by then, there are none.
+///
+/// A file that was cut short or damaged gives a session with fewer or zeroed samples; whatever
+/// begins after its end reads as 0 or as an empty text.
+[[nodiscard]] OpenedSession openSession(const QString &path);
+
+/// Decodes a session whose bytes are in memory, samples included.
+[[nodiscard]] OpenedSession decodeSession(const QByteArray &bytes, const QString &path);
+
+/// Where the parts of a session file stand, for the rewriting of its information block.
+struct SessionLayout
+{
+    qint64 newSessionAt = 0;
+    qint64 listsFlagAt = 0;
+    /// Where the information block begins. Without lists it begins at their flag: its first byte
+    /// takes the flag's place.
+    qint64 informationAt = 0;
+};
+
+/// Finds the parts of the session file that @p reader stands at the start of. @p layout is set
+/// when there is no error and both flags are there; @p hasFlags tells.
+[[nodiscard]] SessionFileError findLayout(ByteReader &reader, SessionLayout &layout,
+                                          bool &hasFlags);
+
+} // namespace zuno

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include <QGeoCoordinate>
+
+#include <session/pointacquisition.h>
+
+namespace zuno {
+
+/// Where a sample was taken; an invalid coordinate for a sample without a position.
+[[nodiscard]] QGeoCoordinate positionOf(const PointAcquisition &point);
+
+/// The positions of consecutive samples, computed once.
+class Trace
+{
+public:
+    static constexpr std::size_t None = static_cast<std::size_t>(-1);
+
+    explicit Trace(std::span<const PointAcquisition> points);
+
+    [[nodiscard]] const QGeoCoordinate &at(std::size_t i) const { return m_positions[i]; }
+    /// The next sample after @p i that has a position; None when there is none.
+    [[nodiscard]] std::size_t next(std::size_t i) const;
+
+private:
+    std::vector<QGeoCoordinate> m_positions;
+};
+
+/// A circle around a point on the track: the start/finish line or a sector's end.
+class Gate
+{
+public:
+    /// @p radius in metres.
+    Gate(QGeoCoordinate centre, double radius);
+
+    [[nodiscard]] const QGeoCoordinate &centre() const { return m_centre; }
+    /// Whether sample @p i is the closest of a pass: it lies inside the circle and the next sample
+    /// with a position lies farther away. A sample without a position never is.
+    [[nodiscard]] bool isCrossedAt(const Trace &trace, std::size_t i) const;
+
+private:
+    QGeoCoordinate m_centre;
+    double m_radius = 0.0;
+    double m_latitudeReach = 0.0;
+};
+
+/// The point between @p p1 and @p p2 at which @p centre projects onto their segment: a copy of
+/// @p p1 with the interpolated position and time stamp, and the whole seconds of @p p1.
+[[nodiscard]] PointAcquisition crossingPoint(const PointAcquisition &p1, const PointAcquisition &p2,
+                                             const QGeoCoordinate &centre);
+
+} // namespace zuno
