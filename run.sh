@@ -59,7 +59,8 @@ work=$(mktemp -d)
 pids=()
 # shellcheck disable=SC2317 # the trap calls it
 finish() {
-    kill "${pids[@]}" 2>/dev/null || true
+    kill -KILL "${pids[@]:1}" 2>/dev/null || true
+    kill "${pids[0]:-}" 2>/dev/null || true
     wait
     rm -rf "$work"
 }
@@ -82,7 +83,7 @@ Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" >"$work
 pids+=($!)
 try test -s "$work/display" || die "The virtual display did not start:"
 DISPLAY=:$(<"$work/display")
-export DISPLAY QT_QPA_PLATFORM=xcb
+export DISPLAY QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$work}
 unset XAUTHORITY
 
 (cd "$OLDPWD" && exec "$build/bin/zunoanalyzer" "$@") >"$work/log" 2>&1 &
@@ -103,9 +104,14 @@ fi
 mv "$work/now.png" "$build/zunoanalyzer.png"
 
 # Ended by SIGTERM is fine (143), also when the program handles it itself (0); a crash is not.
-kill "${pids[-1]}" || die "The program ended by itself. It said:"
+program=${pids[-1]}
+kill "$program" || die "The program ended by itself. It said:"
+for ((tries = 0; tries < 80; ++tries)); do
+    kill -0 "$program" 2>/dev/null || break
+    sleep 0.25
+done
+! kill -KILL "$program" 2>/dev/null || die "The program would not end. It said:"
 status=0
-wait "${pids[-1]}" || status=$?
+wait "$program" || status=$?
 ((status == 0 || status == 143)) || die "The program ended with status $status. It said:"
-unset 'pids[-1]'
 echo "The window works. A picture of it: $build/zunoanalyzer.png"

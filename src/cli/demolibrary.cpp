@@ -4,10 +4,10 @@
 #include <cli/demolibrary.h>
 
 #include <algorithm>
-#include <cmath>
+#include <optional>
 
+#include <QDateTime>
 #include <QDir>
-#include <QTime>
 #include <QTimeZone>
 
 #include <cli/democircuit.h>
@@ -44,22 +44,55 @@ enum Special {
     NoCircuitName = 16,
 };
 
-/// A row of the fixed demo.
+/// An outing of the demo.
 struct DemoSession
 {
-    QString folder;
-    QDateTime begin;
+    QStringView folder;
+    QStringView begin; ///< ISO date and time in UTC, so that no time zone of a machine has a say
     int circuit = 0; ///< or OnTheHillRoad
     RiderIndex rider = Laura;
     int laps = 0;
     double grip = 1;
-    QString condition;
+    QStringView condition;
     int temperature = 20;
-    QString tyres;
-    QString event;
-    QString notes;
-    QList<int> invalidLaps = {};
+    QStringView tyres;
+    QStringView event;
+    QStringView notes;
+    int invalidLap = 0; ///< as the program counts, the out lap being lap 1; 0: none
     int special = Plain; ///< of Special
+};
+
+constexpr QStringView ByLaura = u"ZUNO Laura (00.1B.DC.0F.52.A1)";
+constexpr QStringView ByLauraInSpring = u"ZUNO Laura (00.1B.DC.0F.52.A1)/Heide Fr\u00FChling";
+constexpr QStringView ByJonas = u"ZUNO Jonas (00.1B.DC.0F.53.07)";
+constexpr QStringView Imported = u"Imported Sessions";
+
+constexpr DemoSession FixedDemo[] = {
+    {ByLaura, u"2026-04-18T10:12:30Z", 0, Laura, 5, 1, u"Dry", 24, u"Slick soft", u"Season opening",
+     u"First outing of the year. Fork two clicks softer than last autumn.", 0, Suspension},
+    {ByLaura, u"2026-04-18T14:05:02Z", 0, Laura, 7, 1.02, u"Dry", 33, u"Slick soft",
+     u"Season opening", u"Lap 5 struck out for track limits. Everything else felt easy.", 5},
+    {ByJonas, u"2026-04-18T11:20:47Z", 0, Jonas, 6, 1, u"Dry", 27, u"Sport 120/70 180/55",
+     u"Season opening", u"Late on the throttle out of the second corner.\nTry a shorter gear."},
+    {ByJonas, u"2026-04-19T09:41:15Z", 0, Jonas, 5, 0.84, u"Damp", 14, u"Sport 120/70 180/55",
+     u"Season opening", u"Damp patches under the trees until ten o'clock."},
+    {ByLauraInSpring, u"2026-05-23T10:30:08Z", 1, Laura, 4, 0.9, u"Mixte", 19, u"Slick medium",
+     u"Heath track days", u"Drying line, still wet before the last corner."},
+    {ByLauraInSpring, u"2026-05-23T15:11:54Z", 1, Laura, 6, 1, u"Dry", 38, u"Slick medium",
+     u"Heath track days", u"Rear spring one step harder, holds the line better.", 0, Suspension},
+    {ByJonas, u"2026-05-24T09:18:20Z", 1, Jonas, 5, 0.72, u"Wet", 13, u"Rain", u"Heath track days",
+     u"Rain all morning. Position lost for some seconds in lap 4.", 0, LostFix},
+    {Imported, u"2026-05-24T14:33:41Z", 1, Pieter, 5, 1, u"Dry", 99, u"Slick soft",
+     u"Heath track days", u"Received from Pieter for comparison."},
+    {ByJonas, u"2026-06-06T08:15:00Z", OnTheHillRoad, Jonas, 0, 1, u"Dry", 18,
+     u"Sport 120/70 180/55", u"Ride in the hills", u"No circuit, only the way home."},
+    {Imported, u"2026-07-11T10:02:33Z", 2, Pieter, 9, 1, u"Dry", 19, u"Slick soft",
+     u"Winter escape", u"Long run on one set of tyres.", 0, NoCircuitName},
+    {Imported, u"2026-07-11T13:45:10Z", 2, Pieter, 6, 0.98, u"", 20, u"", u"", u"", 0, NoBlock},
+    {ByLaura, u"2026-07-12T09:27:05Z", 2, Laura, 8, 1, u"Dry", 20, u"", u"", u"", 0,
+     Suspension | NeverOpened},
+    {ByLaura, u"2026-07-12T15:50:26Z", 2, Laura, 7, 1.02, u"Dry", 26, u"Slick soft",
+     u"Winter escape", u"Best feeling of the trip. Braking point at the first corner 10 m later."},
 };
 
 [[nodiscard]] const QList<Rider> &riders()
@@ -78,123 +111,6 @@ struct DemoSession
     return all;
 }
 
-/// In UTC, so that no time zone of the machine has a say.
-[[nodiscard]] QDateTime moment(int month, int day, int hour, int minute, int second)
-{
-    return {QDate(2026, month, day), QTime(hour, minute, second), QTimeZone::utc()};
-}
-
-[[nodiscard]] QList<DemoSession> demoSessions()
-{
-    const QString laura = QStringLiteral("ZUNO Laura (00.1B.DC.0F.52.A1)");
-    const QString spring = laura + QStringLiteral("/Heide Fr\u00FChling");
-    const QString jonas = QStringLiteral("ZUNO Jonas (00.1B.DC.0F.53.07)");
-    const QString imported = QStringLiteral("Imported Sessions");
-    const QString dry = QStringLiteral("Dry");
-    const QString damp = QStringLiteral("Damp");
-    const QString wet = QStringLiteral("Wet");
-    const QString mixed = QStringLiteral("Mixte");
-    const QString opening = QStringLiteral("Season opening");
-    const QString heath = QStringLiteral("Heath track days");
-    const QString winter = QStringLiteral("Winter escape");
-    const QString soft = QStringLiteral("Slick soft");
-    const QString medium = QStringLiteral("Slick medium");
-    const QString sport = QStringLiteral("Sport 120/70 180/55");
-    const QString rain = QStringLiteral("Rain");
-    return {
-        {laura,
-         moment(4, 18, 10, 12, 30),
-         0,
-         Laura,
-         5,
-         1,
-         dry,
-         24,
-         soft,
-         opening,
-         QStringLiteral("First outing of the year. Fork two clicks softer than last autumn."),
-         {},
-         Suspension},
-        {laura,
-         moment(4, 18, 14, 5, 2),
-         0,
-         Laura,
-         7,
-         1.02,
-         dry,
-         33,
-         soft,
-         opening,
-         QStringLiteral("Lap 5 struck out for track limits. Everything else felt easy."),
-         {5}},
-        {jonas, moment(4, 18, 11, 20, 47), 0, Jonas, 6, 1, dry, 27, sport, opening,
-         QStringLiteral("Late on the throttle out of the second corner.\nTry a shorter gear.")},
-        {jonas, moment(4, 19, 9, 41, 15), 0, Jonas, 5, 0.84, damp, 14, sport, opening,
-         QStringLiteral("Damp patches under the trees until ten o'clock.")},
-        {spring, moment(5, 23, 10, 30, 8), 1, Laura, 4, 0.9, mixed, 19, medium, heath,
-         QStringLiteral("Drying line, still wet before the last corner.")},
-        {spring,
-         moment(5, 23, 15, 11, 54),
-         1,
-         Laura,
-         6,
-         1,
-         dry,
-         38,
-         medium,
-         heath,
-         QStringLiteral("Rear spring one step harder, holds the line better."),
-         {},
-         Suspension},
-        {jonas,
-         moment(5, 24, 9, 18, 20),
-         1,
-         Jonas,
-         5,
-         0.72,
-         wet,
-         13,
-         rain,
-         heath,
-         QStringLiteral("Rain all morning. Position lost for some seconds in lap 4."),
-         {},
-         LostFix},
-        {imported, moment(5, 24, 14, 33, 41), 1, Pieter, 5, 1, dry, 99, soft, heath,
-         QStringLiteral("Received from Pieter for comparison.")},
-        {jonas, moment(6, 6, 8, 15, 0), OnTheHillRoad, Jonas, 0, 1, dry, 18, sport,
-         QStringLiteral("Ride in the hills"), QStringLiteral("No circuit, only the way home.")},
-        {imported,
-         moment(7, 11, 10, 2, 33),
-         2,
-         Pieter,
-         9,
-         1,
-         dry,
-         19,
-         soft,
-         winter,
-         QStringLiteral("Long run on one set of tyres."),
-         {},
-         NoCircuitName},
-        {imported, moment(7, 11, 13, 45, 10), 2, Pieter, 6, 0.98, {}, 20, {}, {}, {}, {}, NoBlock},
-        {laura,
-         moment(7, 12, 9, 27, 5),
-         2,
-         Laura,
-         8,
-         1,
-         dry,
-         20,
-         {},
-         {},
-         {},
-         {},
-         Suspension | NeverOpened},
-        {laura, moment(7, 12, 15, 50, 26), 2, Laura, 7, 1.02, dry, 26, soft, winter,
-         QStringLiteral("Best feeling of the trip. Braking point at the first corner 10 m later.")},
-    };
-}
-
 /// "2026-04-18 10h12 Valmora.ra1"
 [[nodiscard]] QString fileName(const QDateTime &begin, const QString &place)
 {
@@ -206,7 +122,7 @@ struct DemoSession
     return QTime::fromMSecsSinceStartOfDay(milliseconds).toString(u"mm:ss.zzz");
 }
 
-[[nodiscard]] QString bestLap(const Ride &ride, const QList<int> &invalidLaps)
+[[nodiscard]] QString bestLap(const Ride &ride, int invalidLap)
 {
     int best = 0;
     for (qsizetype i = 0; i < ride.sectorTimes.size(); ++i) {
@@ -214,17 +130,17 @@ struct DemoSession
         for (const int sector : ride.sectorTimes[i])
             time += sector;
         // Lap 1 of a recording is the out lap.
-        if (!invalidLaps.contains(i + 2) && (best == 0 || time < best))
+        if (i + 2 != invalidLap && (best == 0 || time < best))
             best = time;
     }
     return best == 0 ? QString() : timeText(best);
 }
 
-[[nodiscard]] QString idealTime(const Ride &ride, const QList<int> &invalidLaps)
+[[nodiscard]] QString idealTime(const Ride &ride, int invalidLap)
 {
     QList<int> best;
     for (qsizetype i = 0; i < ride.sectorTimes.size(); ++i) {
-        if (invalidLaps.contains(i + 2))
+        if (i + 2 == invalidLap)
             continue;
         const QList<int> &times = ride.sectorTimes[i];
         if (best.isEmpty())
@@ -250,17 +166,18 @@ struct DemoSession
     Information information;
     information.driver = rider.name;
     information.vehicle = rider.vehicle;
-    information.condition = session.condition;
+    information.condition = session.condition.toString();
     information.temperature = session.temperature;
-    information.tyres = session.tyres;
-    information.event = session.event;
-    information.notes = session.notes;
-    information.invalidLaps = session.invalidLaps;
+    information.tyres = session.tyres.toString();
+    information.event = session.event.toString();
+    information.notes = session.notes.toString();
+    if (session.invalidLap > 0)
+        information.invalidLaps.append(session.invalidLap);
     if (!(session.special & NoCircuitName))
         information.circuit = placeName(session);
     if (!(session.special & NeverOpened)) { // the program fills these in when it shows a session
-        information.bestLap = bestLap(ride, session.invalidLaps);
-        information.idealTime = idealTime(ride, session.invalidLaps);
+        information.bestLap = bestLap(ride, session.invalidLap);
+        information.idealTime = idealTime(ride, session.invalidLap);
     }
     return information;
 }
@@ -321,17 +238,34 @@ void writeMaps(Library &library)
 void writeFixedDemo(Library &library)
 {
     quint64 seed = 2026;
-    for (const DemoSession &session : demoSessions()) {
+    for (const DemoSession &session : FixedDemo) {
         if (!library.ok())
             return;
         const Ride ridden = ride(session, seed += 100);
         std::optional<Information> information;
         if (!(session.special & NoBlock))
             information = describe(session, ridden);
-        const QString name = session.folder + u'/' + fileName(session.begin, placeName(session));
+        const QDateTime begin = QDateTime::fromString(session.begin.toString(), Qt::ISODate);
+        const QString name = session.folder.toString() + u'/' + fileName(begin, placeName(session));
         const bool neverOpened = (session.special & NeverOpened) != 0;
-        library.addSession(name, encodeSession(ridden, session.begin, neverOpened, information));
+        library.addSession(name, encodeSession(ridden, begin, neverOpened, information));
     }
+}
+
+/// Cuts the end off a ride: the samples and the laps that are not ridden to their end any more.
+void shorten(Ride &ride, int samples)
+{
+    ride.samples.resize(static_cast<std::size_t>(samples));
+    int clock = ride.outLapTime;
+    qsizetype laps = 0;
+    while (laps < ride.sectorTimes.size()) {
+        for (const int sector : ride.sectorTimes[laps])
+            clock += sector;
+        if (clock > (samples - 1) * 100)
+            break;
+        ++laps;
+    }
+    ride.sectorTimes.resize(laps);
 }
 
 /// A handful of rides on every circuit, cut to the same number of samples.
@@ -344,7 +278,7 @@ void writeFixedDemo(Library &library)
         const double lap = circuits()[session.circuit].path().length();
         longer.laps = 1 + static_cast<int>(samples * 0.1 * 60 / lap);
         Ride ridden = ride(longer, 7000 + 100 * static_cast<quint64>(rides.size()));
-        ridden.samples.resize(static_cast<std::size_t>(samples));
+        shorten(ridden, samples);
         rides.append(ridden);
     }
     return rides;
@@ -357,9 +291,9 @@ void writeLargeLibrary(Library &library, int count, int samples)
     for (int i = 0; i < 6; ++i) {
         DemoSession session;
         session.circuit = i % 3;
-        session.rider = static_cast<RiderIndex>(i % 2 == 0 ? i / 2 : 2 - i / 2);
-        session.condition = QStringLiteral("Dry");
-        session.event = QStringLiteral("Track day");
+        session.rider = static_cast<RiderIndex>(i / 2);
+        session.condition = u"Dry";
+        session.event = u"Track day";
         sessions.append(session);
     }
     const QList<Ride> rides = longRides(sessions, samples);

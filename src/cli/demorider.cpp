@@ -314,6 +314,7 @@ Ride rideCircuit(const Circuit &circuit, const Machine &machine, const Outing &o
 
     Ride ride;
     ride.samples = record(way, motion, circuit.origin, outing.seed + 4);
+    ride.outLapTime = static_cast<int>(std::lround(passingTime(way, motion, lapLength)));
     ride.sectorTimes = timeSectors(way, motion, circuit, outing.laps);
     if (outing.suspension)
         recordSuspension(ride, way, motion);

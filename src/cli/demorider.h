@@ -44,13 +44,14 @@ struct Outing
     quint64 seed = 0;
 };
 
-/// A recorded outing. The lists of sectors hold one entry per lap from line to line, in ms.
+/// A recorded outing.
 struct Ride
 {
     std::vector<Sample> samples; ///< ten a second
     std::vector<double> front; ///< suspension in mm, ten readings a sample and one more
     std::vector<double> rear;
-    QList<QList<int>> sectorTimes;
+    int outLapTime = 0; ///< ms until the line is first crossed
+    QList<QList<int>> sectorTimes; ///< of each lap from line to line, in ms
 };
 
 /// Samples without a fix carry this in both coordinates: the largest single-precision value.

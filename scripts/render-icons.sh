@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# Draws the icons of Resources/ and darkstyle/ anew from their SVG sources, in the formats that the
+# program ships. The results are committed, so that neither a build nor the program needs a
+# renderer; run this after a change to a source, and commit both.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+if (($#)); then
+    echo "usage: scripts/render-icons.sh" >&2
+    exit 2
+fi
+# The tool, and the Debian package that has it.
+declare -A needed=([rsvg-convert]=librsvg2-bin [icotool]=icoutils)
+missing=()
+for tool in "${!needed[@]}"; do
+    command -v "$tool" >/dev/null || missing+=("${needed[$tool]}")
+done
+if ((${#missing[@]})); then
+    echo "This needs what Debian calls: ${missing[*]}" >&2
+    exit 1
+fi
+
+scratch=$(mktemp -d "${TMPDIR:-/tmp}/render-icons.XXXXXX")
+trap 'rm -rf "$scratch"' EXIT
+
+# At the size the source states, at its double and at its triple: the names by which Qt finds the
+# picture that fits the screen.
+png() { # png SOURCE TARGET
+    rsvg-convert --zoom 1 "$1" -o "$2.png"
+    rsvg-convert --zoom 2 "$1" -o "$2@2x.png"
+    rsvg-convert --zoom 3 "$1" -o "$2@3x.png"
+}
+
+# An .ico of pictures drawn at each of the sizes; 256 is stored compressed, as readers expect it.
+ico() { # ico TARGET SOURCE:SIZE...
+    local target=$1 entry pictures=()
+    shift
+    for entry in "$@"; do
+        local picture="$scratch/${entry##*:}.png"
+        rsvg-convert --width "${entry##*:}" --height "${entry##*:}" "${entry%:*}" -o "$picture"
+        if [[ ${entry##*:} == 256 ]]; then
+            pictures+=("--raw=$picture")
+        else
+            pictures+=("$picture")
+        fi
+    done
+    icotool --create --output="$target" "${pictures[@]}"
+}
+
+for source in darkstyle/svg/*.svg; do
+    name=${source##*/}
+    png "$source" "darkstyle/${name%.svg}"
+done
+
+for source in Resources/svg/*.svg; do
+    name=${source##*/}
+    case $name in
+    logo*.svg | newfolder.svg | norvale.svg) ;;
+    *) png "$source" "Resources/${name%.svg}" ;;
+    esac
+done
+png Resources/svg/norvale.svg Resources/Logo_blanc_Norvale_2020
+
+folder=Resources/svg/newfolder.svg
+ico Resources/newfolder.ico $folder:{16,20,24,32,40,48,64,72}
+
+# The racing line is lost in a few pixels; the small sizes have a plainer drawing.
+small=Resources/svg/logo-small.svg
+large=Resources/svg/logo.svg
+ico Resources/Logos/logo.ico $small:{16,20,24,32} $large:{40,48,64,128,256}
+rsvg-convert --width 256 --height 256 $large -o Resources/logo.png

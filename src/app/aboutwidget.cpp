@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <app/aboutwidget.h>
+
+#include <QIcon>
+#include <QPixmap>
+
+#include <app/makerlinks.h>
+#include <app/settings.h>
+
+#include "ui_aboutwidget.h"
+
+namespace zuno {
+
+namespace {
+
+constexpr int LogoWidth = 300;
+
+} // namespace
+
+AboutWidget::AboutWidget(const Settings &settings, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::AboutWidget>())
+{
+    m_ui->setupUi(this);
+    setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
+    showLogo();
+    m_ui->lb_webSite->setText(webSiteLink(settings.value(Setting::Language).toString()));
+    m_ui->lb_mail->setText(mailLink());
+    connect(m_ui->pb_close, &QPushButton::clicked, this, &QDialog::accept);
+    // The links come first in the tab order; a rider who only looks closes with Enter.
+    m_ui->pb_close->setFocus();
+}
+
+AboutWidget::~AboutWidget() = default;
+
+void AboutWidget::showLogo()
+{
+    QPixmap logo(QStringLiteral(":/Resources/Logo_blanc_Norvale_2020.png"));
+    m_ui->lb_logo->setVisible(!logo.isNull());
+    if (logo.isNull())
+        return;
+    const int width = qRound(LogoWidth * devicePixelRatioF());
+    if (logo.width() > width)
+        logo = logo.scaledToWidth(width, Qt::SmoothTransformation);
+    logo.setDevicePixelRatio(devicePixelRatioF());
+    m_ui->lb_logo->setPixmap(logo);
+}
+
+} // namespace zuno

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QString>
+
+#include <session/session.h>
+
+namespace zuno {
+
+/// The sessions of the acquisition folder, in the order in which they were loaded. Owns them.
+///
+/// Files that give no session, or one without samples, are left out and named in the log.
+class AcquisitionLibrary : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// A session file's ending; case matters.
+    static constexpr QLatin1String Suffix{".ra1"};
+
+    explicit AcquisitionLibrary(QObject *parent = nullptr);
+    ~AcquisitionLibrary() override;
+
+    /// Loads every session file below @p folder that is not loaded yet.
+    void load(const QString &folder);
+    /// Loads one file and appends its session; nullptr, and a message in the log that begins with
+    /// @p caller, when it gives none. A file that is loaded already gives its session.
+    Session *add(const QString &path, const char *caller);
+    /// Drops a session.
+    void remove(Session *session);
+    /// Drops every session at @p path or below it.
+    void removeAt(const QString &path);
+    /// Tells the sessions at @p from, or below it, that their files stand at @p to now.
+    void movePath(const QString &from, const QString &to);
+    /// Lets go of every session and loads them again.
+    void reload(const QString &folder);
+
+    [[nodiscard]] QList<Session *> sessions() const;
+    [[nodiscard]] qsizetype size() const { return static_cast<qsizetype>(m_sessions.size()); }
+    [[nodiscard]] Session *at(qsizetype index) const;
+    /// The position of the first session with that file path; -1 without one.
+    [[nodiscard]] qsizetype indexOf(const QString &path) const;
+    [[nodiscard]] qsizetype indexOf(const Session *session) const;
+    [[nodiscard]] Session *find(const QString &path) const { return at(indexOf(path)); }
+
+    /// For each file name whether its session has never been opened; the last of several sessions
+    /// of a name counts.
+    [[nodiscard]] QMap<QString, bool> viewedStateMap() const;
+
+Q_SIGNALS:
+    /// Sent while the session still stands, so that views can let go of it.
+    void sessionAboutToBeRemoved(zuno::Session *session);
+    /// Sessions came or went.
+    void sessionsChanged();
+
+private:
+    Session *append(const QString &path, const char *caller);
+
+    std::vector<std::unique_ptr<Session>> m_sessions;
+};
+
+} // namespace zuno

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include <app/settings.h>
+
+namespace zuno {
+
+namespace Ui {
+class ConfigurationWidget;
+}
+
+/// What the laps table and the map show. The dialog writes nothing by itself: whoever opened it
+/// stores its values once it is accepted.
+class ConfigurationWidget final : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit ConfigurationWidget(const Settings &settings, QWidget *parent = nullptr);
+    ~ConfigurationWidget() override;
+
+    /// Writes the state of every check box, changed or not.
+    void storeValues() const;
+
+private:
+    std::unique_ptr<Ui::ConfigurationWidget> m_ui;
+    Settings m_settings;
+};
+
+} // namespace zuno

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QApplication>
+
+#include <app/darkstyle.h>
+#include <app/logfile.h>
+#include <app/zunoanalyzer.h>
+
+int main(int argc, char *argv[])
+{
+    zuno::startLog();
+    const QApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QApplication::setStyle(new zuno::DarkStyle);
+    zuno::ZunoAnalyzer window;
+    window.showMaximized();
+    return QApplication::exec();
+}

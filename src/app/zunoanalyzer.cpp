@@ -1,0 +1,408 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <app/zunoanalyzer.h>
+
+#include "ui_zunoanalyzer.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLibraryInfo>
+#include <QSplitter>
+#include <QUrl>
+
+#include <app/aboutwidget.h>
+#include <app/configurationwidget.h>
+#include <app/librarytree.h>
+#include <app/makerlinks.h>
+#include <app/upgradepass.h>
+#include <maps/map.h>
+#include <maps/mapswidget.h>
+#include <session/laptimes.h>
+#include <session/numbers.h>
+#include <views/lapsview.h>
+
+namespace zuno {
+
+namespace {
+
+const QString VerticalHandle = QStringLiteral(
+    "QSplitter::handle { image: url(:/Resources/split_v.png); }"
+    "QSplitter::handle:vertical { height: 8px;}");
+const QString HorizontalHandle = QStringLiteral(
+    "QSplitter::handle { image: url(:/Resources/split_h.png); }"
+    "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }");
+const QString TabHandle = QStringLiteral(
+    "QSplitter::handle { image: url(:/Resources/split_v.png); }"
+    "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }");
+
+constexpr std::array SplitterSettings{Setting::Splitter0Sizes, Setting::Splitter1Sizes,
+                                      Setting::Splitter2Sizes, Setting::Splitter3Sizes};
+
+constexpr int MessageTime = 10000;
+
+} // namespace
+
+ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
+    : QMainWindow(parent), m_ui(std::make_unique<Ui::ZunoAnalyzer>()),
+      m_settings(Settings::defaultRoot()),
+      m_display({m_library, m_maps.library(), m_settings, m_writer})
+{
+    m_ui->setupUi(this);
+    m_languagesFolder = QCoreApplication::applicationDirPath() + u"/languages/";
+    loadLanguage(m_settings.value(Setting::Language).toString());
+    m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
+    m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
+    m_ui->tw_arbo->installEventFilter(this);
+    createActions();
+    connectParts();
+    showNothing();
+    openMapsFolder();
+    createSplitters();
+    openAcquisitionFolder();
+    m_settings.writeDisplayDefaults();
+    m_lapsView->applyColumns();
+}
+
+ZunoAnalyzer::~ZunoAnalyzer()
+{
+    // The views go before what they show.
+    delete m_tree;
+    delete m_lapsView;
+}
+
+void ZunoAnalyzer::createActions()
+{
+    const auto add = [this](const QString &text, const QKeySequence &shortcut, auto run) {
+        QAction *action = menuBar()->addAction(text);
+        action->setShortcut(shortcut);
+        action->setToolTip(text.trimmed() + u" (" + shortcut.toString(QKeySequence::NativeText)
+                           + u')');
+        connect(action, &QAction::triggered, this, run);
+    };
+    add(tr("   Settings   "), QKeySequence(Qt::CTRL | Qt::Key_Comma),
+        &ZunoAnalyzer::openSettings);
+    add(tr("   Maps   "), QKeySequence(Qt::CTRL | Qt::Key_M), &ZunoAnalyzer::openMaps);
+    add(tr("   Help   "), QKeySequence(Qt::Key_F1), &ZunoAnalyzer::openHelp);
+    add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
+}
+
+void ZunoAnalyzer::createSplitters()
+{
+    const auto make = [](Qt::Orientation orientation, const QString &style,
+                         const QList<QWidget *> &contents) {
+        auto *splitter = new QSplitter(orientation);
+        for (QWidget *widget : contents)
+            splitter->addWidget(widget);
+        splitter->setStyleSheet(style);
+        return splitter;
+    };
+    QTabWidget *tabs = m_ui->tabWidget;
+    m_splitters[0] =
+        make(Qt::Horizontal, VerticalHandle, {m_ui->lapsPane, m_ui->googleWidget});
+    m_splitters[0]->setStretchFactor(0, 1);
+    m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_ui->bottomWidget});
+    tabs->clear();
+    tabs->addTab(m_splitters[1], tr("Maps and Laps  "));
+    tabs->addTab(m_ui->infos, tr(" Session infos  "));
+    tabs->setCurrentIndex(0);
+    m_splitters[2] = make(Qt::Horizontal, TabHandle, {tabs});
+    m_splitters[3] = make(Qt::Horizontal, VerticalHandle, {m_ui->treePane, m_splitters[2]});
+    m_splitters[3]->setStretchFactor(1, 1);
+    for (std::size_t i = 0; i < m_splitters.size(); ++i) {
+        m_splitters[i]->setObjectName(QStringLiteral("splitter%1").arg(i));
+        m_splitters[i]->restoreState(m_settings.value(SplitterSettings[i]).toByteArray());
+        connect(m_splitters[i], &QSplitter::splitterMoved, this,
+                &ZunoAnalyzer::saveSplitterStates);
+    }
+    setCentralWidget(m_splitters[3]);
+}
+
+void ZunoAnalyzer::connectParts()
+{
+    connect(m_tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
+    connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
+    connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
+    connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
+            &LibraryTree::updateViewedStates);
+    connect(&m_library, &AcquisitionLibrary::sessionAboutToBeRemoved, &m_selection,
+            &LapSelection::forget);
+    connect(&m_display, &SessionDisplay::mapApplied, this, &ZunoAnalyzer::showSession);
+    connect(&m_display, &SessionDisplay::cleared, this, &ZunoAnalyzer::showNothing);
+    connect(&m_display, &SessionDisplay::viewedStateChanged, m_tree,
+            &LibraryTree::updateViewedStates);
+    connect(&m_display, &SessionDisplay::notASession, this, [this](const QString &path) {
+        showState(tr("\"%1\" holds no session that can be shown: it is damaged, empty, or was "
+                     "written by something else.")
+                      .arg(QFileInfo(path).fileName()));
+    });
+    connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
+    connect(&m_selection, &LapSelection::firstLapChanged, this, &ZunoAnalyzer::showFirstLap);
+    connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
+}
+
+void ZunoAnalyzer::openMapsFolder()
+{
+    const QString folder = m_settings.mapsFolder();
+    if (m_maps.open(folder))
+        m_settings.setValue(Setting::MapFiles, folder);
+}
+
+void ZunoAnalyzer::openAcquisitionFolder()
+{
+    const QString folder = m_settings.acquisitionFolder();
+    if (!QDir(folder).exists())
+        QDir().mkdir(folder);
+    loadAcquisitionsFolder(folder);
+    m_settings.setValue(Setting::AcquisitionFolder, folder);
+}
+
+void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
+{
+    m_library.load(folder);
+    m_tree->setFolder(folder);
+    UpgradePass({m_library, *m_tree, m_display, m_writer, m_settings}).runOnce();
+    if (m_display.session() == nullptr)
+        showNothing();
+}
+
+void ZunoAnalyzer::loadLanguage(const QString &language)
+{
+    m_language = language;
+    QLocale::setDefault(QLocale(language));
+    switchTranslator(m_translator,
+                     m_languagesFolder + QStringLiteral("zunoanalyzer_%1.qm").arg(language));
+    switchTranslator(m_qtTranslator, QCoreApplication::applicationDirPath() + u"/translations/"
+                                         + QStringLiteral("qt_%1.qm").arg(language));
+}
+
+void ZunoAnalyzer::switchTranslator(QTranslator &translator, const QString &file)
+{
+    QCoreApplication::removeTranslator(&translator);
+    if (translator.load(file))
+        QCoreApplication::installTranslator(&translator);
+}
+
+Session *ZunoAnalyzer::findSessionByPath(const QString &path)
+{
+    return m_display.findSessionByPath(path);
+}
+
+QMap<QString, bool> ZunoAnalyzer::viewedStateMap() const
+{
+    return m_library.viewedStateMap();
+}
+
+void ZunoAnalyzer::onSessionDisplayedChange()
+{
+    // A folder is no session; what is displayed stays.
+    if (m_tree->isCurrentFile())
+        m_display.display(m_tree->currentPath());
+}
+
+void ZunoAnalyzer::onMapChanged(const QList<const Map *> &candidates, int mode)
+{
+    m_display.onMapChanged(candidates, mode);
+}
+
+void ZunoAnalyzer::detectMap()
+{
+    m_display.detectMap();
+}
+
+void ZunoAnalyzer::loadMaps()
+{
+    const QString folder = m_settings.acquisitionFolder();
+    // The sessions point at the maps, so they go first and come back without one.
+    m_library.reload(folder);
+    m_maps.load();
+    onSessionDisplayedChange();
+    if (m_display.session() == nullptr)
+        showNothing();
+}
+
+void ZunoAnalyzer::saveSplitterStates()
+{
+    for (std::size_t i = 0; i < m_splitters.size(); ++i)
+        m_settings.setValue(SplitterSettings[i], m_splitters[i]->saveState());
+}
+
+void ZunoAnalyzer::openSettings()
+{
+    ConfigurationWidget dialog(m_settings, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    dialog.storeValues();
+    m_lapsView->applyColumns();
+}
+
+void ZunoAnalyzer::openMaps()
+{
+    MapsWidget dialog(m_maps.library().maps(), m_display.session(), this);
+    connect(&dialog, &MapsWidget::mapChanged, this, &ZunoAnalyzer::onMapChanged);
+    connect(&dialog, &MapsWidget::autoFindMap, this, &ZunoAnalyzer::detectMap);
+    connect(&m_maps, &MapFolder::changed, &dialog, [this, &dialog] {
+        dialog.setMaps(m_maps.library().maps(), m_display.session());
+    });
+    dialog.exec();
+}
+
+void ZunoAnalyzer::openHelp()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(
+        m_languagesFolder + QStringLiteral("ZUNOAnalyzerMUL_%1.pdf").arg(m_language)));
+}
+
+void ZunoAnalyzer::openAbout()
+{
+    AboutWidget(m_settings, this).exec();
+}
+
+bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->tw_arbo && event->type() == QEvent::KeyPress
+        && m_tree->handleKey(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void ZunoAnalyzer::showSession(Session *session)
+{
+    m_selection.setSession(session);
+    m_lapsView->showLaps();
+    showLabels(session);
+    showSectors(session);
+    const bool hasLaps = !session->laps().empty();
+    if (hasLaps)
+        m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
+    else
+        showState(emptyState());
+}
+
+void ZunoAnalyzer::showLabels(const Session *session)
+{
+    const Map *map = session != nullptr ? session->map() : nullptr;
+    const bool hasMap = map != nullptr;
+    m_ui->lb_mapSelected->setVisible(hasMap);
+    m_ui->lb_mapLength->setVisible(hasMap);
+    m_ui->lb_idealTime->setVisible(hasMap);
+    m_ui->lb_traveledDistance->setVisible(hasMap);
+    m_ui->lb_errorMap->setVisible(session != nullptr && !hasMap);
+    m_ui->lb_errorMap->setText(
+        tr("No map found, please try to select one from the Map configuraton panel"));
+    if (!hasMap)
+        return;
+    m_ui->lb_mapSelected->setText(tr("Map : %1").arg(map->displayName()));
+    m_ui->lb_mapLength->setText(
+        tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
+    m_ui->lb_idealTime->setText(tr("Ideal Time : %1").arg(session->idealTimeText()));
+    m_ui->lb_traveledDistance->setText(
+        tr("Traveled distance : %1 m").arg(QLocale().toString(session->results().distance)));
+}
+
+// The best time of each section, and the lap that holds it.
+void ZunoAnalyzer::showSectors(const Session *session)
+{
+    QTableWidget *table = m_ui->tableWidget;
+    table->clear();
+    const Map *map = session != nullptr ? session->map() : nullptr;
+    const int sectors = map != nullptr && !session->laps().empty() ? map->sectorCount() : 0;
+    table->setVisible(sectors > 0);
+    table->setRowCount(sectors);
+    table->setColumnCount(3);
+    table->setHorizontalHeaderLabels({tr("Section"), tr("Best time"), tr("Lap")});
+    table->verticalHeader()->hide();
+    for (int sector = 0; sector < sectors; ++sector) {
+        const auto s = static_cast<std::size_t>(sector);
+        const qint32 lap = session->results().bestSectorLaps[s];
+        const QStringList texts{
+            QString::number(sector + 1),
+            lap < 0 ? QString() : timeText(session->results().bestSectorTimes[s]),
+            lap < 0 ? QString() : QString::number(lap + 1),
+        };
+        for (int column = 0; column < texts.size(); ++column) {
+            auto *item = new QTableWidgetItem(texts[column]);
+            item->setTextAlignment(Qt::AlignCenter);
+            table->setItem(sector, column, item);
+        }
+    }
+    table->resizeColumnsToContents();
+    table->resizeRowsToContents();
+    const int height = table->horizontalHeader()->sizeHint().height()
+                       + table->verticalHeader()->length() + (2 * table->frameWidth());
+    table->setFixedHeight(height);
+}
+
+void ZunoAnalyzer::showState(const QString &text)
+{
+    m_ui->lb_state->setText(text);
+    m_ui->lapsStack->setCurrentWidget(m_ui->statePage);
+}
+
+void ZunoAnalyzer::showNothing()
+{
+    m_selection.setSession(nullptr);
+    m_lapsView->showLaps();
+    showLabels(nullptr);
+    showSectors(nullptr);
+    showState(emptyState());
+}
+
+QString ZunoAnalyzer::emptyState() const
+{
+    const Session *session = m_display.session();
+    if (m_library.size() == 0) {
+        return tr("There are no sessions yet.\n\nCopy the session files (.ra1) of your logger to\n"
+                  "%1")
+            .arg(QDir::toNativeSeparators(m_settings.acquisitionFolder()));
+    }
+    if (session == nullptr)
+        return tr("Select a session in the list on the left to see its laps.");
+    const Map *map = session->map();
+    if (map == nullptr) {
+        return tr("No map is known for the place where this session was recorded, so it cannot be "
+                  "cut into laps.\n\nChoose a map with \"Maps\" (Ctrl+M), or copy the circuit's "
+                  "map file to\n%1")
+            .arg(QDir::toNativeSeparators(m_settings.mapsFolder()));
+    }
+    if (!map->isUsable()) {
+        return tr("The map \"%1\" has no start point, so laps cannot be cut.\n\nChoose another map "
+                  "with \"Maps\" (Ctrl+M).")
+            .arg(map->displayName());
+    }
+    return tr("This session never passes the start/finish line of the map \"%1\".\n\nIf it was "
+              "ridden on another circuit, choose its map with \"Maps\" (Ctrl+M).")
+        .arg(map->displayName());
+}
+
+void ZunoAnalyzer::showFirstLap()
+{
+    const Lap *lap = m_selection.firstLap();
+    m_ui->lb_firstLapSelected->setVisible(lap != nullptr);
+    if (lap == nullptr)
+        return;
+    const Map *map = lap->session().map();
+    m_ui->lb_firstLapSelected->setText(
+        tr("Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time "
+           ": %4 --- max speed : %5 km/h")
+            .arg(map != nullptr ? map->displayName() : QString(), lap->session().fileName(),
+                 QString::number(lap->lapNumber()), lap->timeText(),
+                 QString::number(lap->maxSpeed())));
+}
+
+void ZunoAnalyzer::onValidityChanged(Session *session)
+{
+    showLabels(session);
+    showSectors(session);
+    m_writer.write(*session);
+}
+
+void ZunoAnalyzer::tell(const QString &message)
+{
+    statusBar()->showMessage(message, MessageTime);
+}
+
+} // namespace zuno

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include <QMainWindow>
+#include <QTranslator>
+
+#include <app/acquisitionlibrary.h>
+#include <app/informationwriter.h>
+#include <app/mapfolder.h>
+#include <app/sessiondisplay.h>
+#include <app/settings.h>
+#include <views/lapselection.h>
+
+class QSplitter;
+
+namespace zuno {
+
+class LapsView;
+class LibraryTree;
+
+namespace Ui {
+class ZunoAnalyzer;
+}
+
+/// The main window: creates the parts of the program and connects them. What they do is theirs;
+/// the slots here only forward.
+class ZunoAnalyzer final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit ZunoAnalyzer(QWidget *parent = nullptr);
+    ~ZunoAnalyzer() override;
+
+    /// Loads every session of @p folder, shows the file tree, and runs the upgrade pass once.
+    void loadAcquisitionsFolder(const QString &folder);
+    /// Loads the interface's texts and the number format of @p language, a locale's name.
+    void loadLanguage(const QString &language);
+    /// The session with that file path, which becomes the displayed one; nullptr without one.
+    Session *findSessionByPath(const QString &path);
+    [[nodiscard]] QMap<QString, bool> viewedStateMap() const;
+
+public Q_SLOTS:
+    void onSessionDisplayedChange();
+    void onMapChanged(const QList<const zuno::Map *> &candidates, int mode);
+    void detectMap();
+    /// Reads the maps again and displays the current session anew.
+    void loadMaps();
+    void saveSplitterStates();
+    void openSettings();
+    void openMaps();
+    void openHelp();
+    void openAbout();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void switchTranslator(QTranslator &translator, const QString &file);
+    void createActions();
+    void createSplitters();
+    void connectParts();
+    void openMapsFolder();
+    void openAcquisitionFolder();
+    void showSession(Session *session);
+    void showLabels(const Session *session);
+    void showSectors(const Session *session);
+    void showState(const QString &text);
+    void showNothing();
+    void showFirstLap();
+    [[nodiscard]] QString emptyState() const;
+    void onValidityChanged(Session *session);
+    void tell(const QString &message);
+
+    std::unique_ptr<Ui::ZunoAnalyzer> m_ui;
+    Settings m_settings;
+    QString m_languagesFolder;
+    QString m_language;
+    QTranslator m_translator;
+    QTranslator m_qtTranslator;
+    MapFolder m_maps;
+    AcquisitionLibrary m_library;
+    InformationWriter m_writer;
+    LapSelection m_selection;
+    SessionDisplay m_display;
+    LapsView *m_lapsView = nullptr;
+    LibraryTree *m_tree = nullptr;
+    std::array<QSplitter *, 4> m_splitters{};
+};
+
+} // namespace zuno

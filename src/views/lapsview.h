@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QTableView;
+
+namespace zuno {
+
+class Lap;
+class LapSelection;
+class LapsTableModel;
+class Session;
+class Settings;
+
+/// The laps table: shows the laps of the selection's session, makes the selected row the current
+/// lap, and offers what can be done with a lap.
+class LapsView : public QObject
+{
+    Q_OBJECT
+
+public:
+    LapsView(QTableView &table, LapSelection &selection, const Settings &settings);
+
+    /// Shows the laps of the selection's session and selects its current lap.
+    void showLaps();
+    /// Hides the columns that the rider has switched off.
+    void applyColumns();
+    /// Opens the menu of the current lap; @p position is in the table's viewport.
+    void openMenu(const QPoint &position);
+    /// The menu's entries for the current lap.
+    void fillMenu(QMenu &menu);
+
+Q_SIGNALS:
+    /// The rider threw a lap out or took it back.
+    void validityChanged(zuno::Session *session);
+    void exportRequested(const zuno::Lap *lap);
+
+private:
+    void connectSelection();
+    void selectCurrentRow();
+    QAction *makeAction(const QKeySequence &shortcut, void (LapsView::*run)());
+    [[nodiscard]] bool isSecondLap() const;
+    void updateActions();
+    void toggleValidity();
+    void compare();
+    void reselect();
+    void exportLap();
+
+    QTableView &m_table;
+    LapSelection &m_selection;
+    const Settings &m_settings;
+    LapsTableModel *m_model;
+    QAction *m_validity;
+    QAction *m_compare;
+    QAction *m_reselect;
+    QAction *m_export;
+};
+
+} // namespace zuno

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "builders.h"
+
+#include <bit>
+#include <cmath>
+#include <numbers>
+
+#include <QStringList>
+#include <QtEndian>
+
+#include <maps/map.h>
+#include <session/session.h>
+
+namespace zuno::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double OriginLatitude = 45.0;
+constexpr double OriginLongitude = 9.0;
+constexpr double MetresPerDegree = 6371007.2 * std::numbers::pi / 180.0;
+constexpr quint32 SampleTime = 100;
+
+template<typename Number>
+QByteArray littleEndian(Number value)
+{
+    QByteArray bytes(sizeof(Number), '\0');
+    qToLittleEndian(value, bytes.data());
+    return bytes;
+}
+
+void append(Points &points, const QGeoCoordinate &where)
+{
+    PointAcquisition point;
+    point.acquisitionNumber = static_cast<quint32>(points.size()) + 1;
+    point.dataTimeStamp = static_cast<quint32>(points.size()) * SampleTime;
+    point.dataTimeSec = point.dataTimeStamp / 1000.0;
+    point.dataCoordX = where.isValid() ? where.longitude() : NoFixCoordinate;
+    point.dataCoordY = where.isValid() ? where.latitude() : NoFixCoordinate;
+    points.push_back(point);
+}
+
+} // namespace
+
+Bytes &Bytes::u8(int value)
+{
+    m_bytes.append(static_cast<char>(value));
+    return *this;
+}
+
+Bytes &Bytes::u32(quint32 value)
+{
+    return raw(littleEndian(value));
+}
+
+Bytes &Bytes::f32(float value)
+{
+    return raw(littleEndian(std::bit_cast<quint32>(value)));
+}
+
+Bytes &Bytes::f64(double value)
+{
+    return raw(littleEndian(std::bit_cast<quint64>(value)));
+}
+
+Bytes &Bytes::raw(const QByteArray &bytes)
+{
+    m_bytes += bytes;
+    return *this;
+}
+
+Bytes &Bytes::text(const QByteArray &bytes)
+{
+    return u8(static_cast<int>(bytes.size())).raw(bytes);
+}
+
+QByteArray readingList(const QList<double> &values, std::optional<quint32> count)
+{
+    Bytes list;
+    list.u32(count.value_or(static_cast<quint32>(values.size())));
+    for (qsizetype i = 0; i < values.size(); ++i)
+        list.u32(static_cast<quint32>(100 + i)).f64(values[i]);
+    return list;
+}
+
+QByteArray readingList(int count)
+{
+    QList<double> values;
+    for (int i = 0; i < count; ++i)
+        values.append(i + 1.5);
+    return readingList(values);
+}
+
+QByteArray InformationBytes::bytes() const
+{
+    Bytes block;
+    for (const QByteArray &text :
+         {circuit, event, driver, bestLap, idealTime, vehicle, condition})
+        block.text(text);
+    return block.u8(temperature).text(tyres).text(notes).text(invalidLaps);
+}
+
+QByteArray SessionBytes::head() const
+{
+    Bytes file;
+    file.text(magic).text(version).u32(sampleCount.value_or(static_cast<quint32>(samples)));
+    for (int i = 1; i <= samples; ++i) {
+        const auto number = static_cast<float>(i);
+        file.u32(static_cast<quint32>(100 * i)).f32(9.0F + number).f32(45.0F + number);
+        file.f32(100.5F + number).f32(-20.25F - number).f32(0.25F * number).f32(-0.5F * number);
+    }
+    file.u32(wordCount.value_or(static_cast<quint32>(words.size())));
+    for (const quint32 word : words)
+        file.u32(word);
+    return file.text(date).u8(7).text(time).f64(2.5);
+}
+
+QByteArray SessionBytes::bytes() const
+{
+    Bytes file;
+    file.raw(head()).u8(newSession);
+    if (listsFlag)
+        file.u8(*listsFlag);
+    return file.raw(lists).raw(information);
+}
+
+QGeoCoordinate place(double north, double east)
+{
+    static const double shrink = std::cos(OriginLatitude * std::numbers::pi / 180.0);
+    return {OriginLatitude + (north / MetresPerDegree),
+            OriginLongitude + (east / MetresPerDegree / shrink)};
+}
+
+Points ride(const QString &description)
+{
+    Points points;
+    const QStringList moves = description.split(u' ', Qt::SkipEmptyParts);
+    for (const QString &move : moves) {
+        const int range = static_cast<int>(move.indexOf(u".."));
+        const double from = move.section(range < 0 ? u"*"_s : u".."_s, 0, 0).toDouble();
+        if (range < 0) {
+            const int count = move.contains(u'*') ? move.section(u'*', 1).toInt() : 1;
+            const QGeoCoordinate where = move.startsWith(u"-*") ? QGeoCoordinate() : place(from);
+            for (int i = 0; i < count; ++i)
+                append(points, where);
+            continue;
+        }
+        const double to = move.section(u".."_s, 1).section(u'/', 0, 0).toDouble();
+        const double step = move.section(u'/', 1).toDouble();
+        const auto count = static_cast<int>(std::round(std::fabs(to - from) / step));
+        for (int i = 0; i <= count; ++i)
+            append(points, place(from + (i * std::copysign(step, to - from))));
+    }
+    return points;
+}
+
+Points circle(double radius, double from, double to, double step)
+{
+    Points points;
+    for (double way = from; way < to; way += step)
+        append(points, place(radius * std::sin(way / radius), radius * std::cos(way / radius)));
+    return points;
+}
+
+std::unique_ptr<Session> sessionOf(Points points, qint64 whole)
+{
+    auto session = std::make_unique<Session>(u"/somewhere/Ride.ra1"_s);
+    Recording recording;
+    recording.sampleCount = static_cast<qint64>(points.size());
+    recording.wholeSampleCount = std::min(recording.sampleCount, whole);
+    session->setRecording(recording);
+    session->setSampleSource([points] { return Session::Samples {points, {}}; });
+    return session;
+}
+
+std::unique_ptr<Map> lineMap(double gate, double length, const QList<NamedPlace> &places)
+{
+    auto map = std::make_unique<Map>();
+    map->setGateSize(gate);
+    for (const NamedPlace &named : places)
+        map->addNamedPoint(named.name, place(named.north));
+    map->addTrackPoint(place(0.0));
+    map->addTrackPoint(place(length));
+    map->computeGeometry();
+    return map;
+}
+
+QString numbersOf(const Points &points)
+{
+    QStringList numbers;
+    for (const PointAcquisition &point : points)
+        numbers.append(QString::number(point.acquisitionNumber));
+    return numbers.join(u' ');
+}
+
+} // namespace zuno::test

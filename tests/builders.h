@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <limits>
+#include <memory>
+#include <optional>
+
+#include <QByteArray>
+#include <QGeoCoordinate>
+#include <QList>
+#include <QString>
+
+#include <session/pointacquisition.h>
+
+namespace zuno {
+
+class Map;
+class Session;
+
+namespace test {
+
+/// Little-endian bytes, put together field by field without the program's own writer.
+class Bytes
+{
+public:
+    Bytes &u8(int value);
+    Bytes &u32(quint32 value);
+    Bytes &f32(float value);
+    Bytes &f64(double value);
+    Bytes &raw(const QByteArray &bytes);
+    /// A length byte and the text.
+    Bytes &text(const QByteArray &bytes);
+
+    operator const QByteArray &() const { return m_bytes; } // NOLINT: a test reads better so
+
+private:
+    QByteArray m_bytes;
+};
+
+/// A list of suspension readings, numbered from 100; it may lie about its length.
+[[nodiscard]] QByteArray readingList(const QList<double> &values, std::optional<quint32> count = {});
+/// @p count readings 1.5, 2.5, ...
+[[nodiscard]] QByteArray readingList(int count);
+
+/// An information block as it stands in a file.
+struct InformationBytes
+{
+    QByteArray circuit = "Hill";
+    QByteArray event = "Cup";
+    QByteArray driver = "Ann";
+    QByteArray bestLap = "01:02.003";
+    QByteArray idealTime = "01:01.001";
+    QByteArray vehicle = "R6";
+    QByteArray condition = "Wet";
+    int temperature = 31;
+    QByteArray tyres = "soft";
+    QByteArray notes = "rain, later";
+    QByteArray invalidLaps = "\x02\x03";
+
+    [[nodiscard]] QByteArray bytes() const;
+};
+
+/// A session file with two samples, whose fields can be told apart.
+struct SessionBytes
+{
+    QByteArray magic = "RA1";
+    QByteArray version = "1.0.0.0";
+    int samples = 2;
+    std::optional<quint32> sampleCount = {};
+    QList<quint32> words = {1, 2};
+    std::optional<quint32> wordCount = {};
+    QByteArray date = "03/05/2026";
+    QByteArray time = "10:11:12";
+    int newSession = 1;
+    /// Without lists the information block's first byte takes the flag's place.
+    std::optional<int> listsFlag = {};
+    QByteArray lists = {};
+    QByteArray information = {};
+
+    /// Everything up to the flags.
+    [[nodiscard]] QByteArray head() const;
+    [[nodiscard]] QByteArray bytes() const;
+};
+
+/// A named place of a map, in metres north of the origin of all rides and maps.
+struct NamedPlace
+{
+    QString name;
+    double north = 0.0;
+};
+
+/// The place so many metres north and east of the origin. North and south of it on the meridian
+/// all distances are exact.
+[[nodiscard]] QGeoCoordinate place(double north, double east = 0.0);
+
+/// A ride along the meridian, a sample every 100 ms: "-50..50/10 20*3 -*2" is from 50 metres south
+/// of the origin to 50 metres north in steps of 10, then 3 samples at 20 metres and 2 without a
+/// position.
+[[nodiscard]] Points ride(const QString &description);
+/// A ride on a circle around the origin, anticlockwise from its easternmost point, from @p from to
+/// @p to metres along it.
+[[nodiscard]] Points circle(double radius, double from, double to, double step);
+
+/// A session of these samples; only the first @p whole of them are in its file.
+[[nodiscard]] std::unique_ptr<Session> sessionOf(Points points,
+                                                 qint64 whole = std::numeric_limits<int>::max());
+/// A map with these named points and an outline of that length.
+[[nodiscard]] std::unique_ptr<Map> lineMap(double gate, double length,
+                                           const QList<NamedPlace> &places = {{QStringLiteral("Start"), 0.0}});
+
+/// Acquisition numbers of points, "1 2 3".
+[[nodiscard]] QString numbersOf(const Points &points);
+
+} // namespace test
+} // namespace zuno
