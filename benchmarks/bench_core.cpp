@@ -8,10 +8,10 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <cstring>
+#include <ctime>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -42,34 +42,41 @@ constexpr int SampleCount = 12000;
 constexpr int Rounds = 41;
 constexpr double SecondsPerTurn = 0.005;
 
-/// Work to be timed; what it needs is made anew for each run, outside of the time.
+/// Work to be timed. What it uses up is made anew before each run, outside of the time.
 struct Work
 {
     const char *name;
     std::function<void()> run;
-    std::function<void()> prepare = [] {};
+    std::function<void()> prepare = nullptr;
 };
 
-double secondsOf(const Work &work)
+/// Processor time, so that a turn in which somebody else had the processor counts no more than the
+/// others. The clock ticks in microseconds, hence many runs at a time.
+double meanSeconds(const Work &work, int runs)
 {
-    work.prepare();
-    const auto begin = std::chrono::steady_clock::now();
-    work.run();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-double meanSecondsOf(const Work &work, int runs)
-{
-    double sum = 0.0;
-    for (int i = 0; i < runs; ++i)
-        sum += secondsOf(work);
-    return sum / runs;
+    std::clock_t spent = 0;
+    if (!work.prepare) {
+        const std::clock_t begin = std::clock();
+        for (int i = 0; i < runs; ++i)
+            work.run();
+        spent = std::clock() - begin;
+    } else {
+        for (int i = 0; i < runs; ++i) {
+            work.prepare();
+            const std::clock_t begin = std::clock();
+            work.run();
+            spent += std::clock() - begin;
+        }
+    }
+    return static_cast<double>(spent) / CLOCKS_PER_SEC / runs;
 }
 
 int runsPerTurn(const Work &work)
 {
-    meanSecondsOf(work, 3); // the first runs fill caches and the heap
-    return std::max(3, static_cast<int>(SecondsPerTurn / meanSecondsOf(work, 3)));
+    int runs = 1;
+    while (meanSeconds(work, runs) * runs < SecondsPerTurn)
+        runs *= 2;
+    return runs;
 }
 
 struct Spread
@@ -104,10 +111,10 @@ struct Comparison
         std::vector<double> ratios;
         for (int round = 0; round < Rounds; ++round) {
             if (round % 2 == 0)
-                times.push_back(meanSecondsOf(measured, measuredRuns));
-            baselineTimes.push_back(meanSecondsOf(baseline, baselineRuns));
+                times.push_back(meanSeconds(measured, measuredRuns));
+            baselineTimes.push_back(meanSeconds(baseline, baselineRuns));
             if (round % 2 != 0)
-                times.push_back(meanSecondsOf(measured, measuredRuns));
+                times.push_back(meanSeconds(measured, measuredRuns));
             ratios.push_back(times.back() / baselineTimes.back());
         }
         const Spread time(times);
@@ -124,9 +131,10 @@ struct Comparison
 
 void printHeader()
 {
-    std::printf("Times in microseconds for %d samples; medians of %d turns, and the least and the "
-                "most of them.\n\n",
-                SampleCount, Rounds);
+    std::printf(
+        "Microseconds of the processor for %d samples: medians of %d turns, the least and the "
+        "most of them.\n\n",
+        SampleCount, Rounds);
     std::printf("%-28s %9s  %-34s %8s %20s %6s %17s %4s\n", "measured", "time", "baseline", "time",
                 "least .. most   ", "ratio", "least .. most ", "aim");
 }
@@ -348,10 +356,16 @@ bool printMemory(const Ride &)
 }
 #endif
 
-void time(benchmark::State &state, const Work &work)
+void timeInDetail(benchmark::State &state, const Work &work)
 {
-    for (auto _ : state)
-        state.SetIterationTime(secondsOf(work));
+    for (auto _ : state) {
+        if (work.prepare) {
+            state.PauseTiming();
+            work.prepare();
+            state.ResumeTiming();
+        }
+        work.run();
+    }
     state.SetItemsProcessed(state.iterations() * SampleCount);
 }
 
@@ -373,8 +387,7 @@ int run()
 
     for (const Comparison &comparison : comparisons) {
         for (const Work &work : {comparison.measured, comparison.baseline}) {
-            benchmark::RegisterBenchmark(work.name, time, work)
-                ->UseManualTime()
+            benchmark::RegisterBenchmark(work.name, timeInDetail, work)
                 ->Unit(benchmark::kMicrosecond);
         }
     }

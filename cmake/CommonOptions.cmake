@@ -17,7 +17,7 @@ else()
   target_compile_options(zuno_common INTERFACE
     -ffp-contract=off
     -Wall -Wextra -pedantic -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
-    -Wunused -Wnull-dereference -Wimplicit-fallthrough
+    -Wunused -Wimplicit-fallthrough
     $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 

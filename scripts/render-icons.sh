@@ -70,5 +70,5 @@ ico Resources/newfolder.ico $folder:{16,20,24,32,40,48,64,72}
 # The racing line is lost in a few pixels; the small sizes have a plainer drawing.
 small=Resources/svg/logo-small.svg
 large=Resources/svg/logo.svg
-ico Resources/Logos/logo.ico $small:{16,20,24,32} $large:{40,48,64,128,256}
+ico Resources/Logos/logo.ico $small:{16,20,24,32,40} $large:{48,64,128,256}
 rsvg-convert --width 256 --height 256 $large -o Resources/logo.png

@@ -97,8 +97,7 @@ QByteArray readingList(int count)
 QByteArray InformationBytes::bytes() const
 {
     Bytes block;
-    for (const QByteArray &text :
-         {circuit, event, driver, bestLap, idealTime, vehicle, condition})
+    for (const QByteArray &text : {circuit, event, driver, bestLap, idealTime, vehicle, condition})
         block.text(text);
     return block.u8(temperature).text(tyres).text(notes).text(invalidLaps);
 }
@@ -155,6 +154,14 @@ Points ride(const QString &description)
             append(points, place(from + (i * std::copysign(step, to - from))));
     }
     return points;
+}
+
+QString lapRide(const QList<int> &standing)
+{
+    QString description = u"-44.05..-4.05/10"_s;
+    for (const int samples : standing)
+        description += u" 5.95..295.95/10 295.95*%1 -44.05..-4.05/10"_s.arg(samples);
+    return description + u" 5.95..45.95/10"_s;
 }
 
 Points circle(double radius, double from, double to, double step)

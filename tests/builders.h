@@ -40,7 +40,8 @@ private:
 };
 
 /// A list of suspension readings, numbered from 100; it may lie about its length.
-[[nodiscard]] QByteArray readingList(const QList<double> &values, std::optional<quint32> count = {});
+[[nodiscard]] QByteArray readingList(const QList<double> &values,
+                                     std::optional<quint32> count = {});
 /// @p count readings 1.5, 2.5, ...
 [[nodiscard]] QByteArray readingList(int count);
 
@@ -99,6 +100,11 @@ struct NamedPlace
 /// of the origin to 50 metres north in steps of 10, then 3 samples at 20 metres and 2 without a
 /// position.
 [[nodiscard]] Points ride(const QString &description);
+/// The description of a ride of laps on a map whose start point is the origin. The first crossing
+/// of the line is at 440.5 ms, then there is a lap for each entry of @p standing, of 680 metres in
+/// 3.5 seconds and, 296 metres from the line, so many samples more at the same place. Between the
+/// line and there the places 0, 10, 20 ... are passed 40.5 ms after a sample.
+[[nodiscard]] QString lapRide(const QList<int> &standing);
 /// A ride on a circle around the origin, anticlockwise from its easternmost point, from @p from to
 /// @p to metres along it.
 [[nodiscard]] Points circle(double radius, double from, double to, double step);
@@ -108,7 +114,8 @@ struct NamedPlace
                                                  qint64 whole = std::numeric_limits<int>::max());
 /// A map with these named points and an outline of that length.
 [[nodiscard]] std::unique_ptr<Map> lineMap(double gate, double length,
-                                           const QList<NamedPlace> &places = {{QStringLiteral("Start"), 0.0}});
+                                           const QList<NamedPlace> &places
+                                           = {{QStringLiteral("Start"), 0.0}});
 
 /// Acquisition numbers of points, "1 2 3".
 [[nodiscard]] QString numbersOf(const Points &points);

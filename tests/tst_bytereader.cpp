@@ -75,8 +75,8 @@ void TestByteReader::reads_data()
     QTest::newRow("text, empty") << QByteArray("0041") << u"text"_s << QString() << 1;
     QTest::newRow("text, one less") << QByteArray("024d") << u"text"_s << out << 1;
     QTest::newRow("text, enough") << QByteArray("024d41") << u"text"_s << u"MA"_s << 3;
-    QTest::newRow("text, the longest") << QByteArray("ff") + QByteArray(510, '4') << u"text"_s
-                                       << QString(255, u'D') << 256;
+    QTest::newRow("text, the longest")
+        << QByteArray("ff") + QByteArray(510, '4') << u"text"_s << QString(255, u'D') << 256;
 }
 
 void TestByteReader::reads()

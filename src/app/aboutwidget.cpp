@@ -20,7 +20,8 @@ constexpr int LogoWidth = 300;
 } // namespace
 
 AboutWidget::AboutWidget(const Settings &settings, QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::AboutWidget>())
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::AboutWidget>())
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
@@ -36,14 +37,10 @@ AboutWidget::~AboutWidget() = default;
 
 void AboutWidget::showLogo()
 {
-    QPixmap logo(QStringLiteral(":/Resources/Logo_blanc_Norvale_2020.png"));
+    // Through an icon, which takes the picture that is made for the screen's resolution.
+    const QIcon icon(QStringLiteral(":/Resources/Logo_blanc_Norvale_2020.png"));
+    const QPixmap logo = icon.pixmap(QSize(LogoWidth, LogoWidth), devicePixelRatioF());
     m_ui->lb_logo->setVisible(!logo.isNull());
-    if (logo.isNull())
-        return;
-    const int width = qRound(LogoWidth * devicePixelRatioF());
-    if (logo.width() > width)
-        logo = logo.scaledToWidth(width, Qt::SmoothTransformation);
-    logo.setDevicePixelRatio(devicePixelRatioF());
     m_ui->lb_logo->setPixmap(logo);
 }
 

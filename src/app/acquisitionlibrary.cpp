@@ -8,6 +8,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 
 #include <session/sessionfile.h>
 
@@ -47,7 +48,30 @@ Session *AcquisitionLibrary::append(const QString &path, const char *caller)
         return nullptr;
     }
     m_sessions.push_back(std::move(opened.session));
+    noteWritten(*m_sessions.back());
     return m_sessions.back().get();
+}
+
+AcquisitionLibrary::FileStamp AcquisitionLibrary::FileStamp::of(const QString &path)
+{
+    const QFileInfo file(path);
+    return {file.size(), file.lastModified()};
+}
+
+void AcquisitionLibrary::noteWritten(const Session &session)
+{
+    m_stamps.insert(&session, FileStamp::of(session.filePath()));
+}
+
+bool AcquisitionLibrary::refresh(const QString &path)
+{
+    Session *session = find(path);
+    if (session == nullptr || !QFileInfo::exists(path)
+        || m_stamps.value(session) == FileStamp::of(path))
+        return false;
+    remove(session);
+    add(path, "onSessionDisplayedChange");
+    return true;
 }
 
 Session *AcquisitionLibrary::add(const QString &path, const char *caller)
@@ -67,6 +91,7 @@ void AcquisitionLibrary::remove(Session *session)
     if (index < 0)
         return;
     Q_EMIT sessionAboutToBeRemoved(session);
+    m_stamps.remove(session);
     m_sessions.erase(m_sessions.begin() + index);
     Q_EMIT sessionsChanged();
 }
@@ -95,6 +120,7 @@ void AcquisitionLibrary::reload(const QString &folder)
     for (const auto &session : m_sessions)
         Q_EMIT sessionAboutToBeRemoved(session.get());
     m_sessions.clear();
+    m_stamps.clear();
     load(folder);
 }
 

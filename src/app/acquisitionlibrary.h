@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+#include <QDateTime>
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QObject>
@@ -24,7 +26,7 @@ class AcquisitionLibrary : public QObject
 
 public:
     /// A session file's ending; case matters.
-    static constexpr QLatin1String Suffix{".ra1"};
+    static constexpr QLatin1String Suffix {".ra1"};
 
     explicit AcquisitionLibrary(QObject *parent = nullptr);
     ~AcquisitionLibrary() override;
@@ -34,6 +36,11 @@ public:
     /// Loads one file and appends its session; nullptr, and a message in the log that begins with
     /// @p caller, when it gives none. A file that is loaded already gives its session.
     Session *add(const QString &path, const char *caller);
+    /// Loads a session's file again when somebody else has changed it since it was loaded or
+    /// noteWritten; the session is then another one. True when it was changed.
+    bool refresh(const QString &path);
+    /// Takes the file of @p session as it stands for the one that the session knows.
+    void noteWritten(const Session &session);
     /// Drops a session.
     void remove(Session *session);
     /// Drops every session at @p path or below it.
@@ -62,9 +69,20 @@ Q_SIGNALS:
     void sessionsChanged();
 
 private:
+    /// Tells whether a file is still the one that was read.
+    struct FileStamp
+    {
+        qint64 size = -1;
+        QDateTime modified;
+
+        static FileStamp of(const QString &path);
+        friend bool operator==(const FileStamp &, const FileStamp &) = default;
+    };
+
     Session *append(const QString &path, const char *caller);
 
     std::vector<std::unique_ptr<Session>> m_sessions;
+    QHash<const Session *, FileStamp> m_stamps;
 };
 
 } // namespace zuno

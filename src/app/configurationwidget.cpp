@@ -42,7 +42,9 @@ constexpr std::array Choices {
 } // namespace
 
 ConfigurationWidget::ConfigurationWidget(const Settings &settings, QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::ConfigurationWidget>()), m_settings(settings)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::ConfigurationWidget>())
+    , m_settings(settings)
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));

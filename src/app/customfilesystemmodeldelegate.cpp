@@ -21,7 +21,8 @@ constexpr int DeviceIconSize = 20;
 
 CustomFileSystemModelDelegate::CustomFileSystemModelDelegate(QString monitorConfiguration,
                                                              QObject *parent)
-    : QStyledItemDelegate(parent), m_monitorConfiguration(std::move(monitorConfiguration))
+    : QStyledItemDelegate(parent)
+    , m_monitorConfiguration(std::move(monitorConfiguration))
 {
 }
 
@@ -70,8 +71,8 @@ bool CustomFileSystemModelDelegate::isUnseen(const QString &text) const
 void CustomFileSystemModelDelegate::decorateDevice(QStyleOptionViewItem &option,
                                                    const QString &device) const
 {
-    const bool isHighlighted =
-        !m_highlightedDevice.isEmpty() && option.text.contains(m_highlightedDevice);
+    const bool isHighlighted
+        = !m_highlightedDevice.isEmpty() && option.text.contains(m_highlightedDevice);
     option.icon = QIcon(isHighlighted ? QStringLiteral(":/Resources/databaseGreen.png")
                                       : QStringLiteral(":/Resources/database.png"));
     option.decorationSize = QSize(DeviceIconSize, DeviceIconSize);

@@ -17,8 +17,7 @@ class CustomFileSystemModelDelegate final : public QStyledItemDelegate
 public:
     /// @p monitorConfiguration is the path of the settings file with the loggers' names; it is
     /// only read.
-    explicit CustomFileSystemModelDelegate(QString monitorConfiguration,
-                                           QObject *parent = nullptr);
+    explicit CustomFileSystemModelDelegate(QString monitorConfiguration, QObject *parent = nullptr);
 
     /// For each session file's name whether the session has never been opened.
     void setViewedStates(const QMap<QString, bool> &states) { m_viewedStates = states; }

@@ -12,7 +12,8 @@
 namespace zuno {
 
 DownloadInProgress::DownloadInProgress(QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::DownloadInProgress>())
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::DownloadInProgress>())
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));

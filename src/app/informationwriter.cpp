@@ -23,6 +23,7 @@ RewriteResult InformationWriter::write(const Session &session)
     RewriteResult result = rewriteSessionFile(session);
     if (result.ok()) {
         m_told = false;
+        Q_EMIT written(session);
     } else if (!m_told) {
         m_told = true;
         Q_EMIT failed(tr("%1 was not changed: %2. Changes are kept until the program ends.")

@@ -25,6 +25,7 @@ public:
     RewriteResult write(const Session &session);
 
 Q_SIGNALS:
+    void written(const zuno::Session &session);
     /// The first failure after a success; @p message is for the rider.
     void failed(const QString &message);
 

@@ -46,8 +46,7 @@ QString askForName(QWidget *parent, const QString &title, const QString &label,
     dialog.setTextValue(before);
     dialog.setCancelButtonText(LibraryTree::tr("Cancel"));
     if (auto *edit = dialog.findChild<QLineEdit *>()) {
-        static const QRegularExpression allowed(
-            QStringLiteral("[^\\\\/`~@#$%^&*:?\"<>|]*"));
+        static const QRegularExpression allowed(QStringLiteral("[^\\\\/`~@#$%^&*:?\"<>|]*"));
         edit->setValidator(new QRegularExpressionValidator(allowed, edit));
         edit->setToolTip(LibraryTree::tr("Do not use [^\\/`~@#$%^&*:?\"<>|] characters"));
     }
@@ -73,15 +72,18 @@ bool haveSameMap(const QList<Session *> &sessions)
 } // namespace
 
 LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Settings &settings)
-    : QObject(&view), m_view(view), m_library(library), m_settings(settings),
-      m_delegate(new CustomFileSystemModelDelegate(settings.path(SettingsFile::Monitor), this)),
-      m_rename(makeAction(tr("Rename"), QStringLiteral("rename.png"), Qt::Key_F2)),
-      m_delete(makeAction(tr("Delete"), QStringLiteral("cross.png"), QKeySequence::Delete)),
-      m_newFolder(makeAction(tr("New folder"), QStringLiteral("newfolder.ico"),
-                             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N))),
-      m_exportSession(makeAction(tr("Export Session"), QStringLiteral("export.png"), {})),
-      m_exportData(makeAction(tr("Export Session Data (CSV)"), QStringLiteral("export.png"), {})),
-      m_idealTime(
+    : QObject(&view)
+    , m_view(view)
+    , m_library(library)
+    , m_settings(settings)
+    , m_delegate(new CustomFileSystemModelDelegate(settings.path(SettingsFile::Monitor), this))
+    , m_rename(makeAction(tr("Rename"), QStringLiteral("rename.png"), Qt::Key_F2))
+    , m_delete(makeAction(tr("Delete"), QStringLiteral("cross.png"), QKeySequence::Delete))
+    , m_newFolder(makeAction(tr("New folder"), QStringLiteral("newfolder.ico"),
+                             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)))
+    , m_exportSession(makeAction(tr("Export Session"), QStringLiteral("export.png"), {}))
+    , m_exportData(makeAction(tr("Export Session Data (CSV)"), QStringLiteral("export.png"), {}))
+    , m_idealTime(
           makeAction(tr("Compute multisession ideal time"), QStringLiteral("compute.png"), {}))
 {
     m_view.setItemDelegate(m_delegate);
@@ -130,6 +132,7 @@ void LibraryTree::setFolder(const QString &folder)
     m_model->setNameFilters({QStringLiteral("*.ra1")});
     m_model->setNameFilterDisables(false);
     m_model->setRootPath(m_folder);
+    m_model->sort(0);
     updateViewedStates();
     const QModelIndex root = m_model->index(m_folder);
     m_view.setModel(m_model.get());
@@ -151,6 +154,11 @@ void LibraryTree::connectModel()
     });
     connect(m_model.get(), &QFileSystemModel::directoryLoaded, this,
             &LibraryTree::restoreSelection);
+    connect(m_model.get(), &QFileSystemModel::dataChanged, this,
+            [this](const QModelIndex &topLeft, const QModelIndex &bottomRight) {
+                for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
+                    Q_EMIT fileChanged(m_model->filePath(topLeft.siblingAtRow(row)));
+            });
     connect(m_model.get(), &QFileSystemModel::rowsInserted, this, &LibraryTree::onRowsInserted);
     connect(m_model.get(), &QFileSystemModel::rowsAboutToBeRemoved, this,
             &LibraryTree::onRowsAboutToBeRemoved);
@@ -211,7 +219,8 @@ void LibraryTree::onRowsInserted(const QModelIndex &parent, int first, int last)
         if (row == first)
             addFile(path);
         else // A folder of new files must not hold up the window.
-            QMetaObject::invokeMethod(this, [this, path] { addFile(path); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this, path] { addFile(path); }, Qt::QueuedConnection);
     }
 }
 
@@ -265,9 +274,8 @@ bool LibraryTree::isCurrentProtected() const
 void LibraryTree::fillMenu(QMenu &menu)
 {
     const QList<Session *> sessions = selectedSessions();
-    const auto isUsed = [this](auto signal) {
-        return isSignalConnected(QMetaMethod::fromSignal(signal));
-    };
+    const auto isUsed
+        = [this](auto signal) { return isSignalConnected(QMetaMethod::fromSignal(signal)); };
     if (sessions.size() >= 2 && haveSameMap(sessions)) {
         m_idealTime->setEnabled(isUsed(&LibraryTree::idealTimeRequested));
         menu.addAction(m_idealTime);
@@ -321,7 +329,8 @@ bool LibraryTree::handleKey(const QKeyEvent &event)
             return false;
         createFolder();
         return true;
-    default: return false;
+    default:
+        return false;
     }
 }
 
@@ -334,8 +343,8 @@ void LibraryTree::renameCurrent()
     name.remove(AcquisitionLibrary::Suffix);
     const bool isFile = isCurrentFile();
     bool accepted = false;
-    QString newName =
-        askForName(m_view.window(), tr("Rename File"), tr("New name :"), name, accepted);
+    QString newName
+        = askForName(m_view.window(), tr("Rename File"), tr("New name :"), name, accepted);
     if (!accepted || newName.isEmpty())
         return;
     if (isFile)
@@ -358,7 +367,7 @@ void LibraryTree::rename(const QString &from, const QString &newName)
     m_library.movePath(from, to);
     const QString last = m_settings.value(Setting::LastFileSelected).toString();
     if (last == from || last.startsWith(from + u'/'))
-        m_settings.setValue(Setting::LastFileSelected, to + last.mid(from.size()));
+        m_settings.setValue(Setting::LastFileSelected, QString(to + last.mid(from.size())));
     const QString oldName = QFileInfo(from).fileName();
     const QString choice = m_settings.mapChoice(oldName);
     if (!choice.isNull()) {
@@ -398,10 +407,9 @@ void LibraryTree::createFolder()
     if (path.isEmpty() || isCurrentFile())
         return;
     bool accepted = false;
-    const QString name = askForName(m_view.window(), tr("Create new folder"), tr("Folder name :"),
-                                    {}, accepted);
-    if (accepted && !name.isEmpty()
-        && !m_model->mkdir(m_model->index(path), name).isValid())
+    const QString name
+        = askForName(m_view.window(), tr("Create new folder"), tr("Folder name :"), {}, accepted);
+    if (accepted && !name.isEmpty() && !m_model->mkdir(m_model->index(path), name).isValid())
         Q_EMIT failed(tr("The folder \"%1\" could not be created.").arg(name));
 }
 

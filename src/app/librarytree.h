@@ -61,6 +61,8 @@ public:
 Q_SIGNALS:
     /// Another item has become current.
     void currentChanged();
+    /// A file's size or time has changed on the disk.
+    void fileChanged(const QString &path);
     void exportSessionRequested(zuno::Session *session);
     void exportDataRequested(zuno::Session *session);
     void idealTimeRequested(const QList<zuno::Session *> &sessions);

@@ -29,11 +29,16 @@ QString logPath()
 QString levelOf(QtMsgType type)
 {
     switch (type) {
-    case QtDebugMsg: return QStringLiteral("Debug ");
-    case QtInfoMsg: return QStringLiteral("Info ");
-    case QtCriticalMsg: return QStringLiteral("Critical ");
-    case QtFatalMsg: return QStringLiteral("Fatal ");
-    case QtWarningMsg: break;
+    case QtDebugMsg:
+        return QStringLiteral("Debug ");
+    case QtInfoMsg:
+        return QStringLiteral("Info ");
+    case QtCriticalMsg:
+        return QStringLiteral("Critical ");
+    case QtFatalMsg:
+        return QStringLiteral("Fatal ");
+    case QtWarningMsg:
+        break;
     }
     return {};
 }
@@ -48,9 +53,9 @@ void writeMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     QFile file(logPath());
     if (!file.open(QIODevice::Append | QIODevice::Text))
         return;
-    const QString line =
-        QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz ")) + level
-        + QString::fromUtf8(context.category) + QStringLiteral(": ") + message + u'\n';
+    const QString line
+        = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz ")) + level
+          + QString::fromUtf8(context.category) + QStringLiteral(": ") + message + u'\n';
     file.write(line.toUtf8());
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QApplication>
+#include <QScreen>
 
 #include <app/darkstyle.h>
 #include <app/logfile.h>
@@ -15,6 +16,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window;
+    // Where no window manager maximises it, the window fills the screen all the same.
+    window.resize(window.screen()->availableSize());
     window.showMaximized();
     return QApplication::exec();
 }

@@ -3,6 +3,8 @@
 
 #include <app/makerlinks.h>
 
+#include <QFocusEvent>
+
 namespace zuno {
 
 namespace {
@@ -30,6 +32,24 @@ QString mailLink()
 {
     const QString address = QStringLiteral(ZUNO_MAIL);
     return link(u"mailto:" + address, address);
+}
+
+bool LinkLabel::focusNextPrevChild(bool next)
+{
+    if (next || !hasSelectedText())
+        return QLabel::focusNextPrevChild(next);
+    // On the way back a QLabel selects its first link again and again and keeps the focus.
+    setSelection(0, 0);
+    return QWidget::focusNextPrevChild(next);
+}
+
+void LinkLabel::focusInEvent(QFocusEvent *event)
+{
+    QLabel::focusInEvent(event);
+    // A QLabel takes the focus first, and its link only with the next press.
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+        focusNextPrevChild(reason == Qt::TabFocusReason);
 }
 
 } // namespace zuno

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QLabel>
 #include <QString>
 
 namespace zuno {
@@ -12,5 +13,17 @@ namespace zuno {
 [[nodiscard]] QString webSiteLink(const QString &language);
 /// A link, as rich text, that starts a mail to the maker.
 [[nodiscard]] QString mailLink();
+
+/// Shows one link, which is reached with one press of Tab, ready for Enter; a text without a link
+/// is passed over.
+class LinkLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    bool focusNextPrevChild(bool next) override;
+    void focusInEvent(QFocusEvent *event) override;
+};
 
 } // namespace zuno

@@ -13,7 +13,7 @@ namespace zuno {
 namespace {
 
 // Copying a set of maps makes a burst of changes; one reload follows the last of them.
-constexpr std::chrono::milliseconds Rest{300};
+constexpr std::chrono::milliseconds Rest {300};
 
 } // namespace
 

@@ -16,11 +16,15 @@
 namespace zuno {
 
 SessionDisplay::SessionDisplay(const Parts &parts, QObject *parent)
-    : QObject(parent), m_library(parts.library), m_maps(parts.maps), m_settings(parts.settings),
-      m_writer(parts.writer)
+    : QObject(parent)
+    , m_library(parts.library)
+    , m_maps(parts.maps)
+    , m_settings(parts.settings)
+    , m_writer(parts.writer)
 {
     connect(&m_library, &AcquisitionLibrary::sessionAboutToBeRemoved, this,
             &SessionDisplay::onAboutToBeRemoved);
+    connect(&m_writer, &InformationWriter::written, &m_library, &AcquisitionLibrary::noteWritten);
 }
 
 qsizetype SessionDisplay::index() const
@@ -39,6 +43,7 @@ Session *SessionDisplay::findSessionByPath(const QString &path)
 bool SessionDisplay::display(const QString &path)
 {
     const QString clean = QDir::cleanPath(path);
+    m_library.refresh(clean);
     if (findSessionByPath(clean) == nullptr) {
         Session *added = m_library.add(clean, "onSessionDisplayedChange");
         if (added == nullptr) {

@@ -15,12 +15,12 @@ namespace {
 
 struct Entry
 {
-    Setting setting;
-    SettingsFile file;
-    const char16_t *key;
-    QMetaType::Type type;
+    Setting setting = Setting::Language;
+    SettingsFile file = SettingsFile::Config;
+    const char16_t *key = nullptr;
+    QMetaType::Type type = QMetaType::QString;
     /// "true" or "false"; for a folder, its place below the root; null for no default.
-    const char16_t *standard;
+    const char16_t *standard = nullptr;
     bool isDisplay = false;
 };
 

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileDialog>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLibraryInfo>
@@ -18,20 +19,22 @@
 #include <app/configurationwidget.h>
 #include <app/librarytree.h>
 #include <app/makerlinks.h>
+#include <app/sessionimport.h>
 #include <app/upgradepass.h>
 #include <maps/map.h>
 #include <maps/mapswidget.h>
 #include <session/laptimes.h>
 #include <session/numbers.h>
+#include <stats/sessioninfos.h>
 #include <views/lapsview.h>
 
 namespace zuno {
 
 namespace {
 
-const QString VerticalHandle = QStringLiteral(
-    "QSplitter::handle { image: url(:/Resources/split_v.png); }"
-    "QSplitter::handle:vertical { height: 8px;}");
+const QString VerticalHandle
+    = QStringLiteral("QSplitter::handle { image: url(:/Resources/split_v.png); }"
+                     "QSplitter::handle:vertical { height: 8px;}");
 const QString HorizontalHandle = QStringLiteral(
     "QSplitter::handle { image: url(:/Resources/split_h.png); }"
     "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }");
@@ -39,17 +42,18 @@ const QString TabHandle = QStringLiteral(
     "QSplitter::handle { image: url(:/Resources/split_v.png); }"
     "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }");
 
-constexpr std::array SplitterSettings{Setting::Splitter0Sizes, Setting::Splitter1Sizes,
-                                      Setting::Splitter2Sizes, Setting::Splitter3Sizes};
+constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitter1Sizes,
+                                       Setting::Splitter2Sizes, Setting::Splitter3Sizes};
 
 constexpr int MessageTime = 10000;
 
 } // namespace
 
 ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
-    : QMainWindow(parent), m_ui(std::make_unique<Ui::ZunoAnalyzer>()),
-      m_settings(Settings::defaultRoot()),
-      m_display({m_library, m_maps.library(), m_settings, m_writer})
+    : QMainWindow(parent)
+    , m_ui(std::make_unique<Ui::ZunoAnalyzer>())
+    , m_settings(Settings::defaultRoot())
+    , m_display({m_library, m_maps.library(), m_settings, m_writer})
 {
     m_ui->setupUi(this);
     m_languagesFolder = QCoreApplication::applicationDirPath() + u"/languages/";
@@ -58,8 +62,10 @@ ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
     m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
     m_ui->tw_arbo->installEventFilter(this);
     createActions();
+    createInfosPage();
     connectParts();
     showNothing();
+    showFirstLap();
     openMapsFolder();
     createSplitters();
     openAcquisitionFolder();
@@ -83,26 +89,36 @@ void ZunoAnalyzer::createActions()
                            + u')');
         connect(action, &QAction::triggered, this, run);
     };
-    add(tr("   Settings   "), QKeySequence(Qt::CTRL | Qt::Key_Comma),
-        &ZunoAnalyzer::openSettings);
+    add(tr("   Import   "), QKeySequence(Qt::CTRL | Qt::Key_I), &ZunoAnalyzer::importSession);
+    add(tr("   Settings   "), QKeySequence(Qt::CTRL | Qt::Key_Comma), &ZunoAnalyzer::openSettings);
     add(tr("   Maps   "), QKeySequence(Qt::CTRL | Qt::Key_M), &ZunoAnalyzer::openMaps);
     add(tr("   Help   "), QKeySequence(Qt::Key_F1), &ZunoAnalyzer::openHelp);
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
 }
 
+void ZunoAnalyzer::createInfosPage()
+{
+    m_infos = new SessionInfos({m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires,
+                                m_ui->cb_weather, m_ui->sb_trackTemp, m_ui->te_infos, m_ui->lb_date,
+                                m_ui->lb_circuit, m_ui->lb_bestLap, m_ui->lb_idealTime_2,
+                                m_ui->tabWidget},
+                               m_writer, this);
+    m_ui->webSite->setText(webSiteLink(m_language));
+    m_ui->mail->setText(mailLink());
+}
+
 void ZunoAnalyzer::createSplitters()
 {
-    const auto make = [](Qt::Orientation orientation, const QString &style,
-                         const QList<QWidget *> &contents) {
-        auto *splitter = new QSplitter(orientation);
-        for (QWidget *widget : contents)
-            splitter->addWidget(widget);
-        splitter->setStyleSheet(style);
-        return splitter;
-    };
+    const auto make
+        = [](Qt::Orientation orientation, const QString &style, const QList<QWidget *> &contents) {
+              auto *splitter = new QSplitter(orientation);
+              for (QWidget *widget : contents)
+                  splitter->addWidget(widget);
+              splitter->setStyleSheet(style);
+              return splitter;
+          };
     QTabWidget *tabs = m_ui->tabWidget;
-    m_splitters[0] =
-        make(Qt::Horizontal, VerticalHandle, {m_ui->lapsPane, m_ui->googleWidget});
+    m_splitters[0] = make(Qt::Horizontal, VerticalHandle, {m_ui->lapsPane, m_ui->googleWidget});
     m_splitters[0]->setStretchFactor(0, 1);
     m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_ui->bottomWidget});
     tabs->clear();
@@ -115,15 +131,17 @@ void ZunoAnalyzer::createSplitters()
     for (std::size_t i = 0; i < m_splitters.size(); ++i) {
         m_splitters[i]->setObjectName(QStringLiteral("splitter%1").arg(i));
         m_splitters[i]->restoreState(m_settings.value(SplitterSettings[i]).toByteArray());
-        connect(m_splitters[i], &QSplitter::splitterMoved, this,
-                &ZunoAnalyzer::saveSplitterStates);
+        connect(m_splitters[i], &QSplitter::splitterMoved, this, &ZunoAnalyzer::saveSplitterStates);
     }
     setCentralWidget(m_splitters[3]);
+    // Nothing is drawn there yet, and an empty pane would only take room from the laps.
+    m_ui->bottomWidget->hide();
 }
 
 void ZunoAnalyzer::connectParts()
 {
     connect(m_tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
+    connect(m_tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
     connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
@@ -141,6 +159,7 @@ void ZunoAnalyzer::connectParts()
     });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, this, &ZunoAnalyzer::showFirstLap);
+    connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
 }
 
@@ -203,6 +222,15 @@ void ZunoAnalyzer::onSessionDisplayedChange()
         m_display.display(m_tree->currentPath());
 }
 
+// Somebody else has replaced a session file, or goes on writing it.
+void ZunoAnalyzer::onFileChanged(const QString &path)
+{
+    const Session *displayed = m_display.session();
+    const bool isDisplayed = displayed != nullptr && displayed->filePath() == path;
+    if (m_library.refresh(path) && isDisplayed)
+        m_display.display(path);
+}
+
 void ZunoAnalyzer::onMapChanged(const QList<const Map *> &candidates, int mode)
 {
     m_display.onMapChanged(candidates, mode);
@@ -230,6 +258,21 @@ void ZunoAnalyzer::saveSplitterStates()
         m_settings.setValue(SplitterSettings[i], m_splitters[i]->saveState());
 }
 
+void ZunoAnalyzer::importSession()
+{
+    const Session *session = m_display.session();
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Select one or more session files to import"),
+        session != nullptr ? session->filePath() : QString(), tr("RA1 Files (*.ra1)"));
+    if (files.isEmpty())
+        return;
+    const ImportResult result = importSessions(files, m_settings.acquisitionFolder(), m_library);
+    tell(tr("Imported: %1, already there: %2, no session: %3")
+             .arg(result.imported)
+             .arg(result.skipped.size())
+             .arg(result.undecodable.size()));
+}
+
 void ZunoAnalyzer::openSettings()
 {
     ConfigurationWidget dialog(m_settings, this);
@@ -244,9 +287,8 @@ void ZunoAnalyzer::openMaps()
     MapsWidget dialog(m_maps.library().maps(), m_display.session(), this);
     connect(&dialog, &MapsWidget::mapChanged, this, &ZunoAnalyzer::onMapChanged);
     connect(&dialog, &MapsWidget::autoFindMap, this, &ZunoAnalyzer::detectMap);
-    connect(&m_maps, &MapFolder::changed, &dialog, [this, &dialog] {
-        dialog.setMaps(m_maps.library().maps(), m_display.session());
-    });
+    connect(&m_maps, &MapFolder::changed, &dialog,
+            [this, &dialog] { dialog.setMaps(m_maps.library().maps(), m_display.session()); });
     dialog.exec();
 }
 
@@ -275,6 +317,7 @@ void ZunoAnalyzer::showSession(Session *session)
     m_lapsView->showLaps();
     showLabels(session);
     showSectors(session);
+    m_infos->showSession(session);
     const bool hasLaps = !session->laps().empty();
     if (hasLaps)
         m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
@@ -318,7 +361,7 @@ void ZunoAnalyzer::showSectors(const Session *session)
     for (int sector = 0; sector < sectors; ++sector) {
         const auto s = static_cast<std::size_t>(sector);
         const qint32 lap = session->results().bestSectorLaps[s];
-        const QStringList texts{
+        const QStringList texts {
             QString::number(sector + 1),
             lap < 0 ? QString() : timeText(session->results().bestSectorTimes[s]),
             lap < 0 ? QString() : QString::number(lap + 1),
@@ -329,8 +372,10 @@ void ZunoAnalyzer::showSectors(const Session *session)
             table->setItem(sector, column, item);
         }
     }
+    table->horizontalHeader()->ensurePolished();
     table->resizeColumnsToContents();
-    table->resizeRowsToContents();
+    table->verticalHeader()->setDefaultSectionSize(
+        m_ui->tw_tours->verticalHeader()->defaultSectionSize());
     const int height = table->horizontalHeader()->sizeHint().height()
                        + table->verticalHeader()->length() + (2 * table->frameWidth());
     table->setFixedHeight(height);
@@ -348,6 +393,7 @@ void ZunoAnalyzer::showNothing()
     m_lapsView->showLaps();
     showLabels(nullptr);
     showSectors(nullptr);
+    m_infos->showSession(nullptr);
     showState(emptyState());
 }
 
@@ -393,10 +439,22 @@ void ZunoAnalyzer::showFirstLap()
                  QString::number(lap->maxSpeed())));
 }
 
+void ZunoAnalyzer::showComparison(const Lap *first, const Lap *second)
+{
+    const double seconds
+        = (static_cast<double>(second->lapTime()) - static_cast<double>(first->lapTime())) / 1000.0;
+    tell(tr("Lap %1 (%2) against lap %3 (%4): %5 s")
+             .arg(QString::number(second->lapNumber()), second->timeText(),
+                  QString::number(first->lapNumber()), first->timeText(),
+                  (seconds > 0 ? QStringLiteral("+") : QString())
+                      + QLocale().toString(seconds, 'f', 3)));
+}
+
 void ZunoAnalyzer::onValidityChanged(Session *session)
 {
     showLabels(session);
     showSectors(session);
+    m_infos->showSession(session);
     m_writer.write(*session);
 }
 

@@ -22,6 +22,7 @@ namespace zuno {
 
 class LapsView;
 class LibraryTree;
+class SessionInfos;
 
 namespace Ui {
 class ZunoAnalyzer;
@@ -52,6 +53,7 @@ public Q_SLOTS:
     /// Reads the maps again and displays the current session anew.
     void loadMaps();
     void saveSplitterStates();
+    void importSession();
     void openSettings();
     void openMaps();
     void openHelp();
@@ -63,6 +65,7 @@ protected:
 private:
     void switchTranslator(QTranslator &translator, const QString &file);
     void createActions();
+    void createInfosPage();
     void createSplitters();
     void connectParts();
     void openMapsFolder();
@@ -74,6 +77,8 @@ private:
     void showNothing();
     void showFirstLap();
     [[nodiscard]] QString emptyState() const;
+    void onFileChanged(const QString &path);
+    void showComparison(const Lap *first, const Lap *second);
     void onValidityChanged(Session *session);
     void tell(const QString &message);
 
@@ -90,7 +95,8 @@ private:
     SessionDisplay m_display;
     LapsView *m_lapsView = nullptr;
     LibraryTree *m_tree = nullptr;
-    std::array<QSplitter *, 4> m_splitters{};
+    SessionInfos *m_infos = nullptr;
+    std::array<QSplitter *, 4> m_splitters {};
 };
 
 } // namespace zuno

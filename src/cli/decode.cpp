@@ -65,7 +65,7 @@ void writeRecording(JsonWriter &json, const Session &session)
 void writeInformation(JsonWriter &json, const Session &session)
 {
     json.member("circuit", session.circuitName());
-    json.member("event", session.event());
+    json.member("event", session.eventName());
     json.member("driver", session.driver());
     json.member("bestLapText", session.bestLapText());
     json.member("idealTimeText", session.idealTimeText());
@@ -121,7 +121,7 @@ QByteArray asList(const Session &session)
     list.add(QStringLiteral("Opened before"),
              session.newSession() == 1 ? QStringLiteral("no") : QStringLiteral("yes"));
     list.add(QStringLiteral("Circuit"), session.circuitName());
-    list.add(QStringLiteral("Event"), session.event());
+    list.add(QStringLiteral("Event"), session.eventName());
     list.add(QStringLiteral("Driver"), session.driver());
     list.add(QStringLiteral("Vehicle"), session.vehicle());
     list.add(QStringLiteral("Condition"), session.condition());

@@ -21,7 +21,7 @@ struct TextKey
 };
 
 constexpr std::array TextKeys {
-    TextKey {u"circuit", &Session::setCircuitName}, TextKey {u"event", &Session::setEvent},
+    TextKey {u"circuit", &Session::setCircuitName}, TextKey {u"event", &Session::setEventName},
     TextKey {u"driver", &Session::setDriver},       TextKey {u"vehicle", &Session::setVehicle},
     TextKey {u"condition", &Session::setCondition}, TextKey {u"tyres", &Session::setTyres},
     TextKey {u"notes", &Session::setNotes},

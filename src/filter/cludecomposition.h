@@ -34,7 +34,7 @@ private:
     [[nodiscard]] CMatrix permuted(const CMatrix &b) const;
 
     CMatrix m_lu;
-    std::array<quint8, 255> m_pivots;
+    std::array<quint8, 255> m_pivots {};
     qint8 m_pivotSign = 1;
 };
 

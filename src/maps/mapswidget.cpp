@@ -9,6 +9,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QStaticText>
+#include <QTextDocument>
 #include <QTextOption>
 
 #include <session/session.h>
@@ -32,7 +33,7 @@ constexpr int NameMaximum = 60;
 QSize WrappedLabel::sizeHint() const
 {
     const int natural = fontMetrics().horizontalAdvance(text()) + 1;
-    const int width = std::min(natural, LabelMaximum * fontMetrics().averageCharWidth());
+    const int width = std::min(natural, LabelMaximum * fontMetrics().horizontalAdvance(u'X'));
     return {width, heightForWidth(width)};
 }
 
@@ -67,15 +68,18 @@ QStaticText WrappedLabel::wrapped(int width) const
 }
 
 MapsWidget::MapsWidget(const QList<const Map *> &maps, Session *session, QWidget *parent)
-    : QDialog(parent,
-              Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
-                  | Qt::WindowCloseButtonHint)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+                          | Qt::WindowCloseButtonHint)
     , m_ui(std::make_unique<Ui::MapsWidget>())
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
     // Both ends of a name tell maps apart: the folder and the circuit.
     m_ui->cb_otherMap->view()->setTextElideMode(Qt::ElideMiddle);
+    // A name that is too long for the box is whole in its tool tip.
+    connect(m_ui->cb_otherMap, &QComboBox::currentTextChanged, this, [this](const QString &name) {
+        m_ui->cb_otherMap->setToolTip(name.isEmpty() ? QString() : Qt::convertFromPlainText(name));
+    });
     connect(m_ui->cb_otherMap, &QComboBox::textActivated, this, &MapsWidget::chooseMap);
     connect(m_ui->pb_autoDetectMap, &QPushButton::clicked, this, &MapsWidget::autoFindMap);
     connect(m_ui->pb_ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -109,9 +113,8 @@ void MapsWidget::setMaps(const QList<const Map *> &maps, Session *session)
 void MapsWidget::showSession()
 {
     m_ui->lb_session->setText(
-        m_session != nullptr
-            ? tr("Choose other Map for session : %1").arg(m_session->fileName())
-            : tr("No session loaded"));
+        m_session != nullptr ? tr("Choose other Map for session : %1").arg(m_session->fileName())
+                             : tr("No session loaded"));
     m_ui->pb_autoDetectMap->setEnabled(m_session != nullptr);
     selectSessionMap();
 }

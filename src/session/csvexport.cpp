@@ -20,7 +20,7 @@ constexpr int CoordinateDecimals = 7;
 class CsvWriter
 {
 public:
-    explicit CsvWriter(QLocale locale) : m_locale(std::move(locale))
+    explicit CsvWriter(const QLocale &locale) : m_locale(locale)
     {
         const QString separator = m_locale.groupSeparator();
         const bool plain = std::all_of(separator.begin(), separator.end(),

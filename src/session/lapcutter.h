@@ -33,8 +33,8 @@ struct LapResults
     qint32 idealTime = -1;
     /// For each sector the best time in milliseconds (NoTime without one) and the index of its
     /// lap (-1 without one).
-    std::array<qint32, MaximumSectors> bestSectorTimes;
-    std::array<qint32, MaximumSectors> bestSectorLaps;
+    std::array<qint32, MaximumSectors> bestSectorTimes {};
+    std::array<qint32, MaximumSectors> bestSectorLaps {};
 };
 
 /// Cuts the samples of @p session into laps at its map's start/finish line, with all figures,

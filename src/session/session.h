@@ -85,7 +85,7 @@ public:
     void setInformation(SessionInformation information) { m_information = std::move(information); }
     /// Takes the display name of the map when it is given one.
     [[nodiscard]] QString circuitName() const { return m_information.circuitName.text(); }
-    [[nodiscard]] QString event() const { return m_information.event.text(); }
+    [[nodiscard]] QString eventName() const { return m_information.event.text(); }
     [[nodiscard]] QString driver() const { return m_information.driver.text(); }
     [[nodiscard]] QString vehicle() const { return m_information.vehicle.text(); }
     [[nodiscard]] QString condition() const { return m_information.condition.text(); }
@@ -93,7 +93,7 @@ public:
     [[nodiscard]] QString tyres() const { return m_information.tyres.text(); }
     [[nodiscard]] QString notes() const { return m_information.notes.text(); }
     void setCircuitName(const QString &text) { m_information.circuitName.set(text); }
-    void setEvent(const QString &text) { m_information.event.set(text); }
+    void setEventName(const QString &text) { m_information.event.set(text); }
     void setDriver(const QString &text) { m_information.driver.set(text); }
     void setVehicle(const QString &text) { m_information.vehicle.set(text); }
     void setCondition(const QString &text) { m_information.condition.set(text); }

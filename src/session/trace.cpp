@@ -82,7 +82,8 @@ PointAcquisition crossingPoint(const PointAcquisition &p1, const PointAcquisitio
     const auto stamp2 = static_cast<float>(p2.dataTimeStamp);
     PointAcquisition crossing = p1;
     crossing.dataTimeStamp = stampFromFloat(stamp1 + ((stamp2 - stamp1) * r));
-    crossing.dataTimeSec = p1.dataTimeStamp / 1000;
+    const quint32 wholeSeconds = p1.dataTimeStamp / 1000;
+    crossing.dataTimeSec = wholeSeconds;
     crossing.dataCoordX
         = p1.dataCoordX + ((p2.dataCoordX - p1.dataCoordX) * static_cast<double>(r));
     crossing.dataCoordY

@@ -15,8 +15,8 @@ const Lap *LapSelection::Choice::lap() const
 void LapSelection::setSession(Session *session)
 {
     m_current.session = session;
-    m_current.index =
-        session != nullptr && !session->laps().empty() ? session->results().bestLap : -1;
+    m_current.index
+        = session != nullptr && !session->laps().empty() ? session->results().bestLap : -1;
     Q_EMIT currentLapChanged();
 }
 

@@ -32,15 +32,24 @@ QString decimals(std::optional<float> value)
 int columnOf(Mark mark)
 {
     switch (mark) {
-    case Mark::MaximumSpeed: return LapsTableModel::MaxSpeed;
-    case Mark::LeftAngle: return LapsTableModel::LeftAngle;
-    case Mark::RightAngle: return LapsTableModel::RightAngle;
-    case Mark::Acceleration: return LapsTableModel::Accel;
-    case Mark::Deceleration: return LapsTableModel::Decel;
-    case Mark::FrontSuspensionMinimum: return LapsTableModel::MinFrontSusp;
-    case Mark::FrontSuspensionMaximum: return LapsTableModel::MaxFrontSusp;
-    case Mark::RearSuspensionMinimum: return LapsTableModel::MinRearSusp;
-    case Mark::RearSuspensionMaximum: return LapsTableModel::MaxRearSusp;
+    case Mark::MaximumSpeed:
+        return LapsTableModel::MaxSpeed;
+    case Mark::LeftAngle:
+        return LapsTableModel::LeftAngle;
+    case Mark::RightAngle:
+        return LapsTableModel::RightAngle;
+    case Mark::Acceleration:
+        return LapsTableModel::Accel;
+    case Mark::Deceleration:
+        return LapsTableModel::Decel;
+    case Mark::FrontSuspensionMinimum:
+        return LapsTableModel::MinFrontSusp;
+    case Mark::FrontSuspensionMaximum:
+        return LapsTableModel::MaxFrontSusp;
+    case Mark::RearSuspensionMinimum:
+        return LapsTableModel::MinRearSusp;
+    case Mark::RearSuspensionMaximum:
+        return LapsTableModel::MaxRearSusp;
     }
     return -1;
 }
@@ -77,20 +86,34 @@ std::optional<Setting> LapsTableModel::settingOf(int column)
 {
     switch (column) {
     case Number:
-    case LapTime: return std::nullopt;
-    case Type: return Setting::ShowLapType;
-    case CumulatedTime: return Setting::ShowCumulatedTime;
-    case MaxSpeed: return Setting::ShowMaxSpeed;
-    case MinSpeed: return Setting::ShowMinSpeed;
-    case LeftAngle: return Setting::ShowAngleLeft;
-    case RightAngle: return Setting::ShowAngleRight;
-    case Accel: return Setting::ShowAccel;
-    case Decel: return Setting::ShowDecel;
-    case MinFrontSusp: return Setting::ShowMinFrontSusp;
-    case MaxFrontSusp: return Setting::ShowMaxFrontSusp;
-    case MinRearSusp: return Setting::ShowMinRearSusp;
-    case MaxRearSusp: return Setting::ShowMaxRearSusp;
-    default: return Setting::ShowPartiels;
+    case LapTime:
+        return std::nullopt;
+    case Type:
+        return Setting::ShowLapType;
+    case CumulatedTime:
+        return Setting::ShowCumulatedTime;
+    case MaxSpeed:
+        return Setting::ShowMaxSpeed;
+    case MinSpeed:
+        return Setting::ShowMinSpeed;
+    case LeftAngle:
+        return Setting::ShowAngleLeft;
+    case RightAngle:
+        return Setting::ShowAngleRight;
+    case Accel:
+        return Setting::ShowAccel;
+    case Decel:
+        return Setting::ShowDecel;
+    case MinFrontSusp:
+        return Setting::ShowMinFrontSusp;
+    case MaxFrontSusp:
+        return Setting::ShowMaxFrontSusp;
+    case MinRearSusp:
+        return Setting::ShowMinRearSusp;
+    case MaxRearSusp:
+        return Setting::ShowMaxRearSusp;
+    default:
+        return Setting::ShowPartiels;
     }
 }
 
@@ -118,8 +141,10 @@ QVariant LapsTableModel::data(const QModelIndex &index, int role) const
         return {};
     const Lap &lap = lapAt(index);
     switch (role) {
-    case Qt::DisplayRole: return text(lap, index.column());
-    case Qt::TextAlignmentRole: return QVariant(Qt::AlignCenter);
+    case Qt::DisplayRole:
+        return text(lap, index.column());
+    case Qt::TextAlignmentRole:
+        return QVariant(Qt::AlignCenter);
     case SelectedRecordRole:
         if (isRowSelected(index) && distinctionOf(lap, index.column()) == Distinction::Record)
             return true;
@@ -128,8 +153,10 @@ QVariant LapsTableModel::data(const QModelIndex &index, int role) const
         if (isRowSelected(index) && distinctionOf(lap, index.column()) == Distinction::BestSection)
             return true;
         break;
-    case Qt::BackgroundRole: break;
-    default: return {};
+    case Qt::BackgroundRole:
+        break;
+    default:
+        return {};
     }
     return background(lap, index.column());
 }
@@ -137,21 +164,36 @@ QVariant LapsTableModel::data(const QModelIndex &index, int role) const
 QString LapsTableModel::text(const Lap &lap, int column) const
 {
     switch (column) {
-    case Number: return QString::number(lap.lapNumber());
-    case Type: return lap.isComplete() ? tr("Complete") : tr("Incomplete");
-    case CumulatedTime: return timeText(lap.cumulatedTime());
-    case LapTime: return lap.isComplete() ? lap.timeText() : QString();
-    case MaxSpeed: return QStringLiteral("%1 km/h").arg(lap.maxSpeed());
-    case MinSpeed: return QStringLiteral("%1 km/h").arg(lap.minSpeed());
-    case LeftAngle: return QStringLiteral("%1 d").arg(lap.minAngle());
-    case RightAngle: return QStringLiteral("%1 d").arg(lap.maxAngle());
-    case Accel: return decimals(lap.accelMax());
-    case Decel: return decimals(lap.decelMax());
-    case MinFrontSusp: return decimals(lap.suspension1().min);
-    case MaxFrontSusp: return decimals(lap.suspension1().max);
-    case MinRearSusp: return decimals(lap.suspension2().min);
-    case MaxRearSusp: return decimals(lap.suspension2().max);
-    default: return timeText(lap.sectorTime(column - FirstSection));
+    case Number:
+        return QString::number(lap.lapNumber());
+    case Type:
+        return lap.isComplete() ? tr("Complete") : tr("Incomplete");
+    case CumulatedTime:
+        return timeText(lap.cumulatedTime());
+    case LapTime:
+        return lap.isComplete() ? lap.timeText() : QString();
+    case MaxSpeed:
+        return QStringLiteral("%1 km/h").arg(lap.maxSpeed());
+    case MinSpeed:
+        return QStringLiteral("%1 km/h").arg(lap.minSpeed());
+    case LeftAngle:
+        return QStringLiteral("%1 d").arg(lap.minAngle());
+    case RightAngle:
+        return QStringLiteral("%1 d").arg(lap.maxAngle());
+    case Accel:
+        return decimals(lap.accelMax());
+    case Decel:
+        return decimals(lap.decelMax());
+    case MinFrontSusp:
+        return decimals(lap.suspension1().min);
+    case MaxFrontSusp:
+        return decimals(lap.suspension1().max);
+    case MinRearSusp:
+        return decimals(lap.suspension2().min);
+    case MaxRearSusp:
+        return decimals(lap.suspension2().max);
+    default:
+        return timeText(lap.sectorTime(column - FirstSection));
     }
 }
 
@@ -169,10 +211,14 @@ LapsTableModel::Distinction LapsTableModel::distinctionOf(const Lap &lap, int co
 QVariant LapsTableModel::background(const Lap &lap, int column) const
 {
     switch (distinctionOf(lap, column)) {
-    case Distinction::Invalid: return QColor(Qt::red);
-    case Distinction::Record: return QColor(Qt::darkGreen);
-    case Distinction::BestSection: return QColor(Qt::darkMagenta);
-    case Distinction::None: break;
+    case Distinction::Invalid:
+        return QColor(Qt::red);
+    case Distinction::Record:
+        return QColor(Qt::darkGreen);
+    case Distinction::BestSection:
+        return QColor(Qt::darkMagenta);
+    case Distinction::None:
+        break;
     }
     return {};
 }
@@ -187,7 +233,7 @@ QVariant LapsTableModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0
         || section >= HeaderCount)
         return {};
-    const std::array<QString, FirstSection> texts{
+    const std::array<QString, FirstSection> texts {
         tr("Lap"),
         tr("Type"),
         tr("Cumulated time"),

@@ -20,6 +20,9 @@ namespace zuno {
 
 namespace {
 
+// Above and below the text of a row together, pixels.
+constexpr int RowPadding = 8;
+
 QString mapNameOf(const Lap &lap)
 {
     const Map *map = lap.session().map();
@@ -29,16 +32,20 @@ QString mapNameOf(const Lap &lap)
 } // namespace
 
 LapsView::LapsView(QTableView &table, LapSelection &selection, const Settings &settings)
-    : QObject(&table), m_table(table), m_selection(selection), m_settings(settings),
-      m_model(new LapsTableModel(this)),
-      m_validity(makeAction(Qt::Key_V, &LapsView::toggleValidity)),
-      m_compare(makeAction(Qt::Key_C, &LapsView::compare)),
-      m_reselect(makeAction(Qt::Key_R, &LapsView::reselect)),
-      m_export(makeAction(QKeySequence(Qt::CTRL | Qt::Key_E), &LapsView::exportLap))
+    : QObject(&table)
+    , m_table(table)
+    , m_selection(selection)
+    , m_settings(settings)
+    , m_model(new LapsTableModel(this))
+    , m_validity(makeAction(Qt::Key_V, &LapsView::toggleValidity))
+    , m_compare(makeAction(Qt::Key_C, &LapsView::compare))
+    , m_reselect(makeAction(Qt::Key_R, &LapsView::reselect))
+    , m_export(makeAction(QKeySequence(Qt::CTRL | Qt::Key_E), &LapsView::exportLap))
 {
     m_table.setModel(m_model);
     m_table.setItemDelegate(new CustomTableViewDelegate(this));
     m_table.verticalHeader()->hide();
+    m_table.verticalHeader()->setDefaultSectionSize(m_table.fontMetrics().height() + RowPadding);
     m_table.horizontalHeader()->setHighlightSections(false);
     m_table.setToolTip(tr("V throws a lap out or takes it back, C compares, Ctrl+E exports; the "
                           "menu key shows everything that can be done with a lap"));
@@ -79,6 +86,8 @@ void LapsView::showLaps()
     const Session *session = m_selection.session();
     m_model->setLaps(session != nullptr ? &session->laps() : nullptr);
     applyColumns();
+    // Before the window is shown, the header does not know its padding yet and would cut its texts.
+    m_table.horizontalHeader()->ensurePolished();
     m_table.resizeColumnsToContents();
     selectCurrentRow();
     updateActions();
@@ -89,8 +98,7 @@ void LapsView::applyColumns()
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const auto setting = LapsTableModel::settingOf(column);
         // A key that was taken out of the settings file hides its column.
-        const bool shown =
-            !setting || (m_settings.isStored(*setting) && m_settings.isOn(*setting));
+        const bool shown = !setting || (m_settings.isStored(*setting) && m_settings.isOn(*setting));
         m_table.setColumnHidden(column, !shown);
     }
 }
@@ -124,9 +132,8 @@ void LapsView::updateActions()
     m_compare->setText(hasFirst ? tr("Compare to this lap") : tr("Compare this lap with..."));
     m_compare->setEnabled(lap != nullptr && (!hasFirst || isSecondLap()));
     m_reselect->setEnabled(hasFirst);
-    m_export->setEnabled(
-        lap != nullptr
-        && isSignalConnected(QMetaMethod::fromSignal(&LapsView::exportRequested)));
+    m_export->setEnabled(lap != nullptr
+                         && isSignalConnected(QMetaMethod::fromSignal(&LapsView::exportRequested)));
 }
 
 void LapsView::fillMenu(QMenu &menu)

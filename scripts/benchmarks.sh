@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# Builds the core's benchmarks as for release and runs them: a table of ratios, then the timings.
+# Fails when an aim is missed.
+#   scripts/benchmarks.sh [options of Google Benchmark]   (--benchmark_filter=NONE: the table only)
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+[[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
+
+scripts/install-dependencies.sh --core
+# In a folder of its own: without the window, and whatever build/release is set to stays.
+build=build/benchmarks
+{
+    cmake --preset release -B "$build" -DGUI=OFF
+    cmake --build "$build" --target bench_core
+} >&2
+exec "$build/bin/bench_core" "$@"
