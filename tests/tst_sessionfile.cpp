@@ -124,6 +124,8 @@ private:
 
 OpenedSession TestSessionFile::opened(const QByteArray &bytes) const
 {
+    // A new file each time: some file systems wait for the disk when one is written over.
+    QFile::remove(m_path);
     QFile file(m_path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write the test's file");

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QComboBox>
 #include <QFile>
+#include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleFactory>
@@ -26,6 +27,29 @@ constexpr QColor disabledHighlight(80, 80, 80);
 constexpr QColor focus(255, 180, 84);
 constexpr int rowAir = 6;
 
+// Filled edges are as wide on every side at every scale, which a pen's are not.
+void drawFocusFrame(const QRect &frame, QPainter &painter)
+{
+    painter.fillRect(frame.x(), frame.y(), frame.width(), 1, focus);
+    painter.fillRect(frame.x(), frame.bottom(), frame.width(), 1, focus);
+    painter.fillRect(frame.x(), frame.y(), 1, frame.height(), focus);
+    painter.fillRect(frame.right(), frame.y(), 1, frame.height(), focus);
+}
+
+// Not in the style sheet: with a rule for these arrows Qt 6.4 draws the row numbers of every table
+// too high.
+void drawSortArrow(const QStyleOptionHeader &header, QPainter &painter)
+{
+    if (header.sortIndicator == QStyleOptionHeader::None) {
+        return;
+    }
+    const bool up = header.sortIndicator == QStyleOptionHeader::SortUp;
+    const QIcon arrow(up ? QStringLiteral(":/darkstyle/arrow-up.png")
+                         : QStringLiteral(":/darkstyle/arrow-down.png"));
+    arrow.paint(&painter, header.rect, Qt::AlignCenter,
+                header.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled);
+}
+
 } // namespace
 
 DarkStyle::DarkStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -33,17 +57,17 @@ DarkStyle::DarkStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusio
 void DarkStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                               QPainter *painter, const QWidget *widget) const
 {
-    if (element != PE_FrameFocusRect
-        || qobject_cast<const QAbstractItemView *>(widget) == nullptr) {
+    const auto *const header = qstyleoption_cast<const QStyleOptionHeader *>(option);
+    if (element == PE_IndicatorHeaderArrow && header != nullptr) {
+        drawSortArrow(*header, *painter);
+    } else if (element == PE_FrameFocusRect && qobject_cast<const QAbstractItemView *>(widget)) {
+        // In the list of a combo box the chosen row is the current one.
+        if (!widget->inherits("QComboBoxListView")) {
+            drawFocusFrame(option->rect, *painter);
+        }
+    } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-        return;
     }
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(focus);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-    painter->restore();
 }
 
 QSize DarkStyle::sizeFromContents(ContentsType type, const QStyleOption *option,

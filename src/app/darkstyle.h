@@ -15,8 +15,8 @@ class DarkStyle final : public QProxyStyle
 public:
     DarkStyle();
 
-    /// Draws the frame around the current cell of a view, which Fusion makes too faint to be seen
-    /// on a dark ground.
+    /// Draws the frame around the current cell of a view and the arrow of a sorted column, which
+    /// Fusion makes too faint to be seen on a dark ground.
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     /// Gives the rows of trees and lists some air: as Fusion has them, check boxes touch each

@@ -17,8 +17,7 @@ DownloadInProgress::DownloadInProgress(QWidget *parent)
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
-    // The window may be closed before the main window is there; being the last one then must not
-    // end the program.
+    // Closing the main window ends the program, a download under way or not.
     setAttribute(Qt::WA_QuitOnClose, false);
     connect(m_ui->pb_cancel, &QPushButton::clicked, this, &DownloadInProgress::cancel);
 }

@@ -148,9 +148,11 @@ void LibraryTree::setFolder(const QString &folder)
 void LibraryTree::connectModel()
 {
     connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        // From here on the rider decides what is selected.
+        // From here on the rider decides what is selected. When the selected file vanishes, its
+        // neighbour becomes current, but nobody has asked to see it.
         m_isRestored = true;
-        Q_EMIT currentChanged();
+        if (m_view.selectionModel()->hasSelection())
+            Q_EMIT currentChanged();
     });
     connect(m_model.get(), &QFileSystemModel::directoryLoaded, this,
             &LibraryTree::restoreSelection);

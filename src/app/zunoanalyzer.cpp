@@ -85,8 +85,10 @@ void ZunoAnalyzer::createActions()
     const auto add = [this](const QString &text, const QKeySequence &shortcut, auto run) {
         QAction *action = menuBar()->addAction(text);
         action->setShortcut(shortcut);
-        action->setToolTip(text.trimmed() + u" (" + shortcut.toString(QKeySequence::NativeText)
-                           + u')');
+        // A menu bar shows no tool tips; the status bar tells the keys instead.
+        const QString keys = shortcut.toString(QKeySequence::NativeText);
+        action->setToolTip(QStringLiteral("%1 (%2)").arg(text.trimmed(), keys));
+        action->setStatusTip(action->toolTip());
         connect(action, &QAction::triggered, this, run);
     };
     add(tr("   Import   "), QKeySequence(Qt::CTRL | Qt::Key_I), &ZunoAnalyzer::importSession);

@@ -86,9 +86,6 @@ void LapsView::showLaps()
     const Session *session = m_selection.session();
     m_model->setLaps(session != nullptr ? &session->laps() : nullptr);
     applyColumns();
-    // Before the window is shown, the header does not know its padding yet and would cut its texts.
-    m_table.horizontalHeader()->ensurePolished();
-    m_table.resizeColumnsToContents();
     selectCurrentRow();
     updateActions();
 }
@@ -101,6 +98,9 @@ void LapsView::applyColumns()
         const bool shown = !setting || (m_settings.isStored(*setting) && m_settings.isOn(*setting));
         m_table.setColumnHidden(column, !shown);
     }
+    // Before the window is shown, the header does not know its padding yet and would cut its texts.
+    m_table.horizontalHeader()->ensurePolished();
+    m_table.resizeColumnsToContents();
 }
 
 void LapsView::selectCurrentRow()
