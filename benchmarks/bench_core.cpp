@@ -98,7 +98,7 @@ struct Comparison
 {
     Work measured;
     Work baseline;
-    double aim;
+    double aim = 0.0;
 
     /// Prints a line of the table; whether the aim is met. A machine that gets slower or faster
     /// meanwhile does so for both, and which goes first changes from turn to turn.

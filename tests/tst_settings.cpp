@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <memory>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

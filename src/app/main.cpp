@@ -19,5 +19,9 @@ int main(int argc, char *argv[])
     // Where no window manager maximises it, the window fills the screen all the same.
     window.resize(window.screen()->availableSize());
     window.showMaximized();
+    const QStringList files = QCoreApplication::arguments().mid(1);
+    if (!files.isEmpty())
+        QMetaObject::invokeMethod(
+            &window, [&window, files] { window.openFile(files.first()); }, Qt::QueuedConnection);
     return QApplication::exec();
 }

@@ -20,6 +20,9 @@ struct ImportResult
     QStringList undecodable;
 };
 
+/// Where a file of that name stands once it is imported.
+[[nodiscard]] QString importedPath(const QString &acquisitionFolder, const QString &fileName);
+
 /// Copies session files into the folder "Imported Sessions" of the acquisition folder, which is
 /// made when it is missing, and loads them. An existing file is never overwritten.
 ImportResult importSessions(const QStringList &files, const QString &acquisitionFolder,

@@ -11,12 +11,13 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLibraryInfo>
+#include <QMessageBox>
 #include <QSplitter>
 #include <QUrl>
 
 #include <app/aboutwidget.h>
 #include <app/configurationwidget.h>
+#include <app/exportdialogs.h>
 #include <app/librarytree.h>
 #include <app/makerlinks.h>
 #include <app/sessionimport.h>
@@ -161,6 +162,11 @@ void ZunoAnalyzer::connectParts()
     });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, this, &ZunoAnalyzer::showFirstLap);
+    auto *exports = new ExportDialogs(this);
+    connect(m_tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
+    connect(m_tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
+    connect(m_lapsView, &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
+    connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
     connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
 }
@@ -268,11 +274,36 @@ void ZunoAnalyzer::importSession()
         session != nullptr ? session->filePath() : QString(), tr("RA1 Files (*.ra1)"));
     if (files.isEmpty())
         return;
+    importFiles(files);
+}
+
+void ZunoAnalyzer::importFiles(const QStringList &files)
+{
     const ImportResult result = importSessions(files, m_settings.acquisitionFolder(), m_library);
     tell(tr("Imported: %1, already there: %2, no session: %3")
              .arg(result.imported)
              .arg(result.skipped.size())
              .arg(result.undecodable.size()));
+}
+
+void ZunoAnalyzer::openFile(const QString &path)
+{
+    const QString clean = QFileInfo(path).absoluteFilePath();
+    if (m_library.find(clean) != nullptr) {
+        m_tree->select(clean);
+        return;
+    }
+    const QString name = QFileInfo(clean).fileName();
+    // Displaying a file writes to it, so only files of the library are displayed.
+    const auto answer = QMessageBox::question(
+        this, windowTitle(),
+        tr("\"%1\" is not in your library. Do you want to import it?").arg(name));
+    if (answer != QMessageBox::Yes)
+        return;
+    importFiles({clean});
+    const QString imported = importedPath(m_settings.acquisitionFolder(), name);
+    if (m_library.find(imported) != nullptr)
+        m_tree->select(imported);
 }
 
 void ZunoAnalyzer::openSettings()

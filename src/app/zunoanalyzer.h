@@ -45,6 +45,8 @@ public:
     /// The session with that file path, which becomes the displayed one; nullptr without one.
     Session *findSessionByPath(const QString &path);
     [[nodiscard]] QMap<QString, bool> viewedStateMap() const;
+    /// Selects a session file of the library; one from elsewhere is offered for import.
+    void openFile(const QString &path);
 
 public Q_SLOTS:
     void onSessionDisplayedChange();
@@ -68,6 +70,7 @@ private:
     void createInfosPage();
     void createSplitters();
     void connectParts();
+    void importFiles(const QStringList &files);
     void openMapsFolder();
     void openAcquisitionFolder();
     void showSession(Session *session);
