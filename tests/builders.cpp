@@ -172,7 +172,7 @@ Points circle(double radius, double from, double to, double step)
     return points;
 }
 
-std::unique_ptr<Session> sessionOf(Points points, qint64 whole)
+std::unique_ptr<Session> sessionOf(const Points &points, qint64 whole)
 {
     auto session = std::make_unique<Session>(u"/somewhere/Ride.ra1"_s);
     Recording recording;

@@ -110,7 +110,7 @@ struct NamedPlace
 [[nodiscard]] Points circle(double radius, double from, double to, double step);
 
 /// A session of these samples; only the first @p whole of them are in its file.
-[[nodiscard]] std::unique_ptr<Session> sessionOf(Points points,
+[[nodiscard]] std::unique_ptr<Session> sessionOf(const Points &points,
                                                  qint64 whole = std::numeric_limits<int>::max());
 /// A map with these named points and an outline of that length.
 [[nodiscard]] std::unique_ptr<Map> lineMap(double gate, double length,

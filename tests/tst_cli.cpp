@@ -91,6 +91,7 @@ private Q_SLOTS:
     void setsInPlace();
     void csvLocales_data();
     void csvLocales();
+    void csvIsSmoothed();
 
 private:
     struct Output
@@ -365,6 +366,8 @@ void TestCli::tables()
     QCOMPARE(parts.size(), 2);
     QVERIFY2(parts[0].startsWith(u"Map         /Spain/Valmora.map\n"), qPrintable(parts[0]));
     QVERIFY2(parts[0].contains(u"\nIdeal time  01:"), qPrintable(parts[0]));
+    const QStringList lines = parts[1].split(u'\n');
+    const qsizetype edge = lines[0].indexOf(u"Lap time") + 8;
     const QList<QStringList> rows = cells(parts[1]);
     QCOMPARE(rows.size(), laps.size() + 1);
     QStringList header {u"Lap"_s,    u"Type"_s,     u"Lap time"_s, u"Cumulated"_s,
@@ -383,6 +386,7 @@ void TestCli::tables()
         QCOMPARE(row[5].toInt(), lap[u"maxSpeed"].toInt());
         QCOMPARE(row[7].toInt(), lap[u"minAngle"].toInt());
         QCOMPARE(row[10], QString::number(lap[u"decelMax"].toDouble(), 'f', 2));
+        QVERIFY2(lines[i + 1].left(edge).endsWith(u' ' + row[2]), "aligned on the right");
         QCOMPARE(row.last().endsWith(u'*'), lap[u"bestSectorFlags"].toArray().last().toBool());
     }
     const QString samples = QString::fromUtf8(zuno({u"decode"_s, u"good.ra1"_s}).out);
@@ -420,6 +424,7 @@ void TestCli::demoLaps()
         QCOMPARE(laps[i][u"complete"].toBool(), isFull);
         if (!isFull)
             continue;
+        QVERIFY2(laps[i][u"accelMax"].toDouble() > 0.1, "not smoothed");
         int sum = 0;
         const QJsonArray sectors = laps[i][u"sectors"].toArray();
         for (const auto &sector : sectors) {
@@ -586,6 +591,20 @@ void TestCli::csvLocales()
              lap.out.left(80));
     const int points = laps(m_valmora)[u"laps"][1][u"points"].toInt();
     QCOMPARE(lap.out.count('\n'), points + 2);
+}
+
+void TestCli::csvIsSmoothed()
+{
+    const QByteArrayList lines = zuno({u"csv"_s, m_valmora}).out.split('\n');
+    const QJsonArray points
+        = zuno({u"decode"_s, u"--json"_s, u"--smooth"_s, m_valmora}).json()[u"points"].toArray();
+    QCOMPARE(lines.size(), points.size() + 1);
+    const QByteArrayList fields = lines[2000].split(';');
+    const auto text = [&points](const char16_t *key) {
+        return QByteArray::number(points[1999][key].toDouble()).replace('.', ',');
+    };
+    QCOMPARE(fields.value(3), text(u"dataSpeed"));
+    QCOMPARE(fields.value(4), text(u"dataAccelXPHComputed"));
 }
 
 QTEST_GUILESS_MAIN(TestCli)

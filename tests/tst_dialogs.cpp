@@ -162,12 +162,12 @@ class UrlCatcher : public QObject
 public:
     UrlCatcher()
     {
-        for (const QString &scheme : Schemes)
+        for (const QString &scheme : m_schemes)
             QDesktopServices::setUrlHandler(scheme, this, "take");
     }
     ~UrlCatcher() override
     {
-        for (const QString &scheme : Schemes)
+        for (const QString &scheme : m_schemes)
             QDesktopServices::unsetUrlHandler(scheme);
     }
 
@@ -177,8 +177,8 @@ public Q_SLOTS:
     void take(const QUrl &url) { urls.append(url.toString()); }
 
 private:
-    const QStringList Schemes {QStringLiteral("https"), QStringLiteral("http"),
-                               QStringLiteral("mailto")};
+    const QStringList m_schemes {QStringLiteral("https"), QStringLiteral("http"),
+                                 QStringLiteral("mailto")};
 };
 
 bool show(QDialog &dialog)

@@ -33,10 +33,10 @@ QList<NamedPlace> places(const QString &description)
 /// A session cut into laps.
 struct Cut
 {
-    Cut(Points points, double gate, double length, const QString &timing = {},
+    Cut(const Points &points, double gate, double length, const QString &timing = {},
         const Numbers &invalid = {}, qint64 whole = 1000000)
         : map(lineMap(gate, length, places(timing)))
-        , session(sessionOf(std::move(points), whole))
+        , session(sessionOf(points, whole))
     {
         session->setInvalidLaps(invalid);
         session->setMap(map.get());
@@ -180,6 +180,7 @@ void TestLaps::cuts_data()
     row("a tenth too long, more", two, noneComplete, Shorter - 0.001);
     row("a tenth too short, less", two, allComplete, Longer - 0.001);
     row("a tenth too short, more", two, noneComplete, Longer + 0.001);
+    row("the first and the last as long", two, noneComplete, 45.0);
     row("a map without outline", two, noneComplete, 0.0);
     row("the fastest is not the first", lapRide({1, 0, 2}),
         "1 0-440; 2 440-4040 c; 3 4040-7540 cb; 4 7540-11240 c; 5 11240-11700");
@@ -318,6 +319,7 @@ void TestLaps::sectors_data()
     row("ten and more", u"Time 0@100;Time 1@250;Time 10@200"_s,
         "- - - | 2000* - - | 2000 - - | - - -", 1999);
     row("at the lap's start", u"Time 0@0;Time 1@100"_s, "- - | 0* 1000* | 0 1000 | 0 -", 999);
+    row("just behind the lap's start", u"Time 0@2"_s, "- | 0* | 0 | 0", -1);
     row("too soon by a sample", u"Time 0@0;Time 1@90"_s, "- - | 0* - | 0 - | 0 -", -1);
     row("the first lap's first sector", u"Time 0@-300;Time 1@-150"_s, "- 1500* | - -", 1499,
         u"-404.05..45.95/10"_s);
@@ -356,10 +358,13 @@ void TestLaps::sectors()
         for (int sector = 0; sector < 8; ++sector) {
             const Points points = lap->sectorPoints(sector);
             QCOMPARE(points.empty(), lap->sectorTime(sector) == -1);
-            if (!points.empty())
-                QCOMPARE(
-                    static_cast<qint32>(points.back().dataTimeStamp - points.front().dataTimeStamp),
-                    lap->sectorTime(sector));
+            if (points.empty())
+                continue;
+            const PointAcquisition &first = points.front();
+            const PointAcquisition &last = points.back();
+            QCOMPARE(static_cast<qint32>(last.dataTimeStamp - first.dataTimeStamp),
+                     lap->sectorTime(sector));
+            QCOMPARE(last.acquisitionNumber - first.acquisitionNumber + 1, points.size());
         }
     }
 }

@@ -153,7 +153,8 @@ void TestMaps::counts_data()
     QTest::newRow("a small outline cut") << 0U << 1000U << 1 << 1000;
     QTest::newRow("a large one cut to a bit") << 0U << 1001U << 1 << 1;
     QTest::newRow("not quite half") << 0U << 1001U << 500 << 500;
-    QTest::newRow("half") << 0U << 1001U << 501 << 1001;
+    QTest::newRow("half") << 0U << 1002U << 501 << 1002;
+    QTest::newRow("more than half") << 0U << 1001U << 501 << 1001;
     QTest::newRow("a huge outline") << 0U << 0x7fffffffU << 3 << 3;
 }
 

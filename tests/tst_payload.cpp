@@ -56,7 +56,8 @@ const QString PointKeys = u"acquisitionNumber dataTimeStamp dataTimeSec dataCoor
 QString numbersIn(const QJsonValue &points)
 {
     QStringList numbers;
-    for (const QJsonValue &point : points.toArray())
+    const QJsonArray array = points.toArray();
+    for (const auto &point : array)
         numbers.append(QString::number(point[u"acquisitionNumber"].toInt()));
     return numbers.join(u' ');
 }
@@ -239,7 +240,8 @@ void TestPayload::landmarks()
     session->setMap(map.get());
     const QJsonObject lap = QJsonDocument::fromJson(lapPayload(*session->laps()[0])).object();
     QList<int> found;
-    for (const QJsonValue &mark : lap[u"landmarks"].toArray()) {
+    const QJsonArray landmarks = lap[u"landmarks"].toArray();
+    for (const auto &mark : landmarks) {
         const QGeoCoordinate where(mark[u"lat"].toDouble(), mark[u"lng"].toDouble());
         found.append(qRound(where.distanceTo(place(0))));
     }

@@ -21,7 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr float Largest = std::numeric_limits<float>::max();
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double Infinite = std::numeric_limits<double>::infinity();
 
@@ -179,17 +178,18 @@ void TestPoints::numbers()
 void TestPoints::channelFigures_data()
 {
     QTest::addColumn<QList<float>>("values");
-    QTest::addColumn<float>("mean");
-    QTest::addColumn<float>("min");
-    QTest::addColumn<float>("max");
+    QTest::addColumn<double>("mean");
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
     const auto fives = [](int count) { return QList<float>(count, 5.0F); };
-    QTest::newRow("none") << QList<float>() << 0.0F << Largest << -Largest;
-    QTest::newRow("ten") << fives(10) << 5.0F << 5.0F << 5.0F;
-    QTest::newRow("five count as ten") << fives(5) << 2.5F << 5.0F << 5.0F;
-    QTest::newRow("twenty count as ten") << fives(20) << 10.0F << 5.0F << 5.0F;
-    QTest::newRow("negative") << QList<float> {-3.0F, -7.0F, -5.0F} << -1.5F << -7.0F << -3.0F;
+    QTest::newRow("none") << QList<float>() << 0.0 << NoFixCoordinate << -NoFixCoordinate;
+    QTest::newRow("ten") << fives(10) << 5.0 << 5.0 << 5.0;
+    QTest::newRow("five count as ten") << fives(5) << 2.5 << 5.0 << 5.0;
+    QTest::newRow("twenty count as ten") << fives(20) << 10.0 << 5.0 << 5.0;
+    QTest::newRow("negative") << QList<float> {-3.0F, -7.0F, -5.0F} << -1.5 << -7.0 << -3.0;
     // In double precision the ones would not be lost.
-    QTest::newRow("single precision") << QList<float> {1e8F, 1, 1, 1, 1} << 1e7F << 1.0F << 1e8F;
+    QTest::newRow("single precision")
+        << QList<float> {1e8F, 1, 1, 1, 1, 1, 1, 1, 1, 1} << 1e7 << 1.0 << 1e8;
 }
 
 void TestPoints::channelFigures()
@@ -203,9 +203,9 @@ void TestPoints::channelFigures()
     }
     for (const SuspensionChannel &channel : {point.suspension1(), point.suspension2()}) {
         QCOMPARE(std::ssize(channel.readings), values.size());
-        QTEST(channel.mean, "mean");
-        QTEST(channel.min, "min");
-        QTEST(channel.max, "max");
+        QTEST(static_cast<double>(channel.mean), "mean");
+        QTEST(static_cast<double>(channel.min), "min");
+        QTEST(static_cast<double>(channel.max), "max");
     }
     QCOMPARE(point.hasReadings(), !values.isEmpty());
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <sys/stat.h>
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -226,10 +228,9 @@ void TestSessionFile::sampleCount_data()
     QTest::newRow("fewer than held") << 1U << 2 << 1;
     QTest::newRow("a short recording cut") << 1000U << 1 << 1000;
     QTest::newRow("a long one cut to a bit") << 1001U << 1 << 1;
-    // Behind the samples stand 2 bytes: with 500 samples left for 1001, 56 more are missing.
-    QTest::newRow("less than half left") << 1001U << 499 << 499;
     QTest::newRow("not quite half left") << 1001U << 500 << 500;
-    QTest::newRow("half left") << 1001U << 501 << 1001;
+    QTest::newRow("half left") << 1002U << 501 << 1002;
+    QTest::newRow("more than half left") << 1001U << 501 << 1001;
     QTest::newRow("nothing that memory could hold") << 0x7fffffffU << 3 << 3;
 }
 
@@ -242,7 +243,6 @@ void TestSessionFile::sampleCount()
     file.text("RA1").text("1.0.0.0").u32(claimed);
     for (int i = 1; i <= held * 7; ++i)
         file.u32(static_cast<quint32>(i));
-    file.u8(9).u8(9);
     const OpenedSession decoded = decodeSession(file, m_path);
     QVERIFY(decoded.session);
     const int whole = std::min(held, count);
@@ -337,6 +337,10 @@ void TestSessionFile::describes_data()
     QTest::newRow("no words") << SessionBytes {.words = {}, .listsFlag = 0}.bytes()
                               << u"2 of 2; 0 words; 03/05/2026 7 10:11:12 2.5; new 1 lists 0"_s
                               << NoInformation;
+    // The second sample ends after its time; three bytes are no number, but texts and a byte.
+    QTest::newRow("cut within a number")
+        << SessionBytes().bytes().left(SamplesAt + SampleSize + 4) + QByteArray("\0\7\0", 3)
+        << u"1 of 2; 0 words;  7  0; new 0 lists 0"_s << NoInformation;
     QTest::newRow("nothing behind the count")
         << SessionBytes {.samples = 0}.bytes().left(SamplesAt)
         << u"0 of 0; 0 words;  0  0; new 0 lists 0"_s << NoInformation;
@@ -369,6 +373,9 @@ void TestSessionFile::noFile()
     QCOMPARE(openSession(m_folder.filePath(u"none"_s)).error, SessionFileError::Unreadable);
     QCOMPARE(openSession(m_folder.path()).error, SessionFileError::Unreadable);
     QCOMPARE(opened({}).error, SessionFileError::NotASession);
+    // Opening a pipe would wait for somebody to write to it.
+    QCOMPARE(::mkfifo(m_folder.filePath(u"pipe"_s).toLocal8Bit(), 0600), 0);
+    QCOMPARE(openSession(m_folder.filePath(u"pipe"_s)).error, SessionFileError::Unreadable);
 }
 
 // Samples are read late: by then the file may be another one.

@@ -58,8 +58,10 @@ ConfigurationWidget::~ConfigurationWidget() = default;
 
 void ConfigurationWidget::storeValues() const
 {
+    QList<std::pair<Setting, QVariant>> values;
     for (const Choice &choice : Choices)
-        m_settings.setValue(choice.setting, (m_ui.get()->*choice.box)->isChecked());
+        values.append({choice.setting, (m_ui.get()->*choice.box)->isChecked()});
+    m_settings.setValues(values);
 }
 
 } // namespace zuno

@@ -40,6 +40,7 @@ bool LinkLabel::focusNextPrevChild(bool next)
         return QLabel::focusNextPrevChild(next);
     // On the way back a QLabel selects its first link again and again and keeps the focus.
     setSelection(0, 0);
+    // Past QLabel on purpose. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return QWidget::focusNextPrevChild(next);
 }
 

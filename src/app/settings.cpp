@@ -118,9 +118,15 @@ bool Settings::isStored(Setting setting) const
     return QSettings(path(entry.file), QSettings::IniFormat).value(key(setting)).isValid();
 }
 
-void Settings::setValue(Setting setting, const QVariant &value) const
+void Settings::setValues(const QList<std::pair<Setting, QVariant>> &values) const
 {
-    QSettings(path(entryOf(setting).file), QSettings::IniFormat).setValue(key(setting), value);
+    for (const SettingsFile file : {SettingsFile::Config, SettingsFile::Analyzer}) {
+        QSettings settings(path(file), QSettings::IniFormat);
+        for (const auto &[setting, value] : values) {
+            if (entryOf(setting).file == file)
+                settings.setValue(key(setting), value);
+        }
+    }
 }
 
 QString Settings::key(Setting setting)
@@ -142,8 +148,10 @@ void Settings::writeDisplayDefaults() const
 {
     if (isStored(Setting::ShowLapType))
         return;
+    QList<std::pair<Setting, QVariant>> values;
     for (const Setting setting : displaySettings())
-        setValue(setting, standardOf(entryOf(setting)));
+        values.append({setting, standardOf(entryOf(setting))});
+    setValues(values);
 }
 
 QString Settings::mapsFolder() const

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <utility>
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -61,7 +63,9 @@ public:
     [[nodiscard]] bool isOn(Setting setting) const { return value(setting).toBool(); }
     /// Whether the file holds a value.
     [[nodiscard]] bool isStored(Setting setting) const;
-    void setValue(Setting setting, const QVariant &value) const;
+    void setValue(Setting setting, const QVariant &value) const { setValues({{setting, value}}); }
+    /// Writes several values, each file once.
+    void setValues(const QList<std::pair<Setting, QVariant>> &values) const;
 
     /// The key of a setting, and the sixteen display settings in the order of the table.
     [[nodiscard]] static QString key(Setting setting);

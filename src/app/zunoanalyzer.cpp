@@ -262,8 +262,10 @@ void ZunoAnalyzer::loadMaps()
 
 void ZunoAnalyzer::saveSplitterStates()
 {
+    QList<std::pair<Setting, QVariant>> states;
     for (std::size_t i = 0; i < m_splitters.size(); ++i)
-        m_settings.setValue(SplitterSettings[i], m_splitters[i]->saveState());
+        states.append({SplitterSettings[i], m_splitters[i]->saveState()});
+    m_settings.setValues(states);
 }
 
 void ZunoAnalyzer::importSession()
@@ -351,6 +353,7 @@ void ZunoAnalyzer::showSession(Session *session)
     showLabels(session);
     showSectors(session);
     m_infos->showSession(session);
+    showFirstLap();
     const bool hasLaps = !session->laps().empty();
     if (hasLaps)
         m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);

@@ -28,8 +28,12 @@ public:
     [[nodiscard]] qint8 pivotSign() const { return m_pivotSign; }
 
 private:
-    void decomposeColumn(int j);
-    void pivotColumn(int j);
+    template<typename Rows, typename Cols>
+    void decompose(Rows rows, Cols cols);
+    template<typename Rows, typename Cols>
+    void pivotColumn(int j, Rows rows, Cols cols);
+    template<typename Size, typename Cols>
+    void substitute(float *x, Size n, Cols cols) const;
     [[nodiscard]] bool isSingular() const;
     [[nodiscard]] CMatrix permuted(const CMatrix &b) const;
 

@@ -39,10 +39,16 @@ Lap::Lap(const Session &session) : m_session(&session) {}
 
 void Lap::setPoints(Points points)
 {
+    const Trace trace(points);
+    setPoints(std::move(points), trace);
+}
+
+void Lap::setPoints(Points points, const Trace &trace)
+{
     m_points = std::move(points);
     computeExtremes();
     computeTurns();
-    computeSectors();
+    computeSectors(trace);
 }
 
 void Lap::setBestSector(int sector, bool best)
@@ -76,8 +82,10 @@ void Lap::computeExtremes()
         m_minAngle = std::min(m_minAngle, angle);
         m_accelMax = std::max(m_accelMax, point.dataAccelXPHComputed);
         m_decelMax = std::min(m_decelMax, point.dataAccelXPHComputed);
-        widen(m_suspension1, point.suspension1());
-        widen(m_suspension2, point.suspension2());
+        if (point.hasReadings()) {
+            widen(m_suspension1, point.suspension1());
+            widen(m_suspension2, point.suspension2());
+        }
     }
 }
 
@@ -107,13 +115,12 @@ void Lap::computeTurns()
     }
 }
 
-void Lap::computeSectors()
+void Lap::computeSectors(const Trace &trace)
 {
     m_distance = 0.0;
     m_sectors.clear();
     if (m_points.empty())
         return;
-    const Trace trace(m_points);
     const Map *map = m_session->map();
     const int sectorCount = map != nullptr ? map->sectorCount() : 0;
     std::optional<Gate> gate = sectorCount > 0 ? map->sectorGate(0) : std::nullopt;

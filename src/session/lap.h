@@ -15,6 +15,7 @@
 namespace zuno {
 
 class Session;
+class Trace;
 
 /// How many sectors a lap has at most.
 inline constexpr int MaximumSectors = 8;
@@ -53,6 +54,8 @@ public:
     /// Takes the lap's samples, in time order, and computes every figure from them. The lap number
     /// must be set before: the first sector of lap 1 has no time.
     void setPoints(Points points);
+    /// The same, for whoever has the samples' positions at hand.
+    void setPoints(Points points, const Trace &trace);
     void setIsBest(bool best) { m_isBest = best; }
     void setIsComplete(bool complete) { m_isComplete = complete; }
     void setIsValid(bool valid) { m_isValid = valid; }
@@ -113,7 +116,7 @@ private:
 
     void computeExtremes();
     void computeTurns();
-    void computeSectors();
+    void computeSectors(const Trace &trace);
     [[nodiscard]] const Sector *timedSector(int sector) const;
 
     const Session *m_session;

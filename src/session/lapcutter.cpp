@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <maps/map.h>
 #include <session/numbers.h>
@@ -53,10 +54,18 @@ private:
         if (m_coolDown > 0)
             --m_coolDown;
         if (!wentToLapBefore(i))
-            m_points.push_back(m_samples[i]);
+            append(i);
         if (m_coolDown == 0 && m_line.isCrossedAt(m_trace, i))
             crossLine(i);
         addDistance(i);
+    }
+
+    void append(std::size_t i) { append(m_samples[i], m_trace.at(i)); }
+
+    void append(const PointAcquisition &point, const QGeoCoordinate &position)
+    {
+        m_points.push_back(point);
+        m_positions.push_back(position);
     }
 
     // A stretch without positions at the line belongs to the old lap up to the moment of the
@@ -72,18 +81,24 @@ private:
         PointAcquisition crossing = m_samples[i];
         m_gapEnd = 0;
         m_points.pop_back();
+        m_positions.pop_back();
         if (next != Trace::None) {
             crossing = crossingPoint(m_samples[i], m_samples[next], m_line.centre());
             m_gapEnd = next;
             m_crossingStamp = crossing.dataTimeStamp;
             for (std::size_t j = i + 1; j < next; ++j) {
                 if (wentToLapBefore(j))
-                    m_points.push_back(m_samples[j]);
+                    append(j);
             }
         }
-        m_points.push_back(crossing);
+        const QGeoCoordinate position = positionOf(crossing);
+        append(crossing, position);
+        const std::size_t length = m_points.size();
         m_results.laps.push_back(makeCrossedLap());
-        m_points.assign(1, crossing);
+        // The next lap will be about as long.
+        m_points.reserve(length + (length / 8));
+        m_positions.reserve(length + (length / 8));
+        append(crossing, position);
         m_coolDown = CoolDown;
     }
 
@@ -91,8 +106,7 @@ private:
     {
         auto lap = std::make_unique<Lap>(m_session);
         lap->setLapNumber(static_cast<qint32>(m_results.laps.size()) + 1);
-        lap->setPoints(std::move(m_points));
-        m_points = {};
+        lap->setPoints(std::exchange(m_points, {}), Trace(std::exchange(m_positions, {})));
         return lap;
     }
 
@@ -124,7 +138,9 @@ private:
     Trace m_trace;
     Gate m_line;
     LapResults m_results;
+    // The lap that is being ridden.
     Points m_points;
+    std::vector<QGeoCoordinate> m_positions;
     std::size_t m_previous = Trace::None;
     std::size_t m_gapEnd = 0;
     quint32 m_crossingStamp = 0;

@@ -4,22 +4,8 @@
 #include <session/numbers.h>
 
 #include <cmath>
-#include <limits>
 
 namespace zuno {
-
-qint32 truncatedToInt(double value)
-{
-    // The comparisons are false for NaN.
-    if (value > -2147483649.0 && value < 2147483648.0)
-        return static_cast<qint32>(value);
-    return std::numeric_limits<qint32>::min();
-}
-
-qint32 roundedToInt(double value)
-{
-    return truncatedToInt(std::round(value));
-}
 
 quint32 stampFromFloat(float value)
 {

@@ -3,17 +3,36 @@
 
 #pragma once
 
+#include <limits>
+
 #include <QtGlobal>
 
 namespace zuno {
 
 /// @p value truncated toward zero; -2147483648 for NaN and for what a signed 32-bit integer
 /// cannot hold.
-[[nodiscard]] qint32 truncatedToInt(double value);
+[[nodiscard]] inline qint32 truncatedToInt(double value)
+{
+    // The comparisons are false for NaN.
+    if (value > -2147483649.0 && value < 2147483648.0)
+        return static_cast<qint32>(value);
+    return std::numeric_limits<qint32>::min();
+}
 
 /// @p value rounded to the nearest integer, halves away from zero; -2147483648 for NaN and for
 /// what a signed 32-bit integer cannot hold.
-[[nodiscard]] qint32 roundedToInt(double value);
+[[nodiscard]] inline qint32 roundedToInt(double value)
+{
+    const qint32 truncated = truncatedToInt(value);
+    // Exact: a double and its integer part differ by a double. Several times faster than
+    // std::round, and every sample of a lap is rounded.
+    const double rest = value - static_cast<double>(truncated);
+    if (rest >= 0.5 && rest < 1.0)
+        return truncatedToInt(static_cast<double>(truncated) + 1.0);
+    if (rest <= -0.5 && rest > -1.0)
+        return truncatedToInt(static_cast<double>(truncated) - 1.0);
+    return truncated;
+}
 
 /// A time stamp in whole milliseconds from a computed one: truncated toward zero, counted modulo
 /// 2^32 as the logger's counter does; 0 when @p value is not finite.

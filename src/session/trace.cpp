@@ -33,6 +33,8 @@ Trace::Trace(std::span<const PointAcquisition> points)
         m_positions.push_back(positionOf(point));
 }
 
+Trace::Trace(std::vector<QGeoCoordinate> positions) : m_positions(std::move(positions)) {}
+
 std::size_t Trace::next(std::size_t i) const
 {
     for (std::size_t j = i + 1; j < m_positions.size(); ++j) {

@@ -23,6 +23,8 @@ public:
     static constexpr std::size_t None = static_cast<std::size_t>(-1);
 
     explicit Trace(std::span<const PointAcquisition> points);
+    /// Of positions that are known already.
+    explicit Trace(std::vector<QGeoCoordinate> positions);
 
     [[nodiscard]] const QGeoCoordinate &at(std::size_t i) const { return m_positions[i]; }
     /// The next sample after @p i that has a position; None when there is none.

@@ -7,7 +7,8 @@ namespace zuno {
 
 const Lap *LapSelection::Choice::lap() const
 {
-    if (session.isNull() || index < 0 || static_cast<std::size_t>(index) >= session->laps().size())
+    if (session.isNull() || session->map() != map || index < 0
+        || static_cast<std::size_t>(index) >= session->laps().size())
         return nullptr;
     return session->laps()[static_cast<std::size_t>(index)].get();
 }
@@ -15,6 +16,7 @@ const Lap *LapSelection::Choice::lap() const
 void LapSelection::setSession(Session *session)
 {
     m_current.session = session;
+    m_current.map = session != nullptr ? session->map() : nullptr;
     m_current.index
         = session != nullptr && !session->laps().empty() ? session->results().bestLap : -1;
     Q_EMIT currentLapChanged();
@@ -30,7 +32,7 @@ void LapSelection::setCurrentLap(int index)
 
 void LapSelection::setFirstLap(Session *session, int index)
 {
-    m_first = {session, index};
+    m_first = {session, index, session != nullptr ? session->map() : nullptr};
     Q_EMIT firstLapChanged();
 }
 

@@ -50,6 +50,8 @@ private:
     {
         QPointer<Session> session;
         int index = -1;
+        /// On another map the session's laps are others.
+        const Map *map = nullptr;
 
         [[nodiscard]] const Lap *lap() const;
     };
