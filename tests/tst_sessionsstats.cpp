@@ -1,16 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <algorithm>
+#include <array>
 #include <memory>
 #include <vector>
 
 #include <QAbstractItemModelTester>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
 #include <QWheelEvent>
@@ -124,10 +126,7 @@ void toggle(QComboBox &box, const QString &text)
 /// The window of a library, and its widgets.
 struct Window
 {
-    explicit Window(const QList<Session *> &sessions) : stats(sessions)
-    {
-        stats.setModal(false);
-    }
+    explicit Window(const QList<Session *> &sessions) : stats(sessions) { stats.setModal(false); }
     [[nodiscard]] bool show()
     {
         stats.show();
@@ -148,14 +147,12 @@ struct Window
     {
         QHeaderView &header = *table.horizontalHeader();
         table.scrollTo(table.model()->index(0, column));
-        const QPoint position(header.sectionViewportPosition(column) + header.sectionSize(column) / 2,
+        const QPoint position(header.sectionViewportPosition(column)
+                                  + header.sectionSize(column) / 2,
                               header.height() / 2);
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, position);
     }
-    void clickReset() const
-    {
-        stats.findChild<QPushButton *>(u"pb_reset"_s)->click();
-    }
+    void clickReset() const { stats.findChild<QPushButton *>(u"pb_reset"_s)->click(); }
     [[nodiscard]] QString count() const { return stats.findChild<QLabel *>(u"lb_count"_s)->text(); }
 
     SessionsStats stats;
@@ -172,6 +169,8 @@ class TestSessionsStats : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+
     void filterRules_data();
     void filterRules();
     void valuesAreCollected_data();
@@ -209,6 +208,12 @@ private Q_SLOTS:
     void textsArePlain();
 };
 
+// The signal's argument is a class that its header only announces.
+void TestSessionsStats::initTestCase()
+{
+    qRegisterMetaType<Session *>("zuno::Session*");
+}
+
 void TestSessionsStats::filterRules_data()
 {
     using Emptiness = SessionFilter::Emptiness;
@@ -241,7 +246,8 @@ void TestSessionsStats::filterRules_data()
     row("another date", full, F::Date, u"01/02/2026"_s, Any, false);
     row("empty date is no wildcard", u"||Hill|01:00.000"_s, F::Date, u"1/2/2026"_s, Any, false);
     row("empty date, listed", u"||Hill|01:00.000"_s, F::Date, u"-"_s, Any, true);
-    row("ideal time only", u"1/2/2026||Hill||00:59.000|R6|Paul"_s, F::Driver, u"Paul"_s, Listed, true);
+    row("ideal time only", u"1/2/2026||Hill||00:59.000|R6|Paul"_s, F::Driver, u"Paul"_s, Listed,
+        true);
     row("no times", u"1/2/2026||Hill|||R6|Paul"_s, F::Driver, u"Paul"_s, Listed, false);
 }
 
@@ -261,7 +267,8 @@ void TestSessionsStats::filterRules()
                             SessionFilter::Emptiness::Listed);
     filter.setCondition(static_cast<SessionFilter::Field>(field),
                         values == u'-' ? QStringList {QString()} : values.split(u','),
-                        anyEmpty ? SessionFilter::Emptiness::Any : SessionFilter::Emptiness::Listed);
+                        anyEmpty ? SessionFilter::Emptiness::Any
+                                 : SessionFilter::Emptiness::Listed);
     QCOMPARE(filter.accepts(*ride), accepted);
 }
 
@@ -420,7 +427,8 @@ void TestSessionsStats::entriesExcludeEachOther_data()
     QTest::newRow("one") << u"Bob"_s << u"All (empty) Ann [Bob] Paul"_s << u"Bob"_s;
     QTest::newRow("two") << u"Bob,Ann"_s << u"All (empty) [Ann] [Bob] Paul"_s << u"Multiple"_s;
     QTest::newRow("back to one") << u"Bob,Ann,Bob"_s << u"All (empty) [Ann] Bob Paul"_s << u"Ann"_s;
-    QTest::newRow("last one unchecked") << u"Bob,Bob"_s << u"[All] (empty) Ann Bob Paul"_s << u"All"_s;
+    QTest::newRow("last one unchecked")
+        << u"Bob,Bob"_s << u"[All] (empty) Ann Bob Paul"_s << u"All"_s;
     QTest::newRow("all") << u"Bob,Ann,All"_s << u"[All] (empty) Ann Bob Paul"_s << u"All"_s;
     QTest::newRow("all unchecked") << u"All"_s << u"[All] (empty) Ann Bob Paul"_s << u"All"_s;
     QTest::newRow("empty one") << u"(empty)"_s << u"All [(empty)] Ann Bob Paul"_s << u"(empty)"_s;
@@ -527,8 +535,8 @@ void TestSessionsStats::sorting_data()
 
     QTest::newRow("dates by time")
         << int(Column::Date)
-        << u"02/01/2026|9:00 01/02/2026|9:00 31/12/2025|23:59:59 01/02/2026|10:00"_s
-        << u"2 0 1 3"_s << u"3 1 0 2"_s;
+        << u"02/01/2026|9:00 01/02/2026|9:00 31/12/2025|23:59:59 01/02/2026|10:00"_s << u"2 0 1 3"_s
+        << u"3 1 0 2"_s;
     QTest::newRow("dates, year first")
         << int(Column::Date) << u"2026-02-10|9:00 2026-02-09|9:00 2025-12-31|9:00"_s << u"2 1 0"_s
         << u"0 1 2"_s;
@@ -552,9 +560,9 @@ void TestSessionsStats::sorting_data()
         << int(Column::Temperature)
         << u"|||1||||||9 |||1||||||99 |||1||||||100 |||1||||||10 |||1||||||0"_s << u"4 0 3 2 1"_s
         << u"2 3 0 4 1"_s;
-    QTest::newRow("texts whatever the case") << int(Column::Driver)
-                                             << u"|||1|||b |||1|||A |||1|||a |||1|||C"_s
-                                             << u"1 2 0 3"_s << u"3 0 1 2"_s;
+    QTest::newRow("texts whatever the case")
+        << int(Column::Driver) << u"|||1|||b |||1|||A |||1|||a |||1|||C"_s << u"1 2 0 3"_s
+        << u"3 0 1 2"_s;
 }
 
 void TestSessionsStats::sorting()
@@ -707,7 +715,8 @@ void TestSessionsStats::currentRowStays()
 
 void TestSessionsStats::popupByKeyboard()
 {
-    const Sessions sessions {"1/1/2026||Hill|01:00.000||R6|Paul", "2/1/2026||Hill|01:00.000||R6|Ann"};
+    const Sessions sessions {"1/1/2026||Hill|01:00.000||R6|Paul",
+                             "2/1/2026||Hill|01:00.000||R6|Ann"};
     Window window(sessions.list());
     QVERIFY(window.show());
     CheckableComboBox &box = window.box("cb_driver");
@@ -734,7 +743,8 @@ void TestSessionsStats::popupByKeyboard()
 
 void TestSessionsStats::popupByMouse()
 {
-    const Sessions sessions {"1/1/2026||Hill|01:00.000||R6|Paul", "2/1/2026||Hill|01:00.000||R6|Ann"};
+    const Sessions sessions {"1/1/2026||Hill|01:00.000||R6|Paul",
+                             "2/1/2026||Hill|01:00.000||R6|Ann"};
     Window window(sessions.list());
     QVERIFY(window.show());
     CheckableComboBox &box = window.box("cb_driver");

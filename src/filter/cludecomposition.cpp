@@ -14,7 +14,7 @@ CLUDecomposition::CLUDecomposition(const CMatrix &a) : m_lu(a)
     if (a.rows() == 2 && a.cols() == 2)
         decompose(FixedSize<2>(), FixedSize<2>());
     else
-        decompose<int, int>(a.rows(), a.cols());
+        decompose<quint8, quint8>(a.rows(), a.cols());
 }
 
 // Working in the column itself is the same as working in a copy of it: element k of the column
@@ -30,12 +30,12 @@ void CLUDecomposition::decompose(Rows rows, Cols cols)
                 sum += lu[(i * cols) + k] * lu[(k * cols) + j];
             lu[(i * cols) + j] -= sum;
         }
-        pivotColumn(j, rows, cols);
+        pivotColumn(static_cast<quint8>(j), rows, cols);
     }
 }
 
 template<typename Rows, typename Cols>
-void CLUDecomposition::pivotColumn(int j, Rows rows, Cols cols)
+void CLUDecomposition::pivotColumn(quint8 j, Rows rows, Cols cols)
 {
     float *lu = m_lu.data();
     int pivot = j;
@@ -106,7 +106,7 @@ CMatrix CLUDecomposition::solve(const CMatrix &b) const
     if (m_lu.cols() == 2 && b.cols() == 2)
         substitute(x.data(), FixedSize<2>(), FixedSize<2>());
     else
-        substitute<int, int>(x.data(), m_lu.cols(), b.cols());
+        substitute<quint8, quint8>(x.data(), m_lu.cols(), b.cols());
     return x;
 }
 

@@ -31,7 +31,7 @@ private:
     template<typename Rows, typename Cols>
     void decompose(Rows rows, Cols cols);
     template<typename Rows, typename Cols>
-    void pivotColumn(int j, Rows rows, Cols cols);
+    void pivotColumn(quint8 j, Rows rows, Cols cols);
     template<typename Size, typename Cols>
     void substitute(float *x, Size n, Cols cols) const;
     [[nodiscard]] bool isSingular() const;

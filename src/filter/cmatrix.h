@@ -152,8 +152,8 @@ void multiplyElements(const float *a, const float *b, float *c, Rows n, Inner k,
         multiplyElements(a.data(), b.data(), product.data(), FixedSize<2>(), FixedSize<2>(),
                          FixedSize<1>());
     } else {
-        multiplyElements<int, int, int>(a.data(), b.data(), product.data(), a.rows(), a.cols(),
-                                        b.cols());
+        multiplyElements<quint8, quint8, quint8>(a.data(), b.data(), product.data(), a.rows(),
+                                                 a.cols(), b.cols());
     }
     return product;
 }
@@ -195,7 +195,7 @@ void transposeElements(const float *a, float *result, Rows n, Cols m)
     if (a.rows() == 2 && a.cols() == 2)
         transposeElements(a.data(), result.data(), FixedSize<2>(), FixedSize<2>());
     else
-        transposeElements<int, int>(a.data(), result.data(), a.rows(), a.cols());
+        transposeElements<quint8, quint8>(a.data(), result.data(), a.rows(), a.cols());
     return result;
 }
 

@@ -11,8 +11,8 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStandardItemModel>
-#include <QStyledItemDelegate>
 #include <QStylePainter>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QWheelEvent>
 
@@ -52,6 +52,18 @@ QStandardItem *makeEntry(const QString &text, const QString &value)
     return item;
 }
 
+bool isToggleKey(int key)
+{
+    return key == Qt::Key_Space || key == Qt::Key_Select;
+}
+
+/// Whether the open list uses a key otherwise than Qt's own boxes do.
+bool isOwnKey(int key)
+{
+    return isToggleKey(key) || key == Qt::Key_Return || key == Qt::Key_Enter
+           || key == Qt::Key_Escape;
+}
+
 QString toolTipOf(const QString &plain)
 {
     return plain.isEmpty() ? QString() : Qt::convertFromPlainText(plain, Qt::WhiteSpaceNormal);
@@ -60,7 +72,9 @@ QString toolTipOf(const QString &plain)
 } // namespace
 
 CheckableComboBox::CheckableComboBox(QWidget *parent)
-    : QComboBox(parent), m_entries(new QStandardItemModel(this)), m_list(view())
+    : QComboBox(parent)
+    , m_entries(new QStandardItemModel(this))
+    , m_list(view())
 {
     m_entries->appendRow(makeEntry(tr("All"), {}));
     setModel(m_entries);
@@ -180,9 +194,18 @@ void CheckableComboBox::showPopup()
 bool CheckableComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::KeyPress:
-        if (watched == m_list && handleKey(*static_cast<QKeyEvent *>(event)))
+    case QEvent::ShortcutOverride:
+        // The box chooses the current entry even before Enter arrives as a key.
+        if (watched == m_list && isOwnKey(static_cast<QKeyEvent *>(event)->key())) {
+            event->accept();
             return true;
+        }
+        break;
+    case QEvent::KeyPress:
+        if (watched == m_list && isOwnKey(static_cast<QKeyEvent *>(event)->key())) {
+            handleKey(static_cast<QKeyEvent *>(event)->key());
+            return true;
+        }
         break;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -196,21 +219,12 @@ bool CheckableComboBox::eventFilter(QObject *watched, QEvent *event)
     return QComboBox::eventFilter(watched, event);
 }
 
-bool CheckableComboBox::handleKey(const QKeyEvent &event)
+void CheckableComboBox::handleKey(int key)
 {
-    switch (event.key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Select:
+    if (isToggleKey(key))
         toggle(m_list->currentIndex());
-        return true;
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-    case Qt::Key_Escape:
+    else
         hidePopup();
-        return true;
-    default:
-        return false;
-    }
 }
 
 // The whole entry can be clicked, not only its small box.

@@ -53,7 +53,7 @@ private:
     void check(const QList<int> &rows);
     void showState();
     void toggle(const QModelIndex &index);
-    bool handleKey(const QKeyEvent &event);
+    void handleKey(int key);
     bool handleMouse(const QMouseEvent &event);
 
     QStandardItemModel *m_entries;

@@ -41,8 +41,12 @@ constexpr std::array Filters {
 
 // Above and below the text of a row together, pixels.
 constexpr int RowPadding = 8;
-// Width of a column at most unless the rider widens it, in characters.
+// Left and right of the text of a cell together, pixels.
+constexpr int CellPadding = 8;
+// Widths of a column at most unless the rider widens it, in characters. The notes stand last and
+// get what the others leave.
 constexpr int ColumnWidth = 36;
+constexpr int NotesWidth = 22;
 
 /// Shows a text on one line, cut where it is too long, and whole in a tool tip: notes have many
 /// lines.
@@ -64,8 +68,10 @@ public:
                                  const QModelIndex &index) const override
     {
         const QSize size = QStyledItemDelegate::sizeHint(option, index);
-        const int widest = ColumnWidth * option.fontMetrics.averageCharWidth();
-        return {std::min(size.width(), widest), size.height()};
+        const bool isNotes = index.column() == SessionsStatsTableModel::Notes;
+        const int characters = isNotes ? NotesWidth : ColumnWidth;
+        const int widest = characters * option.fontMetrics.averageCharWidth();
+        return {std::min(size.width() + CellPadding, widest), size.height()};
     }
 
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
@@ -203,7 +209,8 @@ void SessionsStats::refresh()
 
 void SessionsStats::showCount()
 {
-    m_ui->lb_count->setText(tr("Sessions : %1 of %2").arg(m_model->rowCount()).arg(m_sessions.size()));
+    m_ui->lb_count->setText(
+        tr("Sessions : %1 of %2").arg(m_model->rowCount()).arg(m_sessions.size()));
 }
 
 void SessionsStats::fitColumns()

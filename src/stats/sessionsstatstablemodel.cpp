@@ -172,7 +172,8 @@ Value valueOf(const Session &session, int column)
 } // namespace
 
 SessionsStatsTableModel::SessionsStatsTableModel(const QList<Session *> &sessions, QObject *parent)
-    : QAbstractTableModel(parent), m_sessions(sessions)
+    : QAbstractTableModel(parent)
+    , m_sessions(sessions)
 {
 }
 
@@ -245,16 +246,8 @@ QVariant SessionsStatsTableModel::headerData(int section, Qt::Orientation orient
         || section >= ColumnCount)
         return {};
     const std::array<QString, ColumnCount> texts {
-        tr("Date"),
-        tr("Track"),
-        tr("Best Lap"),
-        tr("Ideal Time"),
-        tr("Vehicle"),
-        tr("Driver"),
-        tr("Event"),
-        tr("Track condition"),
-        tr("Track temperature"),
-        tr("Tires"),
+        tr("Date"),   tr("Track"), tr("Best Lap"),        tr("Ideal Time"),        tr("Vehicle"),
+        tr("Driver"), tr("Event"), tr("Track condition"), tr("Track temperature"), tr("Tires"),
         tr("Notes"),
     };
     return texts[static_cast<std::size_t>(section)];
@@ -281,7 +274,8 @@ bool SessionsStatsTableModel::removeRows(int row, int count, const QModelIndex &
 }
 
 SessionsSortModel::SessionsSortModel(SessionsStatsTableModel &model, QObject *parent)
-    : QSortFilterProxyModel(parent), m_model(model)
+    : QSortFilterProxyModel(parent)
+    , m_model(model)
 {
     setSortCaseSensitivity(Qt::CaseInsensitive);
     setSourceModel(&model);
