@@ -167,8 +167,11 @@ QString lapRide(const QList<int> &standing)
 Points circle(double radius, double from, double to, double step)
 {
     Points points;
-    for (double way = from; way < to; way += step)
+    const auto count = static_cast<int>(std::ceil((to - from) / step));
+    for (int i = 0; i < count; ++i) {
+        const double way = from + (i * step);
         append(points, place(radius * std::sin(way / radius), radius * std::cos(way / radius)));
+    }
     return points;
 }
 

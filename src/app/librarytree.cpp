@@ -267,10 +267,12 @@ QList<Session *> LibraryTree::selectedSessions() const
     return sessions;
 }
 
-// The folders and files that the logger itself names stay as they are.
+// The folders and files that the logger itself names stay as they are, and so does the library's
+// own folder, which is current until something in it is.
 bool LibraryTree::isCurrentProtected() const
 {
-    return QFileInfo(currentPath()).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+    return currentPath() == m_folder
+           || QFileInfo(currentPath()).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
 }
 
 void LibraryTree::fillMenu(QMenu &menu)
@@ -339,7 +341,7 @@ bool LibraryTree::handleKey(const QKeyEvent &event)
 void LibraryTree::renameCurrent()
 {
     const QString path = currentPath();
-    if (path.isEmpty())
+    if (path.isEmpty() || isCurrentProtected())
         return;
     QString name = QFileInfo(path).fileName();
     name.remove(AcquisitionLibrary::Suffix);
@@ -367,6 +369,11 @@ void LibraryTree::rename(const QString &from, const QString &newName)
         return;
     }
     m_library.movePath(from, to);
+    if (QFileInfo(to).isDir()) {
+        // The model goes on watching a renamed folder under its old name.
+        setFolder(m_folder);
+        select(to);
+    }
     const QString last = m_settings.value(Setting::LastFileSelected).toString();
     if (last == from || last.startsWith(from + u'/'))
         m_settings.setValue(Setting::LastFileSelected, QString(to + last.mid(from.size())));
@@ -384,6 +391,7 @@ void LibraryTree::deleteSelected()
     const QModelIndexList rows = selectedRows();
     for (const QModelIndex &row : rows)
         paths.append(m_model->filePath(row));
+    paths.removeAll(m_folder);
     if (paths.isEmpty())
         return;
     QMessageBox box(QMessageBox::Warning, tr("Delete"),

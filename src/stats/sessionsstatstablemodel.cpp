@@ -182,7 +182,7 @@ void SessionsStatsTableModel::show(const QList<Session *> &sessions, const Sessi
     QList<Session *> accepted;
     std::copy_if(sessions.begin(), sessions.end(), std::back_inserter(accepted),
                  [&filter](const Session *session) { return filter.accepts(*session); });
-    if (accepted == m_sessions) {
+    if (std::ranges::equal(accepted, m_sessions)) {
         if (!accepted.isEmpty())
             Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
         return;
