@@ -67,7 +67,7 @@ std::unique_ptr<Session> outing()
     addReadings(points[67], 99.5F, 0);
     addReadings(points[100], 50, 7.25F);
     addReadings(points[101], 50, 8);
-    return sessionOf(std::move(points));
+    return sessionOf(points);
 }
 
 QString rowText(const QAbstractItemModel &model, int row)
@@ -81,11 +81,11 @@ QString rowText(const QAbstractItemModel &model, int row)
 QChar letter(const QVariant &background)
 {
     const auto colour = background.value<QColor>();
-    return !background.isValid()                 ? u'.'
-           : colour == QColor(Qt::red)           ? u'r'
-           : colour == QColor(Qt::darkGreen)     ? u'g'
-           : colour == QColor(Qt::darkMagenta)   ? u'm'
-                                                 : u'?';
+    return !background.isValid()               ? u'.'
+           : colour == QColor(Qt::red)         ? u'r'
+           : colour == QColor(Qt::darkGreen)   ? u'g'
+           : colour == QColor(Qt::darkMagenta) ? u'm'
+                                               : u'?';
 }
 
 /// The background of each cell, a letter each, a word for each row.
@@ -217,8 +217,7 @@ void TestLapsTable::texts_data()
     const auto row = [](const char *name, int index, const char *text) {
         QTest::newRow(name) << index << QString::fromLatin1(text);
     };
-    row("out lap", 0,
-        "1|Incomplete|00:00.440||100 km/h|100 km/h|0 d|0 d|0.00|0.00|||||||");
+    row("out lap", 0, "1|Incomplete|00:00.440||100 km/h|100 km/h|0 d|0 d|0.00|0.00|||||||");
     row("no readings", 1,
         "2|Complete|00:04.940|00:04.500|100 km/h|100 km/h|0 d|0 d|0.00|0.00|||||"
         "00:01.000|00:01.000|00:02.300");
@@ -261,13 +260,26 @@ void TestLapsTable::headers_data()
     QTest::addColumn<int>("section");
     QTest::addColumn<Qt::Orientation>("orientation");
     QTest::addColumn<QString>("text"); // null: nothing at all
-    const QStringList texts {u"Lap"_s,           u"Type"_s,           u"Cumulated time"_s,
-                             u"Lap time"_s,      u"Max speed"_s,      u"Min speed"_s,
-                             u"Left Angle"_s,    u"Right Angle"_s,    u"Accel"_s,
-                             u"Decel"_s,         u"Min front susp."_s, u"Max front susp."_s,
-                             u"Min rear susp."_s, u"Max rear susp."_s, u"Section 1"_s,
-                             u"Section 2"_s,     u"Section 3"_s,      u"Section 4"_s,
-                             u"Section 5"_s,     u"Section 6"_s};
+    const QStringList texts {u"Lap"_s,
+                             u"Type"_s,
+                             u"Cumulated time"_s,
+                             u"Lap time"_s,
+                             u"Max speed"_s,
+                             u"Min speed"_s,
+                             u"Left Angle"_s,
+                             u"Right Angle"_s,
+                             u"Accel"_s,
+                             u"Decel"_s,
+                             u"Min front susp."_s,
+                             u"Max front susp."_s,
+                             u"Min rear susp."_s,
+                             u"Max rear susp."_s,
+                             u"Section 1"_s,
+                             u"Section 2"_s,
+                             u"Section 3"_s,
+                             u"Section 4"_s,
+                             u"Section 5"_s,
+                             u"Section 6"_s};
     for (int section = 0; section < texts.size(); ++section)
         QTest::addRow("%d", section) << section << Qt::Horizontal << texts[section];
     QTest::newRow("20") << 20 << Qt::Horizontal << QString();
@@ -331,17 +343,16 @@ void TestLapsTable::colourOrder()
     const QString none(Columns, u'.');
     const QString red(Columns, u'r');
     const QString rear = u"............gg..."_s;
-    QCOMPARE(colours(model),
-             QStringList({none, u"..............mm."_s, u"...gg.gggggg....m"_s, rear, none})
-                 .join(u' '));
+    QCOMPARE(
+        colours(model),
+        QStringList({none, u"..............mm."_s, u"...gg.gggggg....m"_s, rear, none}).join(u' '));
     table.session->setLapValid(2, false);
     QCOMPARE(colours(model),
              QStringList({none, u"...g..........mmm"_s, red, rear, none}).join(u' '));
     table.session->setLapValid(1, false);
     table.session->setLapValid(3, false);
     // The first lap is best for want of another, although its time is not shown.
-    QCOMPARE(colours(model),
-             QStringList({u"...g............."_s, red, red, red, none}).join(u' '));
+    QCOMPARE(colours(model), QStringList({u"...g............."_s, red, red, red, none}).join(u' '));
 }
 
 void TestLapsTable::rolesOfSelectedRows()
@@ -468,7 +479,8 @@ void TestLapsTable::menu_data()
     QTest::addColumn<bool>("valid");
     QTest::addColumn<QString>("firstOn"); // name of the first lap's map; "same": the lap itself
     QTest::addColumn<QString>("entries");
-    const QString compareTo = u"Invalidate lap|Compare to this lap|Reselect first lap|(Export lap)"_s;
+    const QString compareTo
+        = u"Invalidate lap|Compare to this lap|Reselect first lap|(Export lap)"_s;
     const QString alone = u"Invalidate lap|Reselect first lap|(Export lap)"_s;
     QTest::newRow("valid") << true << u""_s
                            << u"Invalidate lap|Compare this lap with...|(Export lap)"_s;

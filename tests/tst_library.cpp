@@ -190,11 +190,12 @@ void TestLibrary::loads()
     QStringList expected = good;
     expected.removeAll(u".ra1"_s); // A hidden file.
     Folder folder(good);
-    const QList<std::pair<QString, QByteArray>> bad {{u"empty.ra1"_s, {}},
-                                                     {u"text.ra1"_s, "hello"},
-                                                     {u"RA1 only.ra1"_s, "\3RA1"},
-                                                     {u"old.ra1"_s, SessionBytes {.version = "0.9"}.bytes()},
-                                                     {u"no samples.ra1"_s, SessionBytes {.samples = 0}.bytes()}};
+    const QList<std::pair<QString, QByteArray>> bad {
+        {u"empty.ra1"_s, {}},
+        {u"text.ra1"_s, "hello"},
+        {u"RA1 only.ra1"_s, "\3RA1"},
+        {u"old.ra1"_s, SessionBytes {.version = "0.9"}.bytes()},
+        {u"no samples.ra1"_s, SessionBytes {.samples = 0}.bytes()}};
     for (const auto &[name, bytes] : bad) {
         save(folder.path(name), bytes);
         const QString message = u"(ZunoAnalyzer::loadAcquisitionsFolder) Error in decoding ZUNO "

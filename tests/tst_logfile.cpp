@@ -48,8 +48,7 @@ private Q_SLOTS:
 // What was written before there was an application object stands in the same file as the rest.
 void TestLogFile::sameFileBeforeAndAfter()
 {
-    const QStringList lines
-        = contents(home().filePath(LogFile)).split(u'\n', Qt::SkipEmptyParts);
+    const QStringList lines = contents(home().filePath(LogFile)).split(u'\n', Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 2);
     QVERIFY(lines[0].endsWith(u" Debug default: before"));
     QVERIFY(lines[1].endsWith(u" Info default: after"));

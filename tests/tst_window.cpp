@@ -91,10 +91,10 @@ QByteArray demo(const QString &name)
 /// Whether two lap times are less than a sample apart.
 bool isNear(const QString &one, const QString &two)
 {
-    const auto milliseconds
-        = [](const QString &text) { return QTime::fromString(text, u"mm:ss.zzz"_s).msecsSinceStartOfDay(); };
-    return !one.isEmpty() && !two.isEmpty()
-           && qAbs(milliseconds(one) - milliseconds(two)) < 100;
+    const auto milliseconds = [](const QString &text) {
+        return QTime::fromString(text, u"mm:ss.zzz"_s).msecsSinceStartOfDay();
+    };
+    return !one.isEmpty() && !two.isEmpty() && qAbs(milliseconds(one) - milliseconds(two)) < 100;
 }
 
 /// A map as a file without a start point.
@@ -167,8 +167,8 @@ struct Window
     /// What is shown instead of laps; empty with laps.
     [[nodiscard]] QString state() const
     {
-        const bool isShown = part<QStackedWidget>("lapsStack").currentWidget()->objectName()
-                             == u"statePage";
+        const bool isShown
+            = part<QStackedWidget>("lapsStack").currentWidget()->objectName() == u"statePage";
         return isShown ? part<QLabel>("lb_state").text() : QString();
     }
     void select(const QString &path)
@@ -188,11 +188,10 @@ struct Window
 };
 
 const QStringList DisplayKeys {
-    u"showAccel"_s,        u"showAngleLeft"_s,      u"showAngleRight"_s,   u"showCumulatedTime"_s,
-    u"showDecel"_s,        u"showLapType"_s,        u"showLocalMinMax"_s,  u"showMaxFrontSusp"_s,
-    u"showMaxRearSusp"_s,  u"showMaxSpeed"_s,       u"showMinFrontSusp"_s, u"showMinRearSusp"_s,
-    u"showMinSpeed"_s,     u"showPartiels"_s,       u"showPartielsPoints"_s,
-    u"useGradientCompare"_s};
+    u"showAccel"_s,       u"showAngleLeft"_s, u"showAngleRight"_s,     u"showCumulatedTime"_s,
+    u"showDecel"_s,       u"showLapType"_s,   u"showLocalMinMax"_s,    u"showMaxFrontSusp"_s,
+    u"showMaxRearSusp"_s, u"showMaxSpeed"_s,  u"showMinFrontSusp"_s,   u"showMinRearSusp"_s,
+    u"showMinSpeed"_s,    u"showPartiels"_s,  u"showPartielsPoints"_s, u"useGradientCompare"_s};
 
 } // namespace
 
@@ -203,6 +202,7 @@ class TestWindow final : public QObject
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void parts();
+    void form();
     void firstStart_data();
     void firstStart();
     void settingsAreNotRepaired();
@@ -235,16 +235,60 @@ void TestWindow::parts()
     home.startedBefore();
     const Window window;
     QStringList missing;
-    for (const char *name :
-         {"tw_arbo", "tabWidget", "infos", "tw_tours", "lb_firstLapSelected", "lb_idealTime",
-          "lb_traveledDistance", "tableWidget", "googleWidget", "lb_mapSelected", "lb_errorMap",
-          "lb_mapLength", "bottomWidget", "cb_speed", "cb_angleLandR", "cb_accel",
-          "cb_frontSuspension", "cb_rearSuspension", "w_compare", "compare", "cb_comparePositions2",
-          "cb_compareTime", "timeFromStart", "vitesse", "vitesse2", "diffSpeed", "angle", "angle2",
-          "diffAngle", "accel", "accel2", "diffAccel", "frontSusp", "frontSusp2", "diffFrontSusp",
-          "rearSusp", "rearSusp2", "diffRearSusp", "diffTime", "le_vehicle", "le_driver",
-          "le_tires", "sb_trackTemp", "cb_weather", "lb_date", "lb_circuit", "le_event",
-          "te_infos", "lb_bestLap", "lb_idealTime_2", "webSite", "mail", "menuBar", "statusBar"}) {
+    for (const char *name : {"tw_arbo",
+                             "tabWidget",
+                             "infos",
+                             "tw_tours",
+                             "lb_firstLapSelected",
+                             "lb_idealTime",
+                             "lb_traveledDistance",
+                             "tableWidget",
+                             "googleWidget",
+                             "lb_mapSelected",
+                             "lb_errorMap",
+                             "lb_mapLength",
+                             "bottomWidget",
+                             "cb_speed",
+                             "cb_angleLandR",
+                             "cb_accel",
+                             "cb_frontSuspension",
+                             "cb_rearSuspension",
+                             "w_compare",
+                             "compare",
+                             "cb_comparePositions2",
+                             "cb_compareTime",
+                             "timeFromStart",
+                             "vitesse",
+                             "vitesse2",
+                             "diffSpeed",
+                             "angle",
+                             "angle2",
+                             "diffAngle",
+                             "accel",
+                             "accel2",
+                             "diffAccel",
+                             "frontSusp",
+                             "frontSusp2",
+                             "diffFrontSusp",
+                             "rearSusp",
+                             "rearSusp2",
+                             "diffRearSusp",
+                             "diffTime",
+                             "le_vehicle",
+                             "le_driver",
+                             "le_tires",
+                             "sb_trackTemp",
+                             "cb_weather",
+                             "lb_date",
+                             "lb_circuit",
+                             "le_event",
+                             "te_infos",
+                             "lb_bestLap",
+                             "lb_idealTime_2",
+                             "webSite",
+                             "mail",
+                             "menuBar",
+                             "statusBar"}) {
         if (window.main.findChild<QWidget *>(QString::fromLatin1(name)) == nullptr)
             missing.append(QString::fromLatin1(name));
     }
@@ -253,6 +297,13 @@ void TestWindow::parts()
             missing.append(QString::fromLatin1(name));
     }
     QCOMPARE(missing.join(u' '), QString());
+}
+
+void TestWindow::form()
+{
+    const Home home;
+    home.startedBefore();
+    const Window window;
     QCOMPARE(window.main.windowTitle(), u"ZUNO Analyzer"_s);
     QStringList actions;
     for (const QAction *action : window.main.menuBar()->actions())
@@ -427,8 +478,8 @@ void TestWindow::states_data()
     QTest::addColumn<QString>("state"); // how it begins; empty: laps
     QTest::addColumn<bool>("mapError");
     QTest::newRow("laps") << AtValmora << QString() << u""_s << false;
-    QTest::newRow("none selected") << QString() << QString()
-                                   << u"Select a session in the list"_s << false;
+    QTest::newRow("none selected")
+        << QString() << QString() << u"Select a session in the list"_s << false;
     QTest::newRow("no map") << OnTheRoad << QString() << u"No map is known for the place"_s << true;
     QTest::newRow("no start point")
         << AtValmora << u"/No start.map"_s
@@ -479,8 +530,9 @@ void TestWindow::walksTheTree()
     auto &tree = window.part<QTreeView>("tw_arbo");
     QTRY_COMPARE(tree.model()->rowCount(tree.rootIndex()), 3);
     tree.setFocus();
-    QTest::keyClick(&tree, Qt::Key_Down);
-    QTRY_COMPARE(window.label("lb_mapSelected"), u"Map : Valmora"_s);
+    QTest::keyClick(&tree, Qt::Key_Home);
+    QTest::keyClick(&tree, Qt::Key_Return);
+    QCOMPARE(window.label("lb_mapSelected"), u"Map : Valmora"_s);
     QTest::keyClick(&tree, Qt::Key_Down);
     QCOMPARE(window.label("lb_mapSelected"), u"Map : Haidemoor"_s);
     QCOMPARE(home.settings.value(Setting::LastFileSelected).toString(), home.path(AtHaidemoor));
@@ -495,7 +547,8 @@ void TestWindow::walksTheTree()
     QCOMPARE(home.settings.value(Setting::LastFileSelected).toString(), home.path(u"Heath.ra1"_s));
     QCOMPARE(window.label("lb_mapSelected"), u"Map : Haidemoor"_s);
     QTest::qWait(100);
-    QCOMPARE(window.main.viewedStateMap().keys(), QStringList({AtValmora, OnTheRoad, u"Heath.ra1"_s}));
+    QCOMPARE(window.main.viewedStateMap().keys(),
+             QStringList({AtValmora, OnTheRoad, u"Heath.ra1"_s}));
 }
 
 void TestWindow::newMapAppears()
@@ -617,8 +670,8 @@ void TestWindow::firstLapLabel()
         return table.currentIndex().siblingAtColumn(column).data().toString();
     };
     const QString text = u"Infos of first lap selected : Map : Valmora --- Session : %1 --- Lap "
-                         "num : %2 --- Lap time : %3 --- max speed : %4"_s.arg(
-                             AtValmora, cell(0), cell(3), cell(4));
+                         "num : %2 --- Lap time : %3 --- max speed : %4"_s.arg(AtValmora, cell(0),
+                                                                               cell(3), cell(4));
     QCOMPARE(window.label("lb_firstLapSelected"), text);
     // It stays while another session is shown.
     window.select(home.path(AtHaidemoor));
@@ -651,10 +704,10 @@ void TestWindow::infosSave_data()
     QTest::addColumn<QByteArray>("widget");
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("stored");
-    const auto row = [](const char *name, const char *widget, const QString &typed,
-                        const QString &stored) {
-        QTest::newRow(name) << QByteArray(widget) << typed << stored;
-    };
+    const auto row
+        = [](const char *name, const char *widget, const QString &typed, const QString &stored) {
+              QTest::newRow(name) << QByteArray(widget) << typed << stored;
+          };
     row("event", "le_event", u"Cup"_s, u"Cup"_s);
     row("event loses its blanks", "le_event", u"  Hill Cup  "_s, u"Hill Cup"_s);
     row("event emptied", "le_event", u""_s, u""_s);

@@ -27,6 +27,7 @@
 #include <session/laptimes.h>
 #include <session/numbers.h>
 #include <stats/sessioninfos.h>
+#include <stats/sessionsstats.h>
 #include <views/lapsview.h>
 
 namespace zuno {
@@ -95,6 +96,7 @@ void ZunoAnalyzer::createActions()
     add(tr("   Import   "), QKeySequence(Qt::CTRL | Qt::Key_I), &ZunoAnalyzer::importSession);
     add(tr("   Settings   "), QKeySequence(Qt::CTRL | Qt::Key_Comma), &ZunoAnalyzer::openSettings);
     add(tr("   Maps   "), QKeySequence(Qt::CTRL | Qt::Key_M), &ZunoAnalyzer::openMaps);
+    add(tr("   Statistics   "), QKeySequence(Qt::CTRL | Qt::Key_T), &ZunoAnalyzer::openStatistics);
     add(tr("   Help   "), QKeySequence(Qt::Key_F1), &ZunoAnalyzer::openHelp);
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
 }
@@ -325,6 +327,28 @@ void ZunoAnalyzer::openMaps()
     connect(&m_maps, &MapFolder::changed, &dialog,
             [this, &dialog] { dialog.setMaps(m_maps.library().maps(), m_display.session()); });
     dialog.exec();
+}
+
+void ZunoAnalyzer::openStatistics()
+{
+    if (m_statistics == nullptr) {
+        m_statistics = new SessionsStats(m_library.sessions(), this);
+        // The rider goes back and forth between it and the laps.
+        m_statistics->setModal(false);
+        connect(m_statistics, &SessionsStats::goToSession, this, &ZunoAnalyzer::goToSession);
+        connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_statistics,
+                [this] { m_statistics->setSessions(m_library.sessions()); });
+    } else {
+        m_statistics->setSessions(m_library.sessions());
+    }
+    m_statistics->show();
+    m_statistics->raise();
+    m_statistics->activateWindow();
+}
+
+void ZunoAnalyzer::goToSession(Session *sess)
+{
+    m_tree->select(sess->filePath());
 }
 
 void ZunoAnalyzer::openHelp()

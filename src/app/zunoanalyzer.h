@@ -23,6 +23,7 @@ namespace zuno {
 class LapsView;
 class LibraryTree;
 class SessionInfos;
+class SessionsStats;
 
 namespace Ui {
 class ZunoAnalyzer;
@@ -58,6 +59,8 @@ public Q_SLOTS:
     void importSession();
     void openSettings();
     void openMaps();
+    void openStatistics();
+    void goToSession(zuno::Session *sess);
     void openHelp();
     void openAbout();
 
@@ -99,6 +102,7 @@ private:
     LapsView *m_lapsView = nullptr;
     LibraryTree *m_tree = nullptr;
     SessionInfos *m_infos = nullptr;
+    SessionsStats *m_statistics = nullptr;
     std::array<QSplitter *, 4> m_splitters {};
 };
 
