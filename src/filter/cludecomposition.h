@@ -28,12 +28,8 @@ public:
     [[nodiscard]] qint8 pivotSign() const { return m_pivotSign; }
 
 private:
-    template<typename Rows, typename Cols>
-    void decompose(Rows rows, Cols cols);
-    template<typename Rows, typename Cols>
-    void pivotColumn(quint8 j, Rows rows, Cols cols);
-    template<typename Size, typename Cols>
-    void substitute(float *x, Size n, Cols cols) const;
+    void decomposeColumn(int j);
+    void pivotColumn(int j);
     [[nodiscard]] bool isSingular() const;
     [[nodiscard]] CMatrix permuted(const CMatrix &b) const;
 

@@ -5,10 +5,8 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
 #include <initializer_list>
 #include <memory>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -69,10 +67,11 @@ public:
     [[nodiscard]] float &element(int i, int j) { return data()[(i * m_cols) + j]; }
     [[nodiscard]] float element(int i, int j) const { return data()[(i * m_cols) + j]; }
 
-    /// The elements, row after row, and how many there are.
-    [[nodiscard]] float *data() { return m_heap ? m_heap.get() : m_inline.data(); }
-    [[nodiscard]] const float *data() const { return m_heap ? m_heap.get() : m_inline.data(); }
-    [[nodiscard]] int size() const { return m_rows * m_cols; }
+    /// Swaps the rows @p a and @p b; no bounds check.
+    void swapRows(int a, int b)
+    {
+        std::swap_ranges(data() + (a * m_cols), data() + ((a + 1) * m_cols), data() + (b * m_cols));
+    }
 
     friend bool operator==(const CMatrix &a, const CMatrix &b)
     {
@@ -82,6 +81,10 @@ public:
 
 private:
     static constexpr int InlineElements = 4;
+
+    [[nodiscard]] int size() const { return m_rows * m_cols; }
+    [[nodiscard]] float *data() { return m_heap ? m_heap.get() : m_inline.data(); }
+    [[nodiscard]] const float *data() const { return m_heap ? m_heap.get() : m_inline.data(); }
 
     void allocate()
     {
@@ -119,41 +122,19 @@ private:
     quint8 m_cols = 0;
 };
 
-/// A size that is known when the program is compiled. The operations below are written once, for
-/// sizes of any kind; with these the compiler unrolls them for the filter's matrices.
-template<int N>
-using FixedSize = std::integral_constant<int, N>;
-
-/// c = a·b for a of n x k and b of k x m.
-template<typename Rows, typename Inner, typename Cols>
-void multiplyElements(const float *a, const float *b, float *c, Rows n, Inner k, Cols m)
-{
-    for (int i = 0; i < n; ++i) {
-        for (int j = 0; j < m; ++j) {
-            float sum = 0.0F;
-            for (int l = 0; l < k; ++l)
-                sum += a[(i * k) + l] * b[(l * m) + j];
-            c[(i * m) + j] = sum;
-        }
-    }
-}
-
 /// The product A·B, rows(A) x cols(B); zeros when cols(A) differs from rows(B).
 [[nodiscard]] inline CMatrix multiply(const CMatrix &a, const CMatrix &b)
 {
     CMatrix product(a.rows(), b.cols());
     if (a.cols() != b.rows())
         return product;
-    const bool isPair = a.rows() == 2 && a.cols() == 2;
-    if (isPair && b.cols() == 2) {
-        multiplyElements(a.data(), b.data(), product.data(), FixedSize<2>(), FixedSize<2>(),
-                         FixedSize<2>());
-    } else if (isPair && b.cols() == 1) {
-        multiplyElements(a.data(), b.data(), product.data(), FixedSize<2>(), FixedSize<2>(),
-                         FixedSize<1>());
-    } else {
-        multiplyElements<quint8, quint8, quint8>(a.data(), b.data(), product.data(), a.rows(),
-                                                 a.cols(), b.cols());
+    for (int i = 0; i < a.rows(); ++i) {
+        for (int j = 0; j < b.cols(); ++j) {
+            float sum = 0.0F;
+            for (int k = 0; k < a.cols(); ++k)
+                sum += a.element(i, k) * b.element(k, j);
+            product.element(i, j) = sum;
+        }
     }
     return product;
 }
@@ -162,8 +143,12 @@ void multiplyElements(const float *a, const float *b, float *c, Rows n, Inner k,
 [[nodiscard]] inline CMatrix add(const CMatrix &a, const CMatrix &b)
 {
     CMatrix sum(a.rows(), a.cols());
-    if (a.rows() == b.rows() && a.cols() == b.cols())
-        std::transform(a.data(), a.data() + a.size(), b.data(), sum.data(), std::plus<float>());
+    if (a.rows() != b.rows() || a.cols() != b.cols())
+        return sum;
+    for (int i = 0; i < a.rows(); ++i) {
+        for (int j = 0; j < a.cols(); ++j)
+            sum.element(i, j) = a.element(i, j) + b.element(i, j);
+    }
     return sum;
 }
 
@@ -171,31 +156,23 @@ void multiplyElements(const float *a, const float *b, float *c, Rows n, Inner k,
 [[nodiscard]] inline CMatrix subtract(const CMatrix &a, const CMatrix &b)
 {
     CMatrix difference(a.rows(), a.cols());
-    if (a.rows() == b.rows() && a.cols() == b.cols()) {
-        std::transform(a.data(), a.data() + a.size(), b.data(), difference.data(),
-                       std::minus<float>());
+    if (a.rows() != b.rows() || a.cols() != b.cols())
+        return difference;
+    for (int i = 0; i < a.rows(); ++i) {
+        for (int j = 0; j < a.cols(); ++j)
+            difference.element(i, j) = a.element(i, j) - b.element(i, j);
     }
     return difference;
-}
-
-/// result = the transpose of a, which is n x m.
-template<typename Rows, typename Cols>
-void transposeElements(const float *a, float *result, Rows n, Cols m)
-{
-    for (int i = 0; i < n; ++i) {
-        for (int j = 0; j < m; ++j)
-            result[(j * n) + i] = a[(i * m) + j];
-    }
 }
 
 /// The transpose of A, cols(A) x rows(A).
 [[nodiscard]] inline CMatrix transpose(const CMatrix &a)
 {
     CMatrix result(a.cols(), a.rows());
-    if (a.rows() == 2 && a.cols() == 2)
-        transposeElements(a.data(), result.data(), FixedSize<2>(), FixedSize<2>());
-    else
-        transposeElements<quint8, quint8>(a.data(), result.data(), a.rows(), a.cols());
+    for (int i = 0; i < a.rows(); ++i) {
+        for (int j = 0; j < a.cols(); ++j)
+            result.element(j, i) = a.element(i, j);
+    }
     return result;
 }
 

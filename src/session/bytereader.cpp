@@ -37,12 +37,12 @@ void ByteReader::setBytes(QByteArrayView bytes)
 
 const char *ByteReader::fetch(qint64 count)
 {
-    if (count > left())
-        return nullptr;
     const qint64 windowEnd = m_windowStart + m_window.size();
     const bool inWindow = m_position >= m_windowStart && m_position + count <= windowEnd;
-    if (!inWindow && !fillWindow(count))
+    if (count > left() || (!inWindow && !fillWindow(count))) {
+        m_ranShort = true;
         return nullptr;
+    }
     return m_window.data() + (m_position - m_windowStart);
 }
 

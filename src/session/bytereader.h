@@ -32,6 +32,8 @@ public:
     [[nodiscard]] qint64 position() const { return m_position; }
     [[nodiscard]] qint64 left() const { return m_size - m_position; }
     [[nodiscard]] bool atEnd() const { return m_position >= m_size; }
+    /// Whether a read has found too few bytes.
+    [[nodiscard]] bool ranShort() const { return m_ranShort; }
 
     [[nodiscard]] quint8 u8();
     [[nodiscard]] quint32 u32();
@@ -68,6 +70,7 @@ private:
     qint64 m_windowStart = 0;
     qint64 m_size = 0;
     qint64 m_position = 0;
+    bool m_ranShort = false;
 };
 
 } // namespace zuno

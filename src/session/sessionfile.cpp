@@ -128,20 +128,24 @@ std::vector<Reading> readReadings(ByteReader &reader)
 }
 
 // Leaves the reader where readReadings would. Less than a whole reading is left at the end: each
-// number of it reads as a reading of its own.
-void skipReadings(ByteReader &reader)
+// number of it reads as a reading of its own. False when readings are missing.
+bool skipReadings(ByteReader &reader)
 {
     const qint64 count = reader.i32();
     if (count < 1)
-        return;
+        return true;
     const qint64 whole = std::min(count, reader.left() / ReadingSize);
     reader.skip(whole * ReadingSize);
     reader.skip(std::min(count - whole, reader.left() / WordSize) * WordSize);
+    return whole == count;
 }
 
-void skipWords(ByteReader &reader, quint32 count)
+// False when words are missing.
+bool skipWords(ByteReader &reader, quint32 count)
 {
-    reader.skip(std::min<qint64>(count, reader.left() / WordSize) * WordSize);
+    const qint64 there = std::min<qint64>(count, reader.left() / WordSize);
+    reader.skip(there * WordSize);
+    return there == count;
 }
 
 using AddReadings = void (PointAcquisition::*)(const Reading *, std::size_t);
@@ -196,14 +200,15 @@ struct Header
 {
     SessionLayout layout;
     quint8 newSession = 0;
-    bool hasFlags = false;
+    /// Nothing of it is missing.
+    bool isWhole = false;
 };
 
 Header readHeader(ByteReader &reader, Recording &recording)
 {
     Header header;
     recording.words = reader.u32();
-    skipWords(reader, recording.words);
+    const bool hasWords = skipWords(reader, recording.words);
     recording.date = readText(reader);
     recording.reservedByte = reader.u8();
     recording.time = readText(reader);
@@ -211,17 +216,19 @@ Header readHeader(ByteReader &reader, Recording &recording)
     header.layout.newSessionAt = reader.position();
     header.newSession = reader.u8();
     header.layout.listsFlagAt = reader.position();
-    header.hasFlags = !reader.atEnd();
     recording.listsFlag = reader.u8();
+    header.isWhole = hasWords && !reader.ranShort();
     return header;
 }
 
-void skipLists(ByteReader &reader, const Recording &recording)
+// False when readings are missing.
+bool skipLists(ByteReader &reader, const Recording &recording)
 {
     if (recording.listsFlag != ListsFollow)
-        return;
-    skipReadings(reader);
-    skipReadings(reader);
+        return true;
+    const bool hasFirst = skipReadings(reader);
+    const bool hasSecond = skipReadings(reader);
+    return hasFirst && hasSecond && !reader.ranShort();
 }
 
 // Reads everything around the samples into the session.
@@ -322,19 +329,19 @@ OpenedSession decodeSession(const QByteArray &bytes, const QString &path)
     return opened;
 }
 
-SessionFileError findLayout(ByteReader &reader, SessionLayout &layout, bool &hasFlags)
+std::optional<SessionLayout> findLayout(ByteReader &reader)
 {
     Recording recording;
-    if (const auto error = readVersion(reader, recording.version); error != SessionFileError::None)
-        return error;
+    if (readVersion(reader, recording.version) != SessionFileError::None)
+        return std::nullopt;
     skipSamples(reader, readExtent(reader));
     const Header header = readHeader(reader, recording);
-    skipLists(reader, recording);
-    layout = header.layout;
+    if (!skipLists(reader, recording) || !header.isWhole)
+        return std::nullopt;
+    SessionLayout layout = header.layout;
     layout.informationAt
         = recording.listsFlag == ListsFollow ? reader.position() : layout.listsFlagAt;
-    hasFlags = header.hasFlags;
-    return SessionFileError::None;
+    return layout;
 }
 
 } // namespace zuno

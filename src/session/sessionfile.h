@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QByteArray>
 #include <QString>
@@ -56,9 +57,9 @@ struct SessionLayout
     qint64 informationAt = 0;
 };
 
-/// Finds the parts of the session file that @p reader stands at the start of. @p layout is set
-/// when there is no error and both flags are there; @p hasFlags tells.
-[[nodiscard]] SessionFileError findLayout(ByteReader &reader, SessionLayout &layout,
-                                          bool &hasFlags);
+/// Finds the parts of the session file that @p reader stands at the start of. Nothing when it is no
+/// session file, or when it was cut short before the place of its information: what was written
+/// there would be read as a part of what is missing.
+[[nodiscard]] std::optional<SessionLayout> findLayout(ByteReader &reader);
 
 } // namespace zuno

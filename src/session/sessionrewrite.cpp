@@ -63,13 +63,12 @@ QByteArray informationBlock(const Session &session)
 QByteArray rewritten(const QByteArray &bytes, const Session &session)
 {
     SessionBuffer buffer(bytes);
-    SessionLayout layout;
-    bool hasFlags = false;
-    if (findLayout(buffer, layout, hasFlags) != SessionFileError::None || !hasFlags)
+    const std::optional<SessionLayout> layout = findLayout(buffer);
+    if (!layout)
         return {};
-    buffer.setWritePosition(layout.newSessionAt);
+    buffer.setWritePosition(layout->newSessionAt);
     buffer.replace(session.newSession());
-    buffer.setWritePosition(layout.informationAt);
+    buffer.setWritePosition(layout->informationAt);
     buffer.truncate();
     buffer.append(informationBlock(session));
     return buffer.data();
