@@ -3,10 +3,10 @@
 
 #include "builders.h"
 
-#include <bit>
 #include <cmath>
 #include <numbers>
 
+#include <QFile>
 #include <QStringList>
 #include <QtEndian>
 
@@ -24,14 +24,6 @@ constexpr double OriginLongitude = 9.0;
 constexpr double MetresPerDegree = 6371007.2 * std::numbers::pi / 180.0;
 constexpr quint32 SampleTime = 100;
 
-template<typename Number>
-QByteArray littleEndian(Number value)
-{
-    QByteArray bytes(sizeof(Number), '\0');
-    qToLittleEndian(value, bytes.data());
-    return bytes;
-}
-
 void append(Points &points, const QGeoCoordinate &where)
 {
     PointAcquisition point;
@@ -45,37 +37,22 @@ void append(Points &points, const QGeoCoordinate &where)
 
 } // namespace
 
-Bytes &Bytes::u8(int value)
-{
-    m_bytes.append(static_cast<char>(value));
-    return *this;
-}
-
-Bytes &Bytes::u32(quint32 value)
-{
-    return raw(littleEndian(value));
-}
-
-Bytes &Bytes::f32(float value)
-{
-    return raw(littleEndian(std::bit_cast<quint32>(value)));
-}
-
-Bytes &Bytes::f64(double value)
-{
-    return raw(littleEndian(std::bit_cast<quint64>(value)));
-}
-
 Bytes &Bytes::raw(const QByteArray &bytes)
 {
     m_bytes += bytes;
     return *this;
 }
 
-Bytes &Bytes::text(const QByteArray &bytes)
+template<typename Number>
+Bytes &Bytes::number(Number value)
 {
-    return u8(static_cast<int>(bytes.size())).raw(bytes);
+    value = qToLittleEndian(value);
+    return raw(QByteArray(reinterpret_cast<const char *>(&value), sizeof value));
 }
+
+template Bytes &Bytes::number(quint8);
+template Bytes &Bytes::number(quint32);
+template Bytes &Bytes::number(quint64);
 
 QByteArray readingList(const QList<double> &values, std::optional<quint32> count)
 {
@@ -164,15 +141,15 @@ QString lapRide(const QList<int> &standing)
     return description + u" 5.95..45.95/10"_s;
 }
 
-Points circle(double radius, double from, double to, double step)
+void addReadings(PointAcquisition &point, int channel, const QList<float> &values)
 {
-    Points points;
-    const auto count = static_cast<int>(std::ceil((to - from) / step));
-    for (int i = 0; i < count; ++i) {
-        const double way = from + (i * step);
-        append(points, place(radius * std::sin(way / radius), radius * std::cos(way / radius)));
+    for (const float value : values) {
+        const Reading reading {1, value};
+        if (channel == 1)
+            point.addSuspension1(&reading, 1);
+        else
+            point.addSuspension2(&reading, 1);
     }
-    return points;
 }
 
 std::unique_ptr<Session> sessionOf(const Points &points, qint64 whole)
@@ -196,6 +173,14 @@ std::unique_ptr<Map> lineMap(double gate, double length, const QList<NamedPlace>
     map->addTrackPoint(place(length));
     map->computeGeometry();
     return map;
+}
+
+void putFile(const QString &path, const QByteArray &bytes)
+{
+    QFile::remove(path);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write the test's file");
 }
 
 QString numbersOf(const Points &points)

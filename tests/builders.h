@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <bit>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -25,17 +26,20 @@ namespace test {
 class Bytes
 {
 public:
-    Bytes &u8(int value);
-    Bytes &u32(quint32 value);
-    Bytes &f32(float value);
-    Bytes &f64(double value);
+    Bytes &u8(int value) { return number(static_cast<quint8>(value)); }
+    Bytes &u32(quint32 value) { return number(value); }
+    Bytes &f32(float value) { return number(std::bit_cast<quint32>(value)); }
+    Bytes &f64(double value) { return number(std::bit_cast<quint64>(value)); }
     Bytes &raw(const QByteArray &bytes);
     /// A length byte and the text.
-    Bytes &text(const QByteArray &bytes);
+    Bytes &text(const QByteArray &bytes) { return u8(static_cast<int>(bytes.size())).raw(bytes); }
 
     operator const QByteArray &() const { return m_bytes; } // NOLINT: a test reads better so
 
 private:
+    template<typename Number>
+    Bytes &number(Number value);
+
     QByteArray m_bytes;
 };
 
@@ -105,9 +109,8 @@ struct NamedPlace
 /// 3.5 seconds and, 296 metres from the line, so many samples more at the same place. Between the
 /// line and there the places 0, 10, 20 ... are passed 40.5 ms after a sample.
 [[nodiscard]] QString lapRide(const QList<int> &standing);
-/// A ride on a circle around the origin, anticlockwise from its easternmost point, from @p from to
-/// @p to metres along it.
-[[nodiscard]] Points circle(double radius, double from, double to, double step);
+/// Adds readings of suspension channel 1 or 2.
+void addReadings(PointAcquisition &point, int channel, const QList<float> &values);
 
 /// A session of these samples; only the first @p whole of them are in its file.
 [[nodiscard]] std::unique_ptr<Session> sessionOf(const Points &points,
@@ -116,6 +119,9 @@ struct NamedPlace
 [[nodiscard]] std::unique_ptr<Map> lineMap(double gate, double length,
                                            const QList<NamedPlace> &places
                                            = {{QStringLiteral("Start"), 0.0}});
+
+/// Writes a new file: some file systems wait for the disk when one is written over.
+void putFile(const QString &path, const QByteArray &bytes);
 
 /// Acquisition numbers of points, "1 2 3".
 [[nodiscard]] QString numbersOf(const Points &points);

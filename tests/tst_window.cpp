@@ -309,6 +309,7 @@ void TestWindow::form()
     for (const QAction *action : window.main.menuBar()->actions())
         actions.append(action->text() + action->shortcut().toString());
     QCOMPARE(actions.join(u'|'), u"   Import   Ctrl+I|   Settings   Ctrl+,|   Maps   Ctrl+M|"
+                                 "   Statistics   Ctrl+T|"
                                  "   Help   F1|   ?   Shift+F1"_s);
     const auto &tabs = window.part<QTabWidget>("tabWidget");
     QCOMPARE(tabs.count(), 2);
