@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
-#include <numbers>
 
 #include <QTest>
 
@@ -80,21 +79,6 @@ QString sectorsText(const Session &session)
     return laps.join(u" | "_s);
 }
 
-template<typename Value>
-QString orDash(const std::optional<Value> &value)
-{
-    return value ? QString::number(static_cast<double>(*value)) : u"-"_s;
-}
-
-void addReading(PointAcquisition &point, QChar channel, float value)
-{
-    const Reading reading {1, value};
-    if (channel == u'f')
-        point.addSuspension1(&reading, 1);
-    else
-        point.addSuspension2(&reading, 1);
-}
-
 /// Sets channels of points: "s5=200 f7=3.5" makes the speed of the sixth 200 and adds a front
 /// reading to the eighth; a is the computed acceleration, l the lean angle, r a rear reading.
 void setChannels(Points &points, const QString &description)
@@ -102,15 +86,14 @@ void setChannels(Points &points, const QString &description)
     for (const QString &setting : description.split(u' ', Qt::SkipEmptyParts)) {
         PointAcquisition &point = points.at(setting.section(u'=', 0, 0).mid(1).toUInt());
         const double value = setting.section(u'=', 1).toDouble();
-        const QChar channel = setting.front();
-        if (channel == u's')
-            point.dataSpeed = value;
-        else if (channel == u'a')
-            point.dataAccelXPHComputed = value;
-        else if (channel == u'l')
-            point.dataAngle = value;
+        const char channel = setting.front().toLatin1();
+        if (channel == 'f' || channel == 'r')
+            addReadings(point, channel == 'f' ? 1 : 2, {static_cast<float>(value)});
         else
-            addReading(point, channel, static_cast<float>(value));
+            (channel == 's'   ? point.dataSpeed
+             : channel == 'a' ? point.dataAccelXPHComputed
+                              : point.dataAngle)
+                = value;
     }
 }
 
@@ -126,14 +109,11 @@ class TestLaps final : public QObject
 private Q_SLOTS:
     void cuts_data();
     void cuts();
-    void gates_data();
     void gates();
-    void exactlyATenth();
     void gaps_data();
     void gaps();
     void sectors_data();
     void sectors();
-    void circles();
     void crossing_data();
     void crossing();
     void stampsWrap();
@@ -146,7 +126,6 @@ private Q_SLOTS:
     void turns();
     void marks_data();
     void marks();
-    void times_data();
     void times();
 };
 
@@ -162,7 +141,6 @@ void TestLaps::cuts_data()
     };
     row("no samples", u""_s, "");
     row("never near", u"-104..-24/10 104 204"_s, "");
-    row("one pass", u"-44.05..45.95/10"_s, "1 0-440 b; 2 440-900");
     row("a sample on the line", u"-20..20/10"_s, "1 0-200 b; 2 200-400");
     row("nearest behind the line", u"-16.05..13.95/10"_s, "1 0-160 b; 2 160-300");
     row("turned before the line", u"-25.05..-5.05/10 -5.05..-25.05/10"_s, "1 0-249 b; 2 249-500");
@@ -175,17 +153,13 @@ void TestLaps::cuts_data()
     const QString two = lapRide({0, 0});
     const char *allComplete = "1 0-440; 2 440-3940 cb; 3 3940-7440 c; 4 7440-7900";
     const char *noneComplete = "1 0-440 b; 2 440-3940; 3 3940-7440; 4 7440-7900";
-    row("equal times", two, allComplete);
     row("a tenth too long, less", two, allComplete, Shorter + 0.001);
     row("a tenth too long, more", two, noneComplete, Shorter - 0.001);
     row("a tenth too short, less", two, allComplete, Longer - 0.001);
     row("a tenth too short, more", two, noneComplete, Longer + 0.001);
     row("the first and the last as long", two, noneComplete, 45.0);
-    row("a map without outline", two, noneComplete, 0.0);
     row("the fastest is not the first", lapRide({1, 0, 2}),
         "1 0-440; 2 440-4040 c; 3 4040-7540 cb; 4 7540-11240 c; 5 11240-11700");
-    row("the fastest is thrown out", lapRide({1, 0, 2}),
-        "1 0-440; 2 440-4040 cb; 3 4040-7540 cx; 4 7540-11240 c; 5 11240-11700", 680.0, {3});
     // The last lap is never complete, so throwing it out has no meaning.
     row("all thrown out", two, "1 0-440 bx; 2 440-3940 cx; 3 3940-7440 cx; 4 7440-7900", 680.0,
         {1, 2, 3, 4, 5});
@@ -198,67 +172,25 @@ void TestLaps::cuts()
     QFETCH(const Numbers, invalid);
     const Cut cut(ride(description), 10, length, {}, invalid);
     QTEST(lapsText(*cut.session), "laps");
-    quint32 sum = 0;
-    for (const auto &lap : cut.session->laps()) {
-        const Points &points = lap->points();
-        const quint32 time = points.back().dataTimeStamp - points.front().dataTimeStamp;
-        sum += time;
-        QCOMPARE(lap->lapTime(), static_cast<qint32>(time));
-        QCOMPARE(lap->cumulatedTime(), sum);
-    }
-}
-
-void TestLaps::gates_data()
-{
-    QTest::addColumn<double>("direction"); // of the gate's size from the distance of the sample
-    QTest::addColumn<bool>("met");
-    QTest::newRow("smaller") << 0.0 << false;
-    QTest::newRow("equal") << 1.0 << false;
-    QTest::newRow("larger") << 100.0 << true;
 }
 
 // The line is met within twice the gate's size, a sector line within its size.
 void TestLaps::gates()
 {
-    QFETCH(const double, direction);
-    QFETCH(const bool, met);
-    const double toLine = place(-4).distanceTo(place(0));
-    const double gate = direction == 1.0 ? toLine / 2 : std::nextafter(toLine / 2, direction);
-    QCOMPARE(Cut(ride(u"-24 -4 16"_s), gate, 100).session->laps().size(), met ? 2U : 0U);
-
+    const double toLine = place(-4).distanceTo(place(0)) / 2;
     const double toSector = place(296).distanceTo(place(300));
-    const double sectorGate = direction == 1.0 ? toSector : std::nextafter(toSector, direction);
-    const Cut cut(ride(u"-24..316/20"_s), sectorGate, 100, u"Time 0@300"_s);
-    QCOMPARE(cut.lap(1).crossedSectors(), met ? 1 : 0);
-}
-
-// A length that is off by a tenth to the last bit is too far off. Such a pair of lap and map is
-// not easily come by: outlines of nearly the right length are tried for one lap after the other.
-void TestLaps::exactlyATenth()
-{
-    for (int far = 300; far < 500; ++far) {
-        const Cut cut(ride(u"-4.05 5.95 %1 55*9 -4.05 5.95"_s.arg(far)), 10, 100);
-        const double distance = cut.lap(1).distance();
-        double latitude = (place(distance / 0.9).latitude() - place(0).latitude());
-        for (int i = 0; i < 200; ++i)
-            latitude = std::nextafter(latitude, 0.0);
-        for (int i = 0; i < 400; ++i, latitude = std::nextafter(latitude, 90.0)) {
-            Map map;
-            map.addNamedPoint(u"Start"_s, place(0));
-            map.setGateSize(10);
-            map.addTrackPoint({0, 0});
-            map.addTrackPoint({latitude, 0});
-            map.computeGeometry();
-            if (map.length() - distance != 0.1 * map.length())
-                continue;
-            cut.session->setMap(&map);
-            QCOMPARE(cut.lap(1).distance(), distance);
-            QVERIFY(!cut.lap(1).isComplete());
-            cut.session->setMap(nullptr);
-            return;
-        }
-    }
-    QFAIL("no lap and map found");
+    const auto laps
+        = [](double gate) { return Cut(ride(u"-24 -4 16"_s), gate, 100).session->laps().size(); };
+    const auto sectors = [](double gate) {
+        const Cut cut(ride(u"-24..316/20"_s), gate, 100, u"Time 0@300"_s);
+        return cut.lap(1).crossedSectors();
+    };
+    QCOMPARE(laps(std::nextafter(toLine, 0.0)), 0U);
+    QCOMPARE(laps(toLine), 0U);
+    QCOMPARE(laps(std::nextafter(toLine, 100.0)), 2U);
+    QCOMPARE(sectors(std::nextafter(toSector, 0.0)), 0);
+    QCOMPARE(sectors(toSector), 0);
+    QCOMPARE(sectors(std::nextafter(toSector, 100.0)), 1);
 }
 
 void TestLaps::gaps_data()
@@ -266,23 +198,20 @@ void TestLaps::gaps_data()
     QTest::addColumn<QString>("description");
     QTest::addColumn<QString>("laps"); // the numbers of their samples
     QTest::addColumn<int>("distance");
+    const auto row = [](const char *name, const char *description, const char *laps, int distance) {
+        QTest::newRow(name) << QString::fromLatin1(description) << QString::fromLatin1(laps)
+                            << distance;
+    };
     // The line is crossed at 300.1 ms, truncated: the sample of 300 ms is not before it.
-    QTest::newRow("stamp at the crossing's")
-        << u"-40.55 -20.05 -*4 30.05 80.75"_s << u"1 3 2 | 2 4 5 6 7 8"_s << 20 + 50 + 50;
-    QTest::newRow("stamp below the crossing's")
-        << u"-40.95 -20.25 -*4 29.95 80.25"_s << u"1 3 4 2 | 2 5 6 7 8"_s << 20 + 50 + 50;
-    QTest::newRow("crossed before the gap")
-        << u"-15.75 4.95 -*3 55.55"_s << u"1 2 | 2 3 4 5 6"_s << 20 + 50;
-    QTest::newRow("the gap ends the recording") << u"-24.75 -4.05 -*2"_s << u"1 2 | 2 3 4"_s << 20;
-    QTest::newRow("before the line only")
-        << u"-44.85 -*2 -4.05 36.45"_s << u"1 2 3 4 | 4 5"_s << 40 + 40;
-    QTest::newRow("no position at all") << u"-*20"_s << u""_s << 0;
-    QTest::newRow("counts for the next crossing, 9")
-        << u"-20.5 -1 50.5 -*7 -1 50.5"_s << u"1 2 | 2 3 4 5 6 7 8 9 10 11 12"_s
-        << 19 + 51 + 51 + 51;
-    QTest::newRow("counts for the next crossing, 10")
-        << u"-20.5 -1 50.5 -*8 -1 50.5"_s << u"1 2 | 2 3 4 5 6 7 8 9 10 11 12 | 12 13"_s
-        << 19 + 51 + 51 + 51;
+    row("as the crossing", "-40.55 -20.05 -*4 30.05 80.75", "1 3 2 | 2 4 5 6 7 8", 120);
+    row("below the crossing", "-40.95 -20.25 -*4 29.95 80.25", "1 3 4 2 | 2 5 6 7 8", 120);
+    row("crossed before the gap", "-15.75 4.95 -*3 55.55", "1 2 | 2 3 4 5 6", 70);
+    row("the gap ends the recording", "-24.75 -4.05 -*2", "1 2 | 2 3 4", 20);
+    row("before the line only", "-44.85 -*2 -4.05 36.45", "1 2 3 4 | 4 5", 80);
+    row("no position at all", "-*20", "", 0);
+    // Samples without a position count for the next crossing.
+    row("9 later", "-20.5 -1 50.5 -*7 -1 50.5", "1 2 | 2 3 4 5 6 7 8 9 10 11 12", 172);
+    row("10 later", "-20.5 -1 50.5 -*8 -1 50.5", "1 2 | 2 3 4 5 6 7 8 9 10 11 12 | 12 13", 172);
 }
 
 void TestLaps::gaps()
@@ -312,14 +241,12 @@ void TestLaps::sectors_data()
     row("the last at the line", three, "- - - | 1000* 1000* 1500* | 1000 1000 1600 | - - -", 3499);
     row("fastest thrown out", three, "- - - | 1000 1000 1500 | 1000* 1000* 1600* | - - -", 3599,
         lapRide({0, 1}), {2});
-    row("none", u""_s, " |  |  | ", -1);
     row("none without a number", u"Time A@100;Time B@200"_s, "- - | - - | - - | - -", -1);
     row("a number is missing", u"Time 0@100;Time 2@200"_s, "- - | 1000* - | 1000 - | - -", 999);
     // The name of the tenth contains 0 and 1 as well, and it is the last in order.
     row("ten and more", u"Time 0@100;Time 1@250;Time 10@200"_s,
         "- - - | 2000* - - | 2000 - - | - - -", 1999);
     row("at the lap's start", u"Time 0@0;Time 1@100"_s, "- - | 0* 1000* | 0 1000 | 0 -", 999);
-    row("just behind the lap's start", u"Time 0@2"_s, "- | 0* | 0 | 0", -1);
     row("too soon by a sample", u"Time 0@0;Time 1@90"_s, "- - | 0* - | 0 - | 0 -", -1);
     row("the first lap's first sector", u"Time 0@-300;Time 1@-150"_s, "- 1500* | - -", 1499,
         u"-404.05..45.95/10"_s);
@@ -338,73 +265,19 @@ void TestLaps::sectors()
     QFETCH(const QString, description);
     QFETCH(const QString, timing);
     QFETCH(const Numbers, invalid);
-    QFETCH(const int, idealTime);
     const Cut cut(ride(description), 5, 680, timing, invalid);
     QTEST(sectorsText(*cut.session), "sectors");
-    const LapResults &results = cut.session->results();
-    QCOMPARE(results.idealTime, idealTime);
-    qint32 sum = -1;
-    for (std::size_t s = 0; s < 8; ++s) {
-        const qint32 best = results.bestSectorLaps[s];
-        const int sector = static_cast<int>(s);
-        QCOMPARE(results.bestSectorTimes[s],
-                 best < 0 ? 10000000 : cut.lap(static_cast<std::size_t>(best)).sectorTime(sector));
-        sum += best < 0 ? 0 : results.bestSectorTimes[s];
-    }
-    QCOMPARE(sum, idealTime);
+    QTEST(cut.session->results().idealTime, "idealTime");
     for (const auto &lap : cut.session->laps()) {
-        QCOMPARE(lap->sectorTime(-1), -1);
-        QCOMPARE(lap->sectorTime(8), -1);
         for (int sector = 0; sector < 8; ++sector) {
             const Points points = lap->sectorPoints(sector);
             QCOMPARE(points.empty(), lap->sectorTime(sector) == -1);
-            if (points.empty())
-                continue;
-            const PointAcquisition &first = points.front();
-            const PointAcquisition &last = points.back();
-            QCOMPARE(static_cast<qint32>(last.dataTimeStamp - first.dataTimeStamp),
-                     lap->sectorTime(sector));
-            QCOMPARE(last.acquisitionNumber - first.acquisitionNumber + 1, points.size());
+            if (!points.empty())
+                QCOMPARE(
+                    static_cast<qint32>(points.back().dataTimeStamp - points.front().dataTimeStamp),
+                    lap->sectorTime(sector));
         }
     }
-}
-
-// 30 metres a second on a circle of a kilometre across: every figure is known.
-void TestLaps::circles()
-{
-    constexpr double Radius = 500.0;
-    constexpr double Length = 2 * std::numbers::pi * Radius;
-    Map map;
-    map.setGateSize(5);
-    const auto onCircle = [](double part) {
-        const double angle = 2 * std::numbers::pi * part;
-        return place(Radius * std::sin(angle), Radius * std::cos(angle));
-    };
-    map.addNamedPoint(u"Start"_s, onCircle(0));
-    map.addNamedPoint(u"Time 0"_s, onCircle(0.25));
-    map.addNamedPoint(u"Time 1"_s, onCircle(0.5));
-    map.addNamedPoint(u"Time 2"_s, onCircle(1));
-    for (int i = 0; i <= 360; ++i)
-        map.addTrackPoint(onCircle(i / 360.0));
-    map.computeGeometry();
-    const auto session = sessionOf(circle(Radius, -400, 3 * Length + 400, 3));
-    session->setMap(&map);
-    QCOMPARE(session->laps().size(), 5U);
-    const auto near = [](double value, double expected, double tolerance) {
-        return std::fabs(value - expected) < tolerance;
-    };
-    constexpr double Time = Length / 30 * 1000;
-    for (std::size_t i = 1; i < 4; ++i) {
-        const Lap &lap = *session->laps()[i];
-        QVERIFY(lap.isComplete());
-        QVERIFY2(near(lap.lapTime(), Time, 3), qPrintable(QString::number(lap.lapTime())));
-        QVERIFY2(near(lap.distance(), Length, 1), qPrintable(QString::number(lap.distance())));
-        QVERIFY(near(lap.sectorTime(0), Time / 4, 3));
-        QVERIFY(near(lap.sectorTime(1), Time / 4, 3));
-        QVERIFY(near(lap.sectorTime(2), Time / 2, 3));
-        QCOMPARE(lap.sectorTime(0) + lap.sectorTime(1) + lap.sectorTime(2), lap.lapTime());
-    }
-    session->setMap(nullptr);
 }
 
 void TestLaps::crossing_data()
@@ -417,7 +290,6 @@ void TestLaps::crossing_data()
     QTest::newRow("between") << -4.05 << 5.95 << 2099U << 2039U << 0.0;
     QTest::newRow("before P1") << 3.95 << 13.95 << 2099U << 1959U << 0.0;
     QTest::newRow("behind P2") << -23.95 << -13.95 << 2099U << 2238U << 0.0;
-    QTest::newRow("at P1") << 0.0 << 10.0 << 2099U << 1999U << 0.0;
     QTest::newRow("same place") << -5.0 << -5.0 << 2099U << 1999U << -5.0;
     QTest::newRow("time runs back") << -4.05 << 5.95 << 999U << 1594U << 0.0;
     QTest::newRow("before the first millisecond") << 30.0 << 40.0 << 2999U << 4294966295U << 0.0;
@@ -430,20 +302,16 @@ void TestLaps::crossing()
     QFETCH(const quint32, stamp);
     QFETCH(const double, at);
     Points points = ride(u"%1 %2"_s.arg(from).arg(to));
-    setChannels(points, u"s0=100 l0=-5 f0=3 s1=200 l1=7"_s);
+    setChannels(points, u"s0=100 l0=-5 s1=200 l1=7"_s);
     points[0].dataTimeStamp = 1999;
     points[1].dataTimeStamp = stamp;
     const PointAcquisition point = crossingPoint(points[0], points[1], place(0));
     QTEST(point.dataTimeStamp, "crossed");
+    QVERIFY(positionOf(point).distanceTo(place(at)) < 0.001);
     // The whole seconds are those of P1, and so is everything but place and time.
     QCOMPARE(point.dataTimeSec, 1.0);
-    QVERIFY(positionOf(point).distanceTo(place(at)) < 0.001);
-    PointAcquisition same = point;
-    same.dataTimeStamp = points[0].dataTimeStamp;
-    same.dataTimeSec = points[0].dataTimeSec;
-    same.dataCoordX = points[0].dataCoordX;
-    same.dataCoordY = points[0].dataCoordY;
-    QCOMPARE(same, points[0]);
+    QCOMPARE(point.acquisitionNumber, 1U);
+    QVERIFY(point.dataSpeed == 100 && point.dataAngle == -5);
 }
 
 // The logger's clock starts again at 0; a float knows it by then to 256 ms only.
@@ -473,7 +341,6 @@ void TestLaps::wholeSamplesOnly()
 void TestLaps::withoutUsableMap()
 {
     const Cut cut(ride(lapRide({0})), 10, 680, u"Time 0@100"_s);
-    QCOMPARE(cut.session->laps().size(), 3U);
     const auto unusable = lineMap(10, 680, {{u"Time 0"_s, 0}});
     for (const Map *map : {unusable.get(), static_cast<Map *>(nullptr)}) {
         cut.session->setMap(cut.map.get());
@@ -494,9 +361,8 @@ void TestLaps::validity()
     QCOMPARE(session.results().bestLap, 3);
     QCOMPARE(session.bestLapText(), u"00:03.700"_s);
     QCOMPARE(session.invalidLaps(), (Numbers {2, 3}));
-    QVERIFY(!cut.lap(1).isBest() && cut.lap(3).isBest());
     session.setLapValid(2, true);
-    QCOMPARE(session.results().bestLap, 2);
+    QVERIFY(cut.lap(2).isBest() && !cut.lap(3).isBest());
     session.setLapValid(99, false);
     // What was thrown out stays so on another map.
     const auto other = lineMap(10, 690);
@@ -510,16 +376,15 @@ void TestLaps::figures_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<QString>("channels");
     QTest::addColumn<QString>("figures"); // speed, angle, acceleration, front, rear: max/min
-    QTest::newRow("one sample") << 1 << u"s0=81.4 l0=-3 a0=-0.5"_s
-                                << u"81/81 -3/-3 -0.5/-0.5 -/- -/-"_s;
-    QTest::newRow("halves") << 2 << u"s0=10.5 s1=9.49 l0=-10.5 l1=0.5"_s
-                            << u"11/9 1/-11 0/0 -/- -/-"_s;
-    QTest::newRow("all below 0") << 2 << u"l0=-7 l1=-9 a0=-1.5 a1=-0.25 f0=-2 f1=-4"_s
-                                 << u"0/0 -7/-9 -0.25/-1.5 -2/-4 -/-"_s;
-    QTest::newRow("all large") << 2 << u"s0=300 s1=390 a0=1.5 a1=2 r0=70 r0=60"_s
-                               << u"390/300 0/0 2/1.5 -/- 70/60"_s;
-    QTest::newRow("no numbers") << 3 << u"f0=nan f1=5 f1=nan f2=4 r1=nan"_s
-                                << u"0/0 0/0 0/0 5/4 -/-"_s;
+    const auto row = [](const char *name, int count, const char *channels, const char *figures) {
+        QTest::newRow(name) << count << QString::fromLatin1(channels)
+                            << QString::fromLatin1(figures);
+    };
+    row("halves", 2, "s0=10.5 s1=9.49 l0=-10.5 l1=0.5", "11/9 1/-11 0/0 -/- -/-");
+    row("all below 0", 2, "l0=-7 l1=-9 a0=-1.5 a1=-0.25 f0=-2 f1=-4",
+        "0/0 -7/-9 -0.25/-1.5 -2/-4 -/-");
+    row("all large", 2, "s0=300 s1=390 a0=1.5 a1=2 r0=70 r0=60", "390/300 0/0 2/1.5 -/- 70/60");
+    row("no numbers", 3, "f0=nan f1=5 f1=nan f2=4 r1=nan", "0/0 0/0 0/0 5/4 -/-");
 }
 
 void TestLaps::figures()
@@ -532,8 +397,8 @@ void TestLaps::figures()
     Lap lap(*session);
     lap.setPoints(points);
     const auto pair = [](const auto &max, const auto &min) { return u"%1/%2"_s.arg(max).arg(min); };
-    const auto range = [](const ReadingRange &range) -> QString {
-        return orDash(range.max) + u'/' + orDash(range.min);
+    const auto range = [&pair](const ReadingRange &range) {
+        return range.max ? pair(*range.max, *range.min) : u"-/-"_s;
     };
     const QStringList figures {
         pair(lap.maxSpeed(), lap.minSpeed()), pair(lap.maxAngle(), lap.minAngle()),
@@ -551,7 +416,6 @@ void TestLaps::turns_data()
         QTest::newRow(name) << speeds << QString::fromLatin1(maxima) << QString::fromLatin1(minima);
     };
     row("none", {100, 100, 120, 120}, "", "");
-    row("a peak", {100, 150, 140}, "2", "");
     row("a plateau's end", {100, 150, 150, 150, 140}, "4", "");
     // The swing down counts from the first sample of the fall.
     row("a trough of 9", {50, 40, 31, 35}, "1", "");
@@ -590,7 +454,6 @@ void TestLaps::marks_data()
     };
     // Samples 0 to 4 lead to the line, 5 to 39 and 40 to 74 are laps 2 and 3; where all samples
     // are alike the first one counts. Samples 4, 39 and 74 give way to points on the line.
-    row("all alike", "", "1: 0 3 4 2 1");
     row("each channel", "s10=9 a11=1 a50=-1 l12=20 l51=-20", "2: 0 3 2; 3: 4 1");
     row("suspensions", "f10=5 f60=2 r10=1 r11=4", "1: 0 3 4 2 1; 2: 7 9 10; 3: 8");
     row("not rounded", "s10=100.2 s60=100.4", "1: 3 4 2 1; 3: 0");
@@ -598,7 +461,6 @@ void TestLaps::marks_data()
     row("in a lap thrown out", "s10=100 s60=90", "1: 3 4 2 1", {2});
     row("a sample that gave way", "s39=100", "1: 3 4 2 1");
     row("no number", "s0=nan l0=nan", "1: 0 2 1");
-    row("beside no number", "s10=100 l10=nan", "1: 3 4 2 1");
 }
 
 void TestLaps::marks()
@@ -619,23 +481,14 @@ void TestLaps::marks()
     QTEST(marks.join(u"; "_s), "marks");
 }
 
-void TestLaps::times_data()
-{
-    QTest::addColumn<qint64>("milliseconds");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("below 0") << qint64(-1) << u""_s;
-    QTest::newRow("0") << qint64(0) << u"00:00.000"_s;
-    QTest::newRow("a lap") << qint64(62003) << u"01:02.003"_s;
-    QTest::newRow("below an hour") << qint64(3599999) << u"59:59.999"_s;
-    QTest::newRow("an hour") << qint64(3600000) << u"01::00:00.000"_s;
-    QTest::newRow("below a day") << qint64(86399999) << u"23::59:59.999"_s;
-    QTest::newRow("a day") << qint64(86400000) << u""_s;
-}
-
 void TestLaps::times()
 {
-    QFETCH(const qint64, milliseconds);
-    QTEST(timeText(milliseconds), "text");
+    QCOMPARE(timeText(-1), u""_s);
+    QCOMPARE(timeText(0), u"00:00.000"_s);
+    QCOMPARE(timeText(3599999), u"59:59.999"_s);
+    QCOMPARE(timeText(3600000), u"01::00:00.000"_s);
+    QCOMPARE(timeText(86399999), u"23::59:59.999"_s);
+    QCOMPARE(timeText(86400000), u""_s);
 }
 
 QTEST_GUILESS_MAIN(TestLaps)

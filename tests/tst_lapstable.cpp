@@ -41,15 +41,6 @@ MapPointer circuit(const QString &name = u"/Hill.map"_s)
     return map;
 }
 
-void addReadings(PointAcquisition &point, float front, float rear)
-{
-    const Reading readings[] {{1, front}, {2, rear}};
-    if (front != 0)
-        point.addSuspension1(readings, 1);
-    if (rear != 0)
-        point.addSuspension2(readings + 1, 1);
-}
-
 /// Out lap, laps of 4.5, 3.5 and 5.5 seconds, in lap. The third holds all records but those of
 /// the rear suspension, which only the fourth has.
 std::unique_ptr<Session> outing()
@@ -63,10 +54,10 @@ std::unique_ptr<Session> outing()
     points[63].dataAngle = 51.4;
     points[64].dataAccelXPHComputed = 0.456;
     points[65].dataAccelXPHComputed = -1.239;
-    addReadings(points[66], 12.345F, 0);
-    addReadings(points[67], 99.5F, 0);
-    addReadings(points[100], 50, 7.25F);
-    addReadings(points[101], 50, 8);
+    const Reading readings[] {{1, 12.345F}, {2, 99.5F}, {3, 7.25F}, {4, 8}};
+    points[66].addSuspension1(readings, 2);
+    points[100].addSuspension1(readings + 1, 1);
+    points[101].addSuspension2(readings + 2, 2);
     return sessionOf(points);
 }
 
@@ -88,51 +79,24 @@ QChar letter(const QVariant &background)
                                                : u'?';
 }
 
-/// The background of each cell, a letter each, a word for each row.
-QString colours(const QAbstractItemModel &model)
-{
-    QStringList rows;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        QString letters;
-        for (int column = 0; column < model.columnCount(); ++column)
-            letters += letter(model.index(row, column).data(Qt::BackgroundRole));
-        rows.append(letters);
-    }
-    return rows.join(u' ');
-}
-
-/// A "t" for each cell of a row whose role is true.
-QString trueCells(const QAbstractItemModel &model, int row, int role)
+/// The backgrounds of a row's cells, a letter each.
+QString colours(const QAbstractItemModel &model, int row, int role = Qt::BackgroundRole)
 {
     QString letters;
     for (int column = 0; column < model.columnCount(); ++column)
-        letters += model.index(row, column).data(role).toBool() ? u't' : u'.';
+        letters += letter(model.index(row, column).data(role));
     return letters;
 }
 
-QString visibleColumns(const QTableView &table)
+/// The columns that are hidden.
+QString hidden(const QTableView &table)
 {
     QStringList columns;
     for (int column = 0; column < table.model()->columnCount(); ++column) {
-        if (!table.isColumnHidden(column))
+        if (table.isColumnHidden(column))
             columns.append(QString::number(column));
     }
     return columns.join(u' ');
-}
-
-/// Writes the display settings as the first start does, but at once: key by key takes its time on
-/// a slow disk.
-void startWith(const QString &path)
-{
-    QByteArray text("[General]\n");
-    for (const Setting setting : Settings::displaySettings()) {
-        const QByteArray key = Settings::key(setting).toUtf8();
-        text += key + (key.endsWith("Susp") ? "=false\n" : "=true\n");
-    }
-    QFile file(path);
-    if (!QDir().mkpath(QFileInfo(path).path()) || !file.open(QIODevice::WriteOnly)
-        || file.write(text) != text.size())
-        qFatal("cannot write the settings");
 }
 
 /// The table of a displayed session, with settings of its own.
@@ -140,7 +104,7 @@ struct Table
 {
     Table()
     {
-        startWith(settings.path(SettingsFile::Analyzer));
+        settings.writeDisplayDefaults();
         session->setMap(map.get());
         display(session.get());
     }
@@ -185,27 +149,16 @@ class TestLapsTable final : public QObject
 
 private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
-    void texts_data();
     void texts();
-    void longTimes();
-    void separatorsOfTheLanguage();
-    void headers_data();
     void headers();
-    void columnCount_data();
-    void columnCount();
-    void colourOrder();
-    void rolesOfSelectedRows();
+    void colours();
     void paintsRecordsOfSelectedRows();
     void modelKeepsItsWord();
-    void columnSettings_data();
     void columnSettings();
-    void missingKeyHidesColumn();
     void menu_data();
     void menu();
-    void menuCanExport();
     void rowsAndSelection();
-    void keyThrowsLapOut();
-    void keysCompare();
+    void keys();
     void lapsThatAreNoMore();
     void firstLapOutlivesDisplay();
 };

@@ -269,6 +269,11 @@ QList<Session *> LibraryTree::selectedSessions() const
 
 // The folders and files that the logger itself names stay as they are, and so does the library's
 // own folder, which is current until something in it is.
+bool LibraryTree::isProtected(const QString &path) const
+{
+    return path == m_folder || QFileInfo(path).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+}
+
 bool LibraryTree::isCurrentProtected() const
 {
     return currentPath() == m_folder
@@ -391,7 +396,7 @@ void LibraryTree::deleteSelected()
     const QModelIndexList rows = selectedRows();
     for (const QModelIndex &row : rows)
         paths.append(m_model->filePath(row));
-    paths.removeAll(m_folder);
+    paths.removeIf([this](const QString &path) { return isProtected(path); });
     if (paths.isEmpty())
         return;
     QMessageBox box(QMessageBox::Warning, tr("Delete"),

@@ -78,6 +78,7 @@ private:
     void rename(const QString &from, const QString &newName);
     [[nodiscard]] QModelIndexList selectedRows() const;
     [[nodiscard]] QList<Session *> selectedSessions() const;
+    [[nodiscard]] bool isProtected(const QString &path) const;
     [[nodiscard]] bool isCurrentProtected() const;
     QAction *makeAction(const QString &text, const QString &icon, const QKeySequence &shortcut);
 

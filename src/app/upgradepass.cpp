@@ -51,7 +51,9 @@ void UpgradePass::run()
         if (m_counter > m_parts.library.size())
             return;
         handle(path);
-        showProgress();
+        // Files that are no sessions are no part of the number that the window shows.
+        if (m_parts.library.find(path) != nullptr)
+            showProgress();
     }
 }
 

@@ -151,6 +151,10 @@ void ZunoAnalyzer::connectParts()
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
             &LibraryTree::updateViewedStates);
+    connect(&m_library, &AcquisitionLibrary::sessionsChanged, this, [this] {
+        if (m_display.session() == nullptr)
+            showState(emptyState());
+    });
     connect(&m_library, &AcquisitionLibrary::sessionAboutToBeRemoved, &m_selection,
             &LapSelection::forget);
     connect(&m_display, &SessionDisplay::mapApplied, this, &ZunoAnalyzer::showSession);

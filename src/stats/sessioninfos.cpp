@@ -72,6 +72,11 @@ void SessionInfos::fillEdits()
     m_form.condition->setCurrentText(has ? m_session->condition() : QString());
     m_form.temperature->setValue(has ? m_session->temperature() : 0);
     m_form.notes->setPlainText(has ? m_session->notes() : QString());
+    noteTexts();
+}
+
+void SessionInfos::noteTexts()
+{
     m_filled = {{m_form.event, m_form.event->text()},
                 {m_form.driver, m_form.driver->text()},
                 {m_form.vehicle, m_form.vehicle->text()},
@@ -130,6 +135,8 @@ void SessionInfos::save()
         text && !text->isEmpty())
         session.setNotes(storableText(*text));
     session.setTemperature(m_form.temperature->value());
+    // A text that is changed back is typed again.
+    noteTexts();
     m_writer.write(*m_session);
 }
 

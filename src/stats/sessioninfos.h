@@ -56,6 +56,8 @@ public:
 private:
     void fillEdits();
     void fillLabels();
+    /// Remembers the texts as they stand, which are those of the session.
+    void noteTexts();
     void setEnabled(bool enabled);
     /// The text of an edit when it is another than the page was filled with.
     [[nodiscard]] std::optional<QString> typed(const QWidget *edit, const QString &text) const;
