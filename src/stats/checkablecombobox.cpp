@@ -150,12 +150,11 @@ void CheckableComboBox::onItemChanged(const QStandardItem *item)
     if (m_isChecking)
         return;
     QList<int> rows = checkedRows();
-    if (item->row() == AllRow && item->checkState() == Qt::Checked)
+    const bool isAllChosen = item->row() == AllRow && item->checkState() == Qt::Checked;
+    if (isAllChosen || rows.isEmpty())
         rows = {AllRow};
     else if (rows.size() > 1)
         rows.removeOne(AllRow);
-    else if (rows.isEmpty())
-        rows = {AllRow};
     check(rows);
     Q_EMIT checkedChanged();
 }
