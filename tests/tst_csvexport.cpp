@@ -36,14 +36,8 @@ PointAcquisition point()
 PointAcquisition withReadings(const QList<float> &front, const QList<float> &rear)
 {
     PointAcquisition sample = point();
-    for (const float value : front) {
-        const Reading reading {1, value};
-        sample.addSuspension1(&reading, 1);
-    }
-    for (const float value : rear) {
-        const Reading reading {1, value};
-        sample.addSuspension2(&reading, 1);
-    }
+    addReadings(sample, 1, front);
+    addReadings(sample, 2, rear);
     return sample;
 }
 
@@ -54,79 +48,47 @@ class TestCsvExport final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void numbers_data();
     void numbers();
-    void rows_data();
     void rows();
     void wholeSamplesOnly();
     void lap();
 };
 
-void TestCsvExport::numbers_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("speed");
-    QTest::addColumn<QString>("longitude");
-    const auto row
-        = [](const char *locale, double value, const char *speed, const char *longitude) {
-              QTest::addRow("%s, %g", locale, value)
-                  << QString::fromLatin1(locale) << value << QString::fromLatin1(speed)
-                  << QString::fromLatin1(longitude);
-          };
-    row("C", 1234.5, "1234,5", "1234,5000000");
-    row("en_US", 1234.5, "1,234,5", "1,234,5000000");
-    row("de_DE", 1234.5, "1,234,5", "1,234,5000000");
-    // These separate groups by characters that no spreadsheet would take for one.
-    row("fr_FR", 1234.5, "1234,5", "1234,5000000");
-    row("de_CH", 1234.5, "1234,5", "1234,5000000");
-    row("en_US", 12.3456789, "12,3457", "12,3456789");
-    row("en_US", -0.00001234, "-1,234e-05", "-0,0000123");
-    row("C", 7, "7", "7,0000000");
-    row("fr_FR", 1234567, "1,23457e+06", "1234567,0000000");
-}
-
 void TestCsvExport::numbers()
 {
-    QFETCH(const QString, locale);
-    QFETCH(const double, value);
-    PointAcquisition sample;
-    sample.dataSpeed = value;
-    sample.dataCoordX = value;
-    const QByteArray csv = sessionCsv(*sessionOf({sample}), QLocale(locale));
-    const QStringList cells = QString::fromUtf8(csv).section(u'\n', 1).split(u';');
-    // Lower-case exponents everywhere: locales write them in either way.
-    QTEST(QString(cells.value(3)).replace(u'E', u'e'), "speed");
-    QTEST(cells.value(1), "longitude");
-}
-
-void TestCsvExport::rows_data()
-{
-    QTest::addColumn<Points>("points");
-    QTest::addColumn<QByteArray>("csv");
-    const QByteArray channels = ";9,2500000;-45,1234568;100,5;0,25;-20;-0,5";
-    QTest::newRow("none") << Points() << Header;
-    QTest::newRow("no readings") << Points {point(), point()}
-                                 << Header + "\n1,2" + channels + "\n1,2" + channels;
-    QTest::newRow("both channels")
-        << Points {withReadings({1.5F, 2}, {3, 0.1F})}
-        << SuspensionHeader + "\n1,2" + channels + ";1,5;3" + "\n1,21" + channels + ";2;0,1";
-    QTest::newRow("lists of different lengths")
-        << Points {withReadings({1, 2}, {3}), withReadings({}, {4})}
-        << SuspensionHeader + "\n1,2" + channels + ";1;3" + "\n1,21" + channels + ";2;" + "\n1,2"
-               + channels + ";;4";
-    // The first sample decides about the header, every sample about its own row.
-    QTest::newRow("the first without") << Points {point(), withReadings({1}, {})}
-                                       << Header + "\n1,2" + channels + "\n1,2" + channels + ";1;";
-    QTest::newRow("the second without")
-        << Points {withReadings({}, {1}), point()}
-        << SuspensionHeader + "\n1,2" + channels + ";;1" + "\n1,2" + channels;
+    // Speed and longitude of such a value.
+    const auto written = [](const char *locale, double value) -> QString {
+        PointAcquisition sample;
+        sample.dataSpeed = sample.dataCoordX = value;
+        const QByteArray csv
+            = sessionCsv(*sessionOf({sample}), QLocale(QString::fromLatin1(locale)));
+        const QStringList cells = QString::fromUtf8(csv).section(u'\n', 1).split(u';');
+        // Lower-case exponents everywhere: locales write them in either way.
+        return QString(cells.value(3)).replace(u'E', u'e') + u' ' + cells.value(1);
+    };
+    QCOMPARE(written("C", 1234.5), u"1234,5 1234,5000000"_s);
+    QCOMPARE(written("en_US", 1234.5), u"1,234,5 1,234,5000000"_s);
+    QCOMPARE(written("de_DE", 1234.5), u"1,234,5 1,234,5000000"_s);
+    // These separate groups by characters that no spreadsheet would take for one.
+    QCOMPARE(written("fr_FR", 1234.5), u"1234,5 1234,5000000"_s);
+    QCOMPARE(written("de_CH", 1234.5), u"1234,5 1234,5000000"_s);
+    QCOMPARE(written("en_US", -0.00001234), u"-1,234e-05 -0,0000123"_s);
+    QCOMPARE(written("fr_FR", 1234567), u"1,23457e+06 1234567,0000000"_s);
 }
 
 void TestCsvExport::rows()
 {
-    QFETCH(const Points, points);
-    QTEST(sessionCsv(*sessionOf(points), QLocale::c()), "csv");
+    const auto csv
+        = [](const Points &points) { return sessionCsv(*sessionOf(points), QLocale::c()); };
+    const QByteArray row = "\n1,2;9,2500000;-45,1234568;100,5;0,25;-20;-0,5";
+    const QByteArray second = QByteArray(row).replace("1,2;", "1,21;");
+    QCOMPARE(csv({}), Header);
+    QCOMPARE(csv({point(), point()}), Header + row + row);
+    QCOMPARE(csv({withReadings({1.5F, 2}, {3}), withReadings({}, {0.1F})}),
+             SuspensionHeader + row + ";1,5;3" + second + ";2;" + row + ";;0,1");
+    // The first sample decides about the header, every sample about its own row.
+    QCOMPARE(csv({point(), withReadings({1}, {})}), Header + row + row + ";1;");
+    QCOMPARE(csv({withReadings({}, {1}), point()}), SuspensionHeader + row + ";;1" + row);
 }
 
 void TestCsvExport::wholeSamplesOnly()
