@@ -18,10 +18,10 @@ namespace zuno {
 
 UpgradePass::UpgradePass(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts) {}
 
-void UpgradePass::runOnce()
+bool UpgradePass::runOnce()
 {
     if (m_parts.settings.isOn(Setting::V1400))
-        return;
+        return false;
     qDebug() << "(ZunoAnalyzer::loadAcquisitionsFolder) Parsing all .ra files to fill in "
                 "additionnal informations";
     m_counter = 0;
@@ -36,6 +36,7 @@ void UpgradePass::runOnce()
     window.show();
     run();
     m_parts.settings.setValue(Setting::V1400, true);
+    return true;
 }
 
 void UpgradePass::run()

@@ -35,8 +35,8 @@ public:
     explicit UpgradePass(const Parts &parts, QObject *parent = nullptr);
 
     /// Runs the pass when the settings say that it has not run yet, and notes that it has, also
-    /// when it was cancelled.
-    void runOnce();
+    /// when it was cancelled. True when it has run now.
+    bool runOnce();
 
 private:
     void run();

@@ -197,7 +197,11 @@ void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
 {
     m_library.load(folder);
     m_tree->setFolder(folder);
-    UpgradePass({m_library, *m_tree, m_display, m_writer, m_settings}).runOnce();
+    UpgradePass upgrade({m_library, *m_tree, m_display, m_writer, m_settings});
+    // The tree lists files that were selected before their folder was loaded in the order of their
+    // selection, so it starts anew.
+    if (upgrade.runOnce())
+        m_tree->setFolder(folder);
     if (m_display.session() == nullptr)
         showNothing();
 }
