@@ -116,7 +116,8 @@ int set(const QStringList &arguments)
                        "replaced), temperature (0 to 255), newSession (0 or 1), invalid (numbers "
                        "of laps, as in 2,3)."));
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("A session file (.ra1)."));
-    line.addArgument(QStringLiteral("key=value"), QStringLiteral("What to change; can be repeated."));
+    line.addArgument(QStringLiteral("key=value"),
+                     QStringLiteral("What to change; can be repeated."));
     line.addValue({QStringLiteral("o")}, QStringLiteral("OUT"),
                   QStringLiteral("Writes to OUT instead of FILE."));
     constexpr qsizetype Any = 1000000;
