@@ -404,7 +404,7 @@ void ZunoAnalyzer::showLabels(const Session *session)
     m_ui->lb_errorMap->setVisible(session != nullptr && !hasMap);
     m_ui->lb_errorMap->setText(
         tr("No map found, please try to select one from the Map configuraton panel"));
-    if (!hasMap)
+    if (session == nullptr || !hasMap)
         return;
     m_ui->lb_mapSelected->setText(tr("Map : %1").arg(map->displayName()));
     m_ui->lb_mapLength->setText(
@@ -419,8 +419,11 @@ void ZunoAnalyzer::showSectors(const Session *session)
 {
     QTableWidget *table = m_ui->tableWidget;
     table->clear();
-    const Map *map = session != nullptr ? session->map() : nullptr;
-    const int sectors = map != nullptr && !session->laps().empty() ? map->sectorCount() : 0;
+    if (session == nullptr || session->map() == nullptr || session->laps().empty()) {
+        table->hide();
+        return;
+    }
+    const int sectors = session->map()->sectorCount();
     table->setVisible(sectors > 0);
     table->setRowCount(sectors);
     table->setColumnCount(3);

@@ -300,7 +300,7 @@ const QList<Circuit> &circuits()
 Path hillRoad(double metres)
 {
     Random random(1847);
-    QList<Corner> corners {{}};
+    QList<Corner> corners(1);
     double leg = 200;
     double bearing = 0.6;
     for (double ridden = 0; ridden < metres; ridden += leg) {

@@ -25,7 +25,7 @@ public:
     /// Displays laps of @p session (nullptr for none), its best lap first. A first lap for
     /// comparison stays chosen, so that laps of two sessions can be compared.
     void setSession(Session *session);
-    [[nodiscard]] Session *session() const { return m_current.session; }
+    [[nodiscard]] Session *session() const { return m_current.session.data(); }
 
     void setCurrentLap(int index);
     /// -1 without a lap.
