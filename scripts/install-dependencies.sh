@@ -10,7 +10,8 @@ set -euo pipefail
 
 core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
 # The virtual display, the tools that find and photograph a window on it, and letters to draw.
-gui=(libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
+gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools libjs-leaflet
+    libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
 # The compiler brings the sanitizers' libraries itself.
 checks=(git clang-format clang-tidy cppcheck shellcheck)
 
