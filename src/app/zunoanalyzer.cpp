@@ -24,6 +24,7 @@
 #include <app/upgradepass.h>
 #include <maps/map.h>
 #include <maps/mapswidget.h>
+#include <maps/mapviewcontroller.h>
 #include <session/laptimes.h>
 #include <session/numbers.h>
 #include <stats/sessioninfos.h>
@@ -63,6 +64,8 @@ ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
     m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
     m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
     m_ui->tw_arbo->installEventFilter(this);
+    m_mapView = new MapViewController(this);
+    m_mapView->init(this, m_ui->webview_layout);
     createActions();
     createInfosPage();
     connectParts();
@@ -175,6 +178,10 @@ void ZunoAnalyzer::connectParts()
     connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
     connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
+    connect(m_mapView, &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
+    connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
+    connect(&m_selection, &LapSelection::comparisonRequested, m_mapView,
+            &MapViewController::drawTwoLaps);
 }
 
 void ZunoAnalyzer::openMapsFolder()
@@ -259,6 +266,21 @@ void ZunoAnalyzer::detectMap()
     m_display.detectMap();
 }
 
+void ZunoAnalyzer::onMapReady()
+{
+    m_mapView->initOnlineMap(m_library.sessions(), static_cast<int>(m_display.index()));
+    m_mapView->setOptions(m_settings.path(SettingsFile::Analyzer));
+    showLapOnMap();
+}
+
+void ZunoAnalyzer::showLapOnMap()
+{
+    if (const Lap *lap = m_selection.currentLap())
+        m_mapView->drawLap(lap);
+    else
+        m_mapView->clearLaps();
+}
+
 void ZunoAnalyzer::loadMaps()
 {
     const QString folder = m_settings.acquisitionFolder();
@@ -325,6 +347,7 @@ void ZunoAnalyzer::openSettings()
         return;
     dialog.storeValues();
     m_lapsView->applyColumns();
+    m_mapView->setOptions(m_settings.path(SettingsFile::Analyzer));
 }
 
 void ZunoAnalyzer::openMaps()
@@ -380,6 +403,7 @@ bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
 
 void ZunoAnalyzer::showSession(Session *session)
 {
+    m_mapView->centerMap(session->map());
     m_selection.setSession(session);
     m_lapsView->showLaps();
     showLabels(session);

@@ -22,6 +22,7 @@ namespace zuno {
 
 class LapsView;
 class LibraryTree;
+class MapViewController;
 class SessionInfos;
 class SessionsStats;
 
@@ -53,6 +54,8 @@ public Q_SLOTS:
     void onSessionDisplayedChange();
     void onMapChanged(const QList<const zuno::Map *> &candidates, int mode);
     void detectMap();
+    /// The map page listens: gives it the map, the options and the lap to draw.
+    void onMapReady();
     /// Reads the maps again and displays the current session anew.
     void loadMaps();
     void saveSplitterStates();
@@ -82,6 +85,7 @@ private:
     void showState(const QString &text);
     void showNothing();
     void showFirstLap();
+    void showLapOnMap();
     [[nodiscard]] QString emptyState() const;
     void onFileChanged(const QString &path);
     void showComparison(const Lap *first, const Lap *second);
@@ -101,6 +105,7 @@ private:
     SessionDisplay m_display;
     LapsView *m_lapsView = nullptr;
     LibraryTree *m_tree = nullptr;
+    MapViewController *m_mapView = nullptr;
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
     std::array<QSplitter *, 4> m_splitters {};

@@ -56,6 +56,33 @@ void writeLandmarks(JsonWriter &json, const Map *map)
     json.endArray();
 }
 
+// What the page draws of a lap.
+struct Drawing
+{
+    const Points &line;
+    const Points &maxSpeeds;
+    const Points &minSpeeds;
+    const Map *map = nullptr;
+    double accelMax = 0.0;
+    double decelMax = 0.0;
+    bool isComplete = false;
+};
+
+QByteArray payload(const Drawing &drawing)
+{
+    JsonWriter json(JsonWriter::Numbers::AsQt);
+    json.beginObject();
+    writeClosedLine(json, drawing.line);
+    writePoints(json, "maxSpeeds", drawing.maxSpeeds);
+    writePoints(json, "minSpeeds", drawing.minSpeeds);
+    writeLandmarks(json, drawing.map);
+    json.member("accelMax", drawing.accelMax);
+    json.member("decelMax", drawing.decelMax);
+    json.member("isComplete", drawing.isComplete);
+    json.endObject();
+    return json.text();
+}
+
 } // namespace
 
 void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedForm speed)
@@ -84,15 +111,23 @@ QByteArray pointPayload(const PointAcquisition &point)
 
 QByteArray lapPayload(const Lap &lap)
 {
+    return payload({lap.points(), lap.maxSpeedPoints(), lap.minSpeedPoints(), lap.session().map(),
+                    lap.accelMax(), lap.decelMax(), lap.isComplete()});
+}
+
+QByteArray emptyLapPayload()
+{
+    const Points none;
+    return payload({none, none, none});
+}
+
+QByteArray optionsPayload(const PageOptions &options)
+{
     JsonWriter json(JsonWriter::Numbers::AsQt);
     json.beginObject();
-    writeClosedLine(json, lap.points());
-    writePoints(json, "maxSpeeds", lap.maxSpeedPoints());
-    writePoints(json, "minSpeeds", lap.minSpeedPoints());
-    writeLandmarks(json, lap.session().map());
-    json.member("accelMax", lap.accelMax());
-    json.member("decelMax", lap.decelMax());
-    json.member("isComplete", lap.isComplete());
+    json.member("minMax", options.minMax);
+    json.member("landmarks", options.landmarks);
+    json.member("compareGradient", options.compareGradient);
     json.endObject();
     return json.text();
 }

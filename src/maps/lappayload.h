@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 namespace zuno {
 
@@ -24,5 +25,19 @@ void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedFor
 /// so that the line closes; the landmarks are the map's start and timing points in the order of
 /// their names.
 [[nodiscard]] QByteArray lapPayload(const Lap &lap);
+
+/// The payload of a lap without samples on no map, which takes everything off the page.
+[[nodiscard]] QByteArray emptyLapPayload();
+
+/// What the rider wants to see on the map, "true" or "false", or empty when nothing is stored.
+struct PageOptions
+{
+    QString minMax;
+    QString landmarks;
+    QString compareGradient;
+};
+
+/// The JSON text of the options as the map page reads them.
+[[nodiscard]] QByteArray optionsPayload(const PageOptions &options);
 
 } // namespace zuno

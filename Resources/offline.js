@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// The built-in map: as much of the map service's interface as the page script uses, drawn by
+// Leaflet on a dark ground. Nothing of it asks the network.
+"use strict";
+
+(() => {
+    /** @param {google.maps.LatLngLiteral} place */
+    const toLeaflet = (place) => L.latLng(place.lat, place.lng);
+
+    class LatLng {
+        /** @param {number} lat @param {number} lng */
+        constructor(lat, lng) {
+            this.place = { lat, lng };
+        }
+        lat() { return this.place.lat; }
+        lng() { return this.place.lng; }
+    }
+
+    class Point {
+        /** @param {number} x @param {number} y */
+        constructor(x, y) {
+            this.x = x;
+            this.y = y;
+        }
+    }
+
+    class Size {
+        /** @param {number} width @param {number} height */
+        constructor(width, height) {
+            this.width = width;
+            this.height = height;
+        }
+    }
+
+    class LatLngBounds {
+        constructor(bounds = new L.LatLngBounds([])) {
+            this.bounds = bounds;
+        }
+        isEmpty() { return !this.bounds.isValid(); }
+        /** @param {google.maps.LatLngLiteral} place */
+        extend(place) {
+            this.bounds.extend(toLeaflet(place));
+            return this;
+        }
+        /** @param {google.maps.LatLngLiteral} place */
+        contains(place) { return !this.isEmpty() && this.bounds.contains(toLeaflet(place)); }
+        /** @param {LatLngBounds} other */
+        intersects(other) { return this.bounds.intersects(other.bounds); }
+    }
+
+    class Map {
+        /** @param {HTMLElement} element @param {google.maps.MapOptions} options */
+        constructor(element, options) {
+            this.leaflet = L.map(element, {
+                // Lines beside the view are drawn too, so that moving it uncovers no gap.
+                renderer: L.canvas({ padding: 0.5 }),
+                attributionControl: false,
+                zoomSnap: 0.25,
+                zoomDelta: 0.5,
+                wheelPxPerZoomLevel: 90,
+                minZoom: 3,
+                maxZoom: 21,
+            });
+            L.control.scale({ imperial: false }).addTo(this.leaflet);
+            const centre = /** @type {google.maps.LatLngLiteral} */ (options.center);
+            this.leaflet.setView(toLeaflet(centre), options.zoom ?? undefined);
+        }
+        /** @param {google.maps.LatLngLiteral} place */
+        setCenter(place) {
+            this.leaflet.panTo(toLeaflet(place), { animate: false });
+        }
+        getZoom() { return this.leaflet.getZoom(); }
+        getBounds() { return new LatLngBounds(this.leaflet.getBounds()); }
+        /** @param {LatLngBounds} bounds @param {number} padding */
+        fitBounds(bounds, padding) {
+            this.leaflet.fitBounds(bounds.bounds, { animate: false, padding: [padding, padding] });
+        }
+        /** @param {"click"} event @param {(event: { latLng: LatLng }) => void} slot */
+        addListener(event, slot) {
+            this.leaflet.on(event, (e) => slot({ latLng: new LatLng(e.latlng.lat, e.latlng.lng) }));
+        }
+    }
+
+    /** What can stand on the map and be taken off it. */
+    class Shape {
+        /** @param {L.Layer} layer @param {unknown} map */
+        constructor(layer, map) {
+            this.layer = layer;
+            this.setMap(map);
+        }
+        /** @param {unknown} map */
+        setMap(map) {
+            this.map = map instanceof Map ? map : null;
+            this.show(this.map !== null);
+        }
+        /** @param {boolean} visible */
+        show(visible) {
+            this.layer.remove();
+            if (visible && this.map)
+                this.layer.addTo(this.map.leaflet);
+        }
+    }
+
+    class Polyline extends Shape {
+        /** @param {google.maps.PolylineOptions} options */
+        constructor(options) {
+            const path = /** @type {google.maps.LatLngLiteral[]} */ (options.path);
+            super(L.polyline(path.map(toLeaflet), {
+                color: options.strokeColor ?? undefined,
+                opacity: options.strokeOpacity ?? undefined,
+                weight: options.strokeWeight ?? undefined,
+                interactive: false,
+                // Each sample counts: a piece of line may be a few pixels long.
+                smoothFactor: 0,
+            }), options.map);
+        }
+    }
+
+    /** @param {google.maps.Icon} icon @param {google.maps.MarkerLabel | undefined} label */
+    function pictureOf(icon, label) {
+        const element = document.createElement("div");
+        const image = document.createElement("img");
+        image.src = icon.url;
+        element.append(image);
+        if (icon.scaledSize)
+            [image.width, image.height] = [icon.scaledSize.width, icon.scaledSize.height];
+        if (label && icon.labelOrigin) {
+            const text = document.createElement("span");
+            text.textContent = label.text;
+            // Keeps the style sheet's black for a colour that does not exist.
+            text.style.color = label.color ?? "";
+            text.style.left = `${icon.labelOrigin.x}px`;
+            text.style.top = `${icon.labelOrigin.y}px`;
+            element.append(text);
+        }
+        const anchor = icon.anchor ?? new Point(0, 0);
+        return L.divIcon({
+            className: "place", html: element, iconSize: [0, 0], iconAnchor: [anchor.x, anchor.y],
+        });
+    }
+
+    class Marker extends Shape {
+        /** @param {google.maps.MarkerOptions} options */
+        constructor(options) {
+            const place = /** @type {google.maps.LatLngLiteral} */ (options.position);
+            const label = /** @type {google.maps.MarkerLabel | undefined} */ (options.label);
+            const marker = L.marker(toLeaflet(place), {
+                icon: pictureOf(/** @type {google.maps.Icon} */ (options.icon), label),
+                interactive: false,
+                keyboard: false,
+                zIndexOffset: options.zIndex ?? 0,
+            });
+            super(marker, options.map);
+            this.marker = marker;
+        }
+        /** @param {google.maps.LatLngLiteral} place */
+        setPosition(place) { this.marker.setLatLng(toLeaflet(place)); }
+        /** @param {boolean} visible */
+        setVisible(visible) { this.show(visible); }
+    }
+
+    keepMap({ LatLng, LatLngBounds, Map, Marker, Point, Polyline, Size });
+})();

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+//
+// What the scripts of the map page get from outside, for the type checker.
+
+/** A sample of a lap. A value that is no number, or too large for one, arrives as null. */
+interface LapPoint {
+    acquisitionNumber: number;
+    dataTimeStamp: number;
+    dataTimeSec: number;
+    /** Longitude, degrees. */
+    dataCoordX: number | null;
+    /** Latitude, degrees. */
+    dataCoordY: number | null;
+    dataSpeed: number;
+    dataAngle: number;
+    dataAccelXPH: number;
+    dataAccelXPHComputed: number;
+    dataAccelYPH: number;
+}
+
+interface LapPayload {
+    /** The samples in order, then the first one again. */
+    lapPoints: LapPoint[];
+    maxSpeeds: LapPoint[];
+    minSpeeds: LapPoint[];
+    landmarks: { lat: number | null, lng: number | null }[];
+    accelMax: number;
+    decelMax: number;
+    isComplete: boolean;
+}
+
+/** Everything is text once it has come from the program; absent settings are empty. */
+interface PageOptions {
+    minMax: string | boolean;
+    landmarks: string | boolean;
+    compareGradient?: string;
+}
+
+/** What the program puts into the page before its scripts run. */
+interface PageSettings {
+    /** Where the map service's library is, with the key; empty without a key. */
+    service: string;
+    texts: Record<string, string>;
+}
+
+interface Signal<Arguments extends string[]> {
+    connect(slot: (...texts: Arguments) => void): void;
+}
+
+/** The program's end of the channel. */
+interface JsConnector {
+    sendTextToJS: Signal<[string]>;
+    drawOneLap: Signal<[string]>;
+    drawTwoLaps: Signal<[string, string]>;
+    drawCursor: Signal<[string]>;
+    drawSecondCursor: Signal<[string]>;
+    setOptions: Signal<[string]>;
+    connected(): void;
+    textFromJs(text: string): void;
+}
+
+declare class QWebChannel {
+    constructor(transport: object, ready: (channel: { objects: { jsConnector: JsConnector } }) => void);
+}
+
+declare const qt: { webChannelTransport: object };
+
+interface Window {
+    zunoPage?: PageSettings;
+    google?: typeof google;
+    /** The map service calls this when it refuses the key. */
+    gm_authFailure?: () => void;
+}

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <maps/mapviewcontroller.h>
+
+#include <QGeoCoordinate>
+#include <QLayout>
+#include <QLoggingCategory>
+#include <QMainWindow>
+#include <QSettings>
+#include <QVariant>
+#include <QWebEngineView>
+
+#include <app/settings.h>
+#include <maps/jsconnector.h>
+#include <maps/lappayload.h>
+#include <maps/map.h>
+#include <maps/pagesettings.h>
+#include <session/lap.h>
+#include <session/session.h>
+
+namespace zuno {
+
+namespace {
+
+Q_LOGGING_CATEGORY(category, "zuno.mapview")
+
+constexpr int MinimumWidth = 500;
+// A page that dies again and again is left alone.
+constexpr int MostRestarts = 3;
+
+void run(QWebEnginePage &page, const QString &function, const QString &text)
+{
+    page.runJavaScript(QStringLiteral("%1(\"%2\");").arg(function, text),
+                       [](const QVariant &result) { qCDebug(category) << result; });
+}
+
+} // namespace
+
+QString centreText(const Map *map)
+{
+    const bool hasPlace = map != nullptr && map->startPoint().isValid();
+    const QGeoCoordinate centre = hasPlace ? map->startPoint() : QGeoCoordinate(0.0, 0.0);
+    return centre.toString(QGeoCoordinate::Degrees);
+}
+
+void MapViewController::init(QMainWindow *window, QLayout *layout)
+{
+    if (m_view != nullptr)
+        return;
+    m_window = window;
+    m_view = new QWebEngineView(window);
+    m_view->setMinimumWidth(MinimumWidth);
+    // Going back, saving and looking at the source are of no use on a map.
+    m_view->setContextMenuPolicy(Qt::NoContextMenu);
+    // Files that are dropped are for the window.
+    m_view->setAcceptDrops(false);
+    layout->addWidget(m_view);
+    m_page = new JSConnector(m_view);
+    connect(m_page, &JSConnector::loadFinished, this, &MapViewController::mapReady);
+    connect(m_page, &JSConnector::drawn, this, &MapViewController::lapDrawn);
+    connect(m_page, &JSConnector::samplePicked, this, &MapViewController::samplePicked);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::restart);
+    injectPageSettings(*m_page);
+    m_view->setPage(m_page);
+    m_page->setBackgroundColor(QColor(0x14, 0x18, 0x1d));
+    m_view->load(QUrl(QStringLiteral("qrc:/Resources/map.html")));
+    m_view->show();
+}
+
+// The web engine runs in a process of its own, which can die without taking the program along.
+void MapViewController::restart()
+{
+    m_isReady = false;
+    if (m_restarts++ < MostRestarts)
+        QMetaObject::invokeMethod(
+            m_view, [view = m_view] { view->reload(); }, Qt::QueuedConnection);
+}
+
+void MapViewController::initOnlineMap(const QList<Session *> &sessions, int index)
+{
+    if (m_view == nullptr)
+        return;
+    m_isReady = true;
+    const bool hasSession = index >= 0 && index < sessions.size();
+    const Map *map = hasSession ? sessions[index]->map() : nullptr;
+    run(*m_page, QStringLiteral("initMap"), centreText(map));
+}
+
+void MapViewController::centerMap(const Map *map)
+{
+    if (m_isReady)
+        run(*m_page, QStringLiteral("centerMap"), centreText(map));
+}
+
+void MapViewController::drawLap(const Lap *lap)
+{
+    if (m_view != nullptr && lap != nullptr)
+        Q_EMIT m_page->drawOneLap(QString::fromUtf8(lapPayload(*lap)));
+}
+
+void MapViewController::drawTwoLaps(const Lap *first, const Lap *second)
+{
+    if (m_view != nullptr && first != nullptr && second != nullptr)
+        Q_EMIT m_page->drawTwoLaps(QString::fromUtf8(lapPayload(*first)),
+                                   QString::fromUtf8(lapPayload(*second)));
+}
+
+void MapViewController::clearLaps()
+{
+    if (m_view != nullptr)
+        Q_EMIT m_page->drawOneLap(QString::fromUtf8(emptyLapPayload()));
+}
+
+void MapViewController::drawCursor(const QString &text)
+{
+    if (m_view != nullptr)
+        Q_EMIT m_page->drawCursor(text);
+}
+
+void MapViewController::drawSecondCursor(const QString &text)
+{
+    if (m_view != nullptr)
+        Q_EMIT m_page->drawSecondCursor(text);
+}
+
+void MapViewController::setOptions(const QString &settingsPath)
+{
+    if (m_view == nullptr)
+        return;
+    const QSettings settings(settingsPath, QSettings::IniFormat);
+    const auto text = [&settings](Setting setting) {
+        return settings.value(Settings::key(setting)).toString();
+    };
+    const PageOptions options {text(Setting::ShowLocalMinMax), text(Setting::ShowPartielsPoints),
+                               text(Setting::UseGradientCompare)};
+    Q_EMIT m_page->setOptions(QString::fromUtf8(optionsPayload(options)));
+}
+
+} // namespace zuno
