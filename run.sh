@@ -43,6 +43,8 @@ if [[ ! -d $home/Norvale/Map ]]; then
     mv "$home/Norvale.new" "$home/Norvale"
 fi
 export XDG_DATA_HOME=$home XDG_CONFIG_HOME=$home/.config XDG_CACHE_HOME=$home/.cache
+# The web engine's sandbox does not work for root.
+((EUID != 0)) || export QTWEBENGINE_DISABLE_SANDBOX=1
 
 if [[ ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]]; then
     echo "== Starting ZUNO Analyzer"

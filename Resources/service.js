@@ -47,9 +47,12 @@ function requestService() {
     offlineReason = service === "" ? "noKey" : "noAnswer";
     if (service === "")
         return;
-    load("script", { src: service, async: "" }).then(
-        () => { if (!isOffline()) offlineReason = mapStands() ? "" : "notLoaded"; },
-        () => { if (!isOffline()) offlineReason = "notLoaded"; });
+    // A service that loads may refuse the key at once, and one that comes too late is not used.
+    const settle = () => {
+        if (offlineReason === "noAnswer" && !isOffline())
+            offlineReason = mapStands() ? "" : "notLoaded";
+    };
+    load("script", { src: service, async: "" }).then(settle, settle);
 }
 
 let offline = false;

@@ -2,8 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# The static checks: layout (clang-format), clang-tidy, cppcheck, shellcheck. All of them run; the
-# script fails when one of them does. --fix lets clang-format put the layout right first.
+# The static checks: layout (clang-format), clang-tidy, cppcheck, shellcheck, and those of the map
+# page's scripts. All of them run; the script fails when one of them does. --fix lets clang-format
+# put the layout right first.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
@@ -73,6 +74,7 @@ check clang-format layout
 check clang-tidy tidy
 check cppcheck cpp
 check shellcheck shell
+check page scripts/check-page.sh
 
 if ((${#failed[@]})); then
     echo "Static checks: FAILED: ${failed[*]}"

@@ -6,6 +6,7 @@
 #   --core    what the core, the command line tool and their tests need
 #   --gui     that, and what the desktop program needs (this is the default)
 #   --checks  additionally the tools of scripts/check.sh
+#   --page    only what scripts/check-page.sh needs
 set -euo pipefail
 
 core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
@@ -22,16 +23,22 @@ for argument in "$@"; do
     --core) sort_of=core ;;
     --gui) sort_of=gui ;;
     --checks) packages+=("${checks[@]}") ;;
+    --page) sort_of=page ;;
     *)
-        echo "usage: ${0##*/} [--gui|--core] [--checks]" >&2
+        echo "usage: ${0##*/} [--gui|--core|--page] [--checks]" >&2
         exit 2
         ;;
     esac
 done
-packages+=("${core[@]}")
-if [[ $sort_of == gui ]]; then
-    packages+=("${gui[@]}")
-fi
+case $sort_of in
+core) packages+=("${core[@]}") ;;
+gui) packages+=("${core[@]}" "${gui[@]}") ;;
+page)
+    # They often come from elsewhere than from Debian, and then Debian's would be in their way.
+    command -v node >/dev/null || packages+=(nodejs)
+    command -v npm >/dev/null || packages+=(npm)
+    ;;
+esac
 
 missing=()
 if command -v dpkg-query >/dev/null; then

@@ -42,9 +42,7 @@ protected:
 
 } // namespace
 
-JSConnector::JSConnector(QObject *parent)
-    : QWebEnginePage(parent)
-    , m_channel(new QWebChannel(this))
+JSConnector::JSConnector(QObject *parent) : QWebEnginePage(parent), m_channel(new QWebChannel(this))
 {
     settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, true);
     settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
@@ -95,9 +93,8 @@ void JSConnector::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel /*level
                                            const QString &message, int lineNumber,
                                            const QString &sourceId)
 {
-    qCDebug(category).noquote()
-        << QStringLiteral("Javascript Console: Line: %1, Source: %2, %3")
-               .arg(QString::number(lineNumber), sourceId, message);
+    qCDebug(category).noquote() << QStringLiteral("Javascript Console: Line: %1, Source: %2, %3")
+                                       .arg(QString::number(lineNumber), sourceId, message);
 }
 
 } // namespace zuno

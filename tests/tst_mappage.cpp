@@ -1,0 +1,382 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QFile>
+#include <QMainWindow>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVBoxLayout>
+#include <QWebEngineProfile>
+#include <QWebEngineUrlRequestInterceptor>
+
+#include <app/settings.h>
+#include <maps/jsconnector.h>
+#include <maps/mapviewcontroller.h>
+#include <maps/pagesettings.h>
+
+namespace zuno::test {
+
+namespace {
+
+/// In the map service's place: answers every request with the same script, or not at all.
+class Service final : public QTcpServer
+{
+public:
+    explicit Service(std::optional<QByteArray> script)
+    {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this, script] {
+            QTcpSocket *socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [socket, script] {
+                const QByteArray request = socket->readAll();
+                if (!script || !request.contains("\r\n\r\n"))
+                    return;
+                socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/javascript\r\n"
+                              "Connection: close\r\nContent-Length: "
+                              + QByteArray::number(script->size()) + "\r\n\r\n" + *script);
+                socket->disconnectFromHost();
+            });
+        });
+    }
+};
+
+/// Leads requests for the map service to another place and keeps what was asked for.
+class Interceptor final : public QWebEngineUrlRequestInterceptor
+{
+public:
+    void interceptRequest(QWebEngineUrlRequestInfo &info) override
+    {
+        const QUrl url = info.requestUrl();
+        if (url.scheme() == u"qrc" || url.host() == u"127.0.0.1")
+            return;
+        asked << url.toString();
+        info.redirect(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(port)));
+    }
+
+    quint16 port = 1;
+    QStringList asked;
+};
+
+QByteArray standIn()
+{
+    QFile file(QStringLiteral(ZUNO_MAP_STAND_IN));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString point(double lng, double lat, double acceleration = 0.0, int speed = 0)
+{
+    return QStringLiteral(R"({"dataCoordX":%1,"dataCoordY":%2,"dataAccelXPHComputed":%3,)"
+                          R"("dataSpeed":%4})")
+        .arg(lng)
+        .arg(lat)
+        .arg(acceleration)
+        .arg(speed);
+}
+
+/// Five samples on a line to the east, of which the fourth has no position, and the closing one.
+QString lap(double north = 0.0)
+{
+    const QStringList line {point(0, north, 0.5),  point(0.001, north, -1), point(0.002, north, 1),
+                            point(3.4e38, 3.4e38), point(0.003, north, -2), point(0, north, 0.5)};
+    return QStringLiteral(R"({"lapPoints":[%1],"maxSpeeds":[%2],"minSpeeds":[%3],"landmarks":[)"
+                          R"({"lat":0,"lng":0},{"lat":1,"lng":1},{"lat":null,"lng":1},)"
+                          R"({"lat":2,"lng":2}],"accelMax":1,"decelMax":-2,"isComplete":true})")
+        .arg(line.join(u','), point(0, north, 0, 201), point(0.001, north, 0, 57));
+}
+
+QString call(const char *function, const QStringList &texts)
+{
+    return QString::fromLatin1(function) + u"('" + texts.join(u"','") + u"')";
+}
+
+} // namespace
+
+class TestMapPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void serviceAddress();
+    void startsWithoutService_data();
+    void startsWithoutService();
+    void drawsLaps_data();
+    void drawsLaps();
+    void gradient();
+    void markers();
+    void cursors();
+    void centres();
+    void options();
+    void picksSamples();
+    void drawsWhatCameEarly();
+    void releasesWhatItDrew();
+    void staysOnItsPage();
+
+private:
+    /// Loads the page anew, with that script in the map service's place, and waits for it.
+    void load(const std::optional<QByteArray> &script);
+    QVariant run(const QString &script);
+    QByteArray text(const QString &script) { return run(script).toString().toUtf8(); }
+    /// Runs an expression over the stand-in's shapes and gives its values, joined.
+    QByteArray shapes(const char *what, const char *condition = "true");
+
+    Interceptor m_interceptor;
+    std::unique_ptr<Service> m_service;
+    std::unique_ptr<QMainWindow> m_window;
+    MapViewController *m_view = nullptr;
+};
+
+void TestMapPage::initTestCase()
+{
+    QWebEngineProfile::defaultProfile()->setUrlRequestInterceptor(&m_interceptor);
+}
+
+void TestMapPage::load(const std::optional<QByteArray> &script)
+{
+    qputenv("ZUNO_MAP_KEY", "a-key");
+    m_interceptor.asked.clear();
+    m_service = std::make_unique<Service>(script);
+    m_interceptor.port = m_service->serverPort();
+    m_window = std::make_unique<QMainWindow>();
+    auto *content = new QWidget;
+    content->setLayout(new QVBoxLayout);
+    m_window->setCentralWidget(content);
+    m_window->resize(900, 700);
+    m_window->show();
+    m_view = new MapViewController(m_window.get());
+    QSignalSpy ready(m_view, &MapViewController::mapReady);
+    m_view->init(m_window.get(), content->layout());
+    QVERIFY(ready.wait(20000));
+}
+
+QVariant TestMapPage::run(const QString &script)
+{
+    std::optional<QVariant> result;
+    m_view->page()->runJavaScript(script, [&result](const QVariant &value) { result = value; });
+    [&result] { QTRY_VERIFY(result.has_value()); }();
+    return result.value_or(QVariant());
+}
+
+QByteArray TestMapPage::shapes(const char *what, const char *condition)
+{
+    return text(QStringLiteral("shapes.filter(s => %2).map(s => %1).join(' ')")
+                    .arg(QString::fromLatin1(what), QString::fromLatin1(condition)));
+}
+
+void TestMapPage::serviceAddress()
+{
+    qunsetenv("ZUNO_MAP_KEY");
+    QCOMPARE(mapServiceAddress(), QString());
+    QCOMPARE(qstrlen(ZUNO_MAP_KEY_PLACEHOLDER), 39U);
+    qputenv("ZUNO_MAP_KEY", "a&b=c");
+    QCOMPARE(mapServiceAddress(), QStringLiteral(ZUNO_MAP_SERVICE "?key=a%26b%3Dc"));
+}
+
+void TestMapPage::startsWithoutService_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<bool>("answers");
+    QTest::addColumn<QByteArray>("note");
+
+    QTest::newRow("no answer") << QByteArray() << false << QByteArray("does not answer");
+    QTest::newRow("not a library") << QByteArray("}") << true << QByteArray("cannot be reached");
+    QTest::newRow("refused before the start")
+        << standIn() + "gm_authFailure();" << true << QByteArray("refuses the key");
+    QTest::newRow("refused later")
+        << standIn() + "setTimeout(gm_authFailure, 500);" << true << QByteArray("refuses the key");
+}
+
+void TestMapPage::startsWithoutService()
+{
+    QFETCH(const QByteArray, script);
+    QFETCH(const bool, answers);
+    QFETCH(const QByteArray, note);
+
+    load(answers ? std::optional(script) : std::nullopt);
+    QCOMPARE(m_interceptor.asked, QStringList {mapServiceAddress()});
+    QSignalSpy drawn(m_view, &MapViewController::lapDrawn);
+    m_view->initOnlineMap({}, 0);
+    run(call("drawOneLap", {lap()}));
+    QTRY_VERIFY(run(QStringLiteral("map?.leaflet && firstLines.length")).toInt() == 3);
+    QTRY_VERIFY(!drawn.isEmpty());
+    const QByteArray shown = text(QStringLiteral("document.getElementById('note').innerText"));
+    QVERIFY2(shown.contains(note), shown);
+    // The whole lap is in sight, and a library that comes now finds its place taken.
+    QVERIFY(run(QStringLiteral("map.leaflet.getBounds().contains([[0, 0], [0, 0.003]])")).toBool());
+    run(QString::fromUtf8(standIn()));
+    QVERIFY(run(QStringLiteral("new google.maps.Map(document.createElement('div'), "
+                               "{center: {lat: 0, lng: 0}}).leaflet !== undefined"))
+                .toBool());
+}
+
+void TestMapPage::drawsLaps_data()
+{
+    QTest::addColumn<QString>("compareGradient");
+    QTest::addColumn<bool>("twoLaps");
+    QTest::addColumn<QByteArray>("lines");
+
+    // Number of points, weight and opacity of each line; the second lap's come first. The sample
+    // without a position is in none.
+    const QByteArray first = "2/5/1 2/5/1 2/5/1";
+    const QByteArray second = "2/3/1 2/3/1 2/3/1 2/3/1 ";
+    QTest::newRow("one lap") << QStringLiteral("false") << false << first;
+    QTest::newRow("two laps, plain")
+        << QStringLiteral("false") << true << QByteArray("4/5/0.7 4/4/0.7");
+    QTest::newRow("two laps, nothing set") << QString() << true << QByteArray("4/5/0.7 4/4/0.7");
+    QTest::newRow("two laps, gradient") << QStringLiteral("true") << true << second + first;
+}
+
+void TestMapPage::drawsLaps()
+{
+    QFETCH(const QString, compareGradient);
+    QFETCH(const bool, twoLaps);
+    QFETCH(const QByteArray, lines);
+
+    load(standIn());
+    run(call("initMap", {QStringLiteral("46.1°, -6.2°")}));
+    QCOMPARE(text(QStringLiteral("JSON.stringify(map.options)")),
+             R"({"zoom":16,"center":{"lat":46.1,"lng":-6.2},"mapTypeId":"satellite",)"
+             R"("streetViewControl":false})");
+    run(call("setOptions", {QStringLiteral(R"({"minMax":"","landmarks":"","compareGradient":"%1"})")
+                                .arg(compareGradient)}));
+    // Drawn twice, what was drawn before has gone.
+    for (int i = 0; i < 2; ++i)
+        run(twoLaps ? call("drawTwoLaps", {lap(), lap(1)}) : call("drawOneLap", {lap()}));
+    const char *line = "s.constructor.name === 'Polyline'";
+    QCOMPARE(shapes("`${s.path.length}/${s.strokeWeight}/${s.strokeOpacity}`", line), lines);
+    if (twoLaps && compareGradient != u"true")
+        QCOMPARE(shapes("s.path[0].lat + s.strokeColor", line), "1#FF0000 0#00FF00");
+    QCOMPARE(shapes("s.label.text", "s.visible && s.label"),
+             twoLaps ? "P1 P2 Start" : "57 201 P1 P2 Start");
+    run(call("drawOneLap", {lap()}));
+    QCOMPARE(shapes("`${s.path.length}/${s.strokeWeight}/${s.strokeOpacity}`", line),
+             "2/5/1 2/5/1 2/5/1");
+}
+
+void TestMapPage::gradient()
+{
+    const QList<std::pair<double, QByteArray>> colours {
+        {0.0, "#646400"},  {1.0, "#00ff00"},  {0.5, "#32b200"},   {0.99, "#01fd00"},
+        {-2.0, "#ff0000"}, {-1.0, "#b23200"}, {-0.02, "#666300"},
+    };
+    for (const auto &[acceleration, colour] : colours)
+        QCOMPARE(text(QStringLiteral("gradientColour(%1, {accelMax: 1, decelMax: -2})")
+                          .arg(acceleration)),
+                 colour);
+    QCOMPARE(text(QStringLiteral("gradientColour(0, {accelMax: 0, decelMax: 0})")), "#646400");
+    run(call("initMap", {QStringLiteral("0°, 0°")}) + u';' + call("drawOneLap", {lap()}));
+    QCOMPARE(shapes("s.strokeColor", "s.path"), "#32b200 #b23200 #00ff00");
+}
+
+void TestMapPage::markers()
+{
+    const char *parts = "`${s.icon.url} ${s.icon.anchor.x},${s.icon.anchor.y} "
+                        "${s.icon.labelOrigin.x},${s.icon.labelOrigin.y} "
+                        "${s.label.text}/${s.label.color}`";
+    QCOMPARE(shapes(parts, "s.label"),
+             "min_speed_marker.png 16,32 16,11 57/white max_speed_marker.png 16,32 16,11 201/white "
+             "landmark.png 16,48 25,18 P1/while landmark.png 16,48 25,18 P2/while "
+             "landmarkGreen.png 16,48 25,18 Start/while");
+}
+
+void TestMapPage::cursors()
+{
+    const char *cursor = "s.icon && !s.label && s.visible";
+    const char *what = "`${s.icon.url}@${s.position.lng},${s.icon.anchor.x}`";
+    run(call("drawCursor", {point(0.001, 0)}));
+    QCOMPARE(shapes(what, cursor), "target.png@0.001,12");
+    run(call("drawTwoLaps", {lap(), lap(1)}));
+    QCOMPARE(shapes(what, cursor), "rabbit.png@0.001,16");
+    run(call("drawSecondCursor", {point(0.002, 1)}));
+    run(call("drawSecondCursor", {point(0.003, 1)}));
+    run(call("drawCursor", {point(0.002, 0)}));
+    run(call("drawCursor", {point(3.4e38, 0)}));
+    QCOMPARE(shapes(what, cursor), "rabbit.png@0.002,16 turtle.png@0.003,16");
+    QCOMPARE(text(QStringLiteral("map.calls.join()")), "center 0 0.001,center 0 0.002");
+    run(call("drawOneLap", {lap()}));
+    QCOMPARE(shapes(what, cursor), "target.png@0.002,12");
+}
+
+void TestMapPage::centres()
+{
+    run(QStringLiteral("map.calls = [];") + call("centerMap", {QStringLiteral("-1.5°, 2°")}));
+    run(call("drawOneLap", {lap()}));
+    QCOMPARE(text(QStringLiteral("map.calls.join()")), "center -1.5 2");
+}
+
+void TestMapPage::options()
+{
+    const QTemporaryDir root;
+    const Settings settings(root.path());
+    settings.setValues({{Setting::ShowPartielsPoints, false}, {Setting::ShowLocalMinMax, true}});
+    QSignalSpy sent(m_view->page(), &JSConnector::setOptions);
+    m_view->setOptions(settings.path(SettingsFile::Analyzer));
+    QCOMPARE(sent.value(0).value(0).toString().toUtf8(),
+             R"({"minMax":"true","landmarks":"false","compareGradient":""})");
+    QTRY_COMPARE(shapes("s.label.text", "s.visible && s.label"), QByteArray("57 201"));
+    run(call("setOptions", {QStringLiteral(R"({"minMax":"false","landmarks":"true"})")}));
+    QCOMPARE(shapes("s.label.text", "s.visible && s.label"), "P1 P2 Start");
+}
+
+void TestMapPage::picksSamples()
+{
+    QSignalSpy picked(m_view, &MapViewController::samplePicked);
+    const auto click = [this](double lat, double lng) {
+        run(QStringLiteral("map.click({latLng: new google.maps.LatLng(%1, %2)})")
+                .arg(lat)
+                .arg(lng));
+    };
+    click(0.01, 0.0021); // a kilometre off the line
+    click(0.0001, 0.0029);
+    QTRY_COMPARE(picked.size(), 1);
+    QCOMPARE(picked[0][0].toInt(), 4);
+}
+
+void TestMapPage::drawsWhatCameEarly()
+{
+    load(standIn());
+    Q_EMIT m_view->page()->drawTwoLaps(lap(), lap(1));
+    QTRY_VERIFY(run(QStringLiteral("secondLap !== null")).toBool());
+    QCOMPARE(shapes("s.path.length"), QByteArray());
+    m_view->centerMap(nullptr);
+    QVERIFY(!m_view->isReady());
+    m_view->initOnlineMap({}, -1);
+    QTRY_COMPARE(shapes("s.path.length", "s.path"), QByteArray("4 4"));
+    QCOMPARE(text(QStringLiteral("JSON.stringify(map.options.center)")), R"({"lat":0,"lng":0})");
+}
+
+void TestMapPage::releasesWhatItDrew()
+{
+    qputenv("ZUNO_MAP_KEY", "");
+    load({});
+    m_view->initOnlineMap({}, -1);
+    const auto layers = [this] {
+        return text(QStringLiteral("Object.keys(map.leaflet._layers).length + ' '"
+                                   "+ document.querySelectorAll('*').length"));
+    };
+    run(call("drawOneLap", {lap()}));
+    const QByteArray before = layers();
+    run(QStringLiteral("for (let i = 0; i < 50; ++i) {%1; %2}")
+            .arg(call("drawTwoLaps", {lap(), lap(1)}), call("drawOneLap", {lap()})));
+    QCOMPARE(layers(), before);
+}
+
+void TestMapPage::staysOnItsPage()
+{
+    const QUrl page = m_view->page()->url();
+    m_interceptor.asked.clear();
+    run(QStringLiteral("location.href = 'https://www.example.com/'"));
+    run(QStringLiteral("const frame = document.createElement('iframe');"
+                       "frame.src = 'https://www.example.com/'; document.body.append(frame)"));
+    QTest::qWait(300);
+    QCOMPARE(m_view->page()->url(), page);
+    QCOMPARE(m_interceptor.asked, QStringList());
+}
+
+} // namespace zuno::test
+
+QTEST_MAIN(zuno::test::TestMapPage)
+#include "tst_mappage.moc"
