@@ -65,24 +65,25 @@ function isOffline() {
 /** Puts the built-in map in the map service's place and says why. */
 async function useBuiltInMap() {
     offline = true;
-    showOfflineNote();
+    showNote(offlineReason);
     await load("link", { rel: "stylesheet", href: "leaflet/leaflet.css" });
     await load("script", { src: "leaflet/leaflet.min.js" });
     await load("script", { src: "offline.js" });
 }
 
-function showOfflineNote() {
+/** @param {string} name of the text to be shown in the corner; without a text, nothing */
+function showNote(name) {
     const note = document.getElementById("note");
     if (note === null)
         return;
-    note.textContent = window.zunoPage?.texts[offlineReason] ?? "";
+    note.textContent = window.zunoPage?.texts[name] ?? "";
     note.hidden = note.textContent === "";
 }
 
 /** Sees to it that there is a map to draw on. */
 async function chooseMap() {
     if (mapStands() && offlineReason !== "refused")
-        offlineReason = "";
+        showNote(offlineReason = "");
     else
         await useBuiltInMap();
 }
@@ -96,4 +97,5 @@ window.gm_authFailure = () => {
         useBuiltInMap().then(startMapAnew);
 };
 
+document.addEventListener("DOMContentLoaded", () => showNote("loading"));
 requestService();

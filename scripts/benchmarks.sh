@@ -5,9 +5,20 @@
 # Builds the core's benchmarks as for release and runs them: a table of ratios, then the timings.
 # Fails when an aim is missed.
 #   scripts/benchmarks.sh [options of Google Benchmark]   (--benchmark_filter=NONE: the table only)
+#   scripts/benchmarks.sh --map                           (the map page instead)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
+
+if [[ ${1:-} == --map ]]; then
+    scripts/install-dependencies.sh --gui
+    {
+        cmake --preset release
+        cmake --build --preset release --target bench_map
+    } >&2
+    ((EUID != 0)) || export QTWEBENGINE_DISABLE_SANDBOX=1
+    QT_QPA_PLATFORM=offscreen exec build/release/bin/bench_map
+fi
 
 scripts/install-dependencies.sh --core
 # In a folder of its own: without the window, and whatever build/release is set to stays.

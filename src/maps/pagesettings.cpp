@@ -28,6 +28,7 @@ QJsonObject pageTexts()
         {QStringLiteral("accelerating"), tr("accelerating")},
         {QStringLiteral("firstLap"), tr("first lap")},
         {QStringLiteral("secondLap"), tr("second lap")},
+        {QStringLiteral("loading"), tr("Loading the map...")},
         {QStringLiteral("noKey"), tr("Offline map: there is no key for the satellite map")},
         {QStringLiteral("notLoaded"), tr("Offline map: the satellite map cannot be reached")},
         {QStringLiteral("noAnswer"), tr("Offline map: the satellite map does not answer")},
