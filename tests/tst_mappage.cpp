@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QDesktopServices>
 #include <QFile>
 #include <QMainWindow>
 #include <QSignalSpy>
@@ -25,7 +26,7 @@ namespace {
 class Service final : public QTcpServer
 {
 public:
-    explicit Service(std::optional<QByteArray> script)
+    explicit Service(const std::optional<QByteArray> &script)
     {
         listen(QHostAddress::LocalHost);
         connect(this, &QTcpServer::newConnection, this, [this, script] {
@@ -98,6 +99,10 @@ class TestMapPage : public QObject
 {
     Q_OBJECT
 
+public Q_SLOTS:
+    /// Stands in for the desktop's browser.
+    void browse(const QUrl &url) { m_browsed << url.toString(); }
+
 private Q_SLOTS:
     void initTestCase();
     void serviceAddress();
@@ -124,6 +129,7 @@ private:
     QByteArray shapes(const char *what, const char *condition = "true");
 
     Interceptor m_interceptor;
+    QStringList m_browsed;
     std::unique_ptr<Service> m_service;
     std::unique_ptr<QMainWindow> m_window;
     MapViewController *m_view = nullptr;
@@ -371,7 +377,15 @@ void TestMapPage::staysOnItsPage()
     run(QStringLiteral("location.href = 'https://www.example.com/'"));
     run(QStringLiteral("const frame = document.createElement('iframe');"
                        "frame.src = 'https://www.example.com/'; document.body.append(frame)"));
-    QTest::qWait(300);
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "browse");
+    for (const char *target : {"", "_blank"})
+        run(QStringLiteral("const %1link = document.createElement('a');"
+                           "%1link.href = 'https://www.example.org/%1'; %1link.target = '%1';"
+                           "document.body.append(%1link); %1link.click()")
+                .arg(QString::fromLatin1(target)));
+    QTRY_COMPARE(m_browsed, (QStringList {QStringLiteral("https://www.example.org/"),
+                                          QStringLiteral("https://www.example.org/_blank")}));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
     QCOMPARE(m_view->page()->url(), page);
     QCOMPARE(m_interceptor.asked, QStringList());
 }
