@@ -44,6 +44,7 @@ bool SessionDisplay::display(const QString &path)
 {
     const QString clean = QDir::cleanPath(path);
     m_library.refresh(clean);
+    const QPointer<Session> before = m_session;
     if (findSessionByPath(clean) == nullptr) {
         Session *added = m_library.add(clean, "onSessionDisplayedChange");
         if (added == nullptr) {
@@ -55,6 +56,7 @@ bool SessionDisplay::display(const QString &path)
     }
     const bool isFirstDisplay = m_session->map() == nullptr;
     assignMap();
+    release(before);
     m_settings.setValue(Setting::LastFileSelected, clean);
     Q_EMIT sessionDisplayed(m_session);
     if (m_session->newSession() != 0) {
@@ -69,6 +71,7 @@ bool SessionDisplay::display(const QString &path)
 void SessionDisplay::assignMap()
 {
     if (m_session->map() != nullptr) {
+        m_session->restore();
         onMapChanged({m_session->map()}, static_cast<int>(MapMode::Kept));
         return;
     }
@@ -119,6 +122,20 @@ void SessionDisplay::clear()
 {
     m_session = nullptr;
     Q_EMIT cleared();
+}
+
+void SessionDisplay::setCompared(Session *session)
+{
+    const QPointer<Session> before = m_compared;
+    m_compared = session;
+    release(before);
+}
+
+// A rider's career of recordings does not fit into the memory, and one is decoded in no time.
+void SessionDisplay::release(Session *session)
+{
+    if (session != nullptr && session != m_session && session != m_compared)
+        session->release();
 }
 
 void SessionDisplay::onAboutToBeRemoved(Session *session)

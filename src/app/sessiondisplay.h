@@ -5,7 +5,10 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
+
+#include <session/session.h>
 
 namespace zuno {
 
@@ -13,7 +16,6 @@ class AcquisitionLibrary;
 class InformationWriter;
 class Map;
 class MapLibrary;
-class Session;
 class Settings;
 
 /// How a map came to a session; decides what becomes of the stored choice.
@@ -62,6 +64,9 @@ public:
     void detectMap();
     /// Displays nothing.
     void clear();
+    /// Keeps the laps of a session that is compared with the displayed one; nullptr for none.
+    /// Every other session lets go of its samples when another one is displayed.
+    void setCompared(Session *session);
 
 Q_SIGNALS:
     /// The displayed session has been cut into laps anew, on another map or on none.
@@ -79,12 +84,14 @@ private:
     void assignMap();
     void storeChoice(MapMode mode);
     void onAboutToBeRemoved(Session *session);
+    void release(Session *session);
 
     AcquisitionLibrary &m_library;
     const MapLibrary &m_maps;
     const Settings &m_settings;
     InformationWriter &m_writer;
     Session *m_session = nullptr;
+    QPointer<Session> m_compared;
 };
 
 } // namespace zuno

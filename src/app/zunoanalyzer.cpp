@@ -25,6 +25,7 @@
 #include <maps/map.h>
 #include <maps/mapswidget.h>
 #include <maps/mapviewcontroller.h>
+#include <session/gpsquality.h>
 #include <session/laptimes.h>
 #include <session/numbers.h>
 #include <stats/sessioninfos.h>
@@ -49,6 +50,16 @@ constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitte
                                        Setting::Splitter2Sizes, Setting::Splitter3Sizes};
 
 constexpr int MessageTime = 10000;
+
+// Why laps may be missing; empty when the recording says everywhere where it was made.
+QString gpsText(const Session &session)
+{
+    const qint64 count = gpsQuality(session.wholeSamples()).total();
+    if (count == 0)
+        return {};
+    return count == 1 ? ZunoAnalyzer::tr("1 sample without GPS")
+                      : ZunoAnalyzer::tr("%1 samples without GPS").arg(QLocale().toString(count));
+}
 
 } // namespace
 
@@ -171,6 +182,8 @@ void ZunoAnalyzer::connectParts()
     });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, this, &ZunoAnalyzer::showFirstLap);
+    connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
+            [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);
     connect(m_tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
     connect(m_tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
@@ -434,8 +447,10 @@ void ZunoAnalyzer::showLabels(const Session *session)
     m_ui->lb_mapLength->setText(
         tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
     m_ui->lb_idealTime->setText(tr("Ideal Time : %1").arg(session->idealTimeText()));
-    m_ui->lb_traveledDistance->setText(
-        tr("Traveled distance : %1 m").arg(QLocale().toString(session->results().distance)));
+    const QString distance
+        = tr("Traveled distance : %1 m").arg(QLocale().toString(session->results().distance));
+    const QString gps = gpsText(*session);
+    m_ui->lb_traveledDistance->setText(gps.isEmpty() ? distance : distance + u"   (" + gps + u')');
 }
 
 // The best time of each section, and the lap that holds it.
@@ -502,7 +517,13 @@ QString ZunoAnalyzer::emptyState() const
     }
     if (session == nullptr)
         return tr("Select a session in the list on the left to see its laps.");
-    const Map *map = session->map();
+    const QString gps = gpsText(*session);
+    return gps.isEmpty() ? lapless(*session) : lapless(*session) + u"\n\n" + gps + u'.';
+}
+
+QString ZunoAnalyzer::lapless(const Session &session) const
+{
+    const Map *map = session.map();
     if (map == nullptr) {
         return tr("No map is known for the place where this session was recorded, so it cannot be "
                   "cut into laps.\n\nChoose a map with \"Maps\" (Ctrl+M), or copy the circuit's "

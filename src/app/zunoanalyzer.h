@@ -87,6 +87,7 @@ private:
     void showFirstLap();
     void showLapOnMap();
     [[nodiscard]] QString emptyState() const;
+    [[nodiscard]] QString lapless(const Session &session) const;
     void onFileChanged(const QString &path);
     void showComparison(const Lap *first, const Lap *second);
     void onValidityChanged(Session *session);

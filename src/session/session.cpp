@@ -62,6 +62,28 @@ void Session::smooth()
     smoothSamples(m_samples.points);
 }
 
+void Session::release()
+{
+    if (!m_sampleSource || !m_fetched)
+        return;
+    m_information.bestLapText = bestLapStored();
+    m_information.idealTimeText = idealTimeStored();
+    m_information.invalidLaps = invalidLaps();
+    m_results = {};
+    m_samples = {};
+    m_fetched = false;
+    m_smoothed = false;
+    m_released = true;
+}
+
+void Session::restore()
+{
+    if (!m_released)
+        return;
+    smooth();
+    cutIntoLaps();
+}
+
 StoredText Session::bestLapStored() const
 {
     if (laps().empty())
@@ -101,6 +123,7 @@ void Session::setMap(const Map *map)
 
 void Session::cutIntoLaps()
 {
+    m_released = false;
     m_results = zuno::cutIntoLaps(*this);
 }
 

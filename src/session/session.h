@@ -76,6 +76,12 @@ public:
     [[nodiscard]] const ReadingLists &readingLists() const;
     /// Runs the smoothing pass; does nothing when it has run before.
     void smooth();
+    /// Lets go of samples and laps, which take a megabyte or more; what they said about the session
+    /// (best lap, ideal time, laps thrown out) stays as text. Samples that are asked for afterwards
+    /// are decoded anew; restore() brings the laps back.
+    void release();
+    /// Smooths and cuts a session on its map again after release(); otherwise does nothing.
+    void restore();
 
     /// Whether the session has never been opened for display; the file's byte.
     [[nodiscard]] quint8 newSession() const { return m_newSession; }
@@ -143,6 +149,7 @@ private:
     const Map *m_map = nullptr;
     quint8 m_newSession = 1;
     bool m_smoothed = false;
+    bool m_released = false;
 };
 
 } // namespace zuno

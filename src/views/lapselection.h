@@ -35,6 +35,7 @@ public:
     void setFirstLap(Session *session, int index);
     void clearFirstLap();
     [[nodiscard]] const Lap *firstLap() const { return m_first.lap(); }
+    [[nodiscard]] Session *firstSession() const { return m_first.session.data(); }
 
     /// Lets go of a session that is about to be removed.
     void forget(const Session *session);

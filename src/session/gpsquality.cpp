@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <session/gpsquality.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include <session/trace.h>
+
+namespace zuno {
+
+namespace {
+
+constexpr double FastestPerSecond = 500.0 / 3.6;
+constexpr double ReceiverError = 50.0;
+constexpr double BelievedAfterMs = 1000.0;
+constexpr double MetresPerDegree = 111195.0;
+
+// Flat earth is near enough for what is asked, and half a million samples are looked at.
+double roughMetres(const PointAcquisition &a, const PointAcquisition &b)
+{
+    const double latitude = (a.dataCoordY + b.dataCoordY) / 2 * std::numbers::pi / 180;
+    return MetresPerDegree
+           * std::hypot(b.dataCoordY - a.dataCoordY,
+                        (b.dataCoordX - a.dataCoordX) * std::cos(latitude));
+}
+
+double millisecondsBetween(const PointAcquisition &a, const PointAcquisition &b)
+{
+    return std::max(0.0,
+                    static_cast<double>(b.dataTimeStamp) - static_cast<double>(a.dataTimeStamp));
+}
+
+bool isReachable(const PointAcquisition &from, const PointAcquisition &to)
+{
+    return roughMetres(from, to)
+           <= ReceiverError + (FastestPerSecond * millisecondsBetween(from, to) / 1000.0);
+}
+
+} // namespace
+
+GpsQuality gpsQuality(std::span<const PointAcquisition> samples)
+{
+    GpsQuality quality;
+    const PointAcquisition *good = nullptr;
+    const PointAcquisition *firstBad = nullptr;
+    for (const PointAcquisition &sample : samples) {
+        if (!positionOf(sample).isValid()) {
+            ++quality.withoutPosition;
+            continue;
+        }
+        const bool isBelieved = firstBad != nullptr && isReachable(*firstBad, sample)
+                                && millisecondsBetween(*firstBad, sample) >= BelievedAfterMs;
+        if (good == nullptr || isReachable(*good, sample) || isBelieved) {
+            good = &sample;
+            firstBad = nullptr;
+            continue;
+        }
+        ++quality.jumps;
+        if (firstBad == nullptr || !isReachable(*firstBad, sample))
+            firstBad = &sample;
+    }
+    return quality;
+}
+
+} // namespace zuno
