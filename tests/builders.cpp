@@ -6,10 +6,16 @@
 #include <cmath>
 #include <numbers>
 
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QtEndian>
 
+#include <cli/demolibrary.h>
 #include <maps/map.h>
 #include <session/session.h>
 
@@ -103,6 +109,13 @@ QByteArray SessionBytes::bytes() const
     return file.raw(lists).raw(information);
 }
 
+SessionBytes fullSession(const InformationBytes &information)
+{
+    return {.listsFlag = 1,
+            .lists = readingList(21) + readingList(11),
+            .information = information.bytes()};
+}
+
 QGeoCoordinate place(double north, double east)
 {
     static const double shrink = std::cos(OriginLatitude * std::numbers::pi / 180.0);
@@ -177,10 +190,41 @@ std::unique_ptr<Map> lineMap(double gate, double length, const QList<NamedPlace>
 
 void putFile(const QString &path, const QByteArray &bytes)
 {
+    QDir().mkpath(QFileInfo(path).path());
     QFile::remove(path);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write the test's file");
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void makeOld(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite)
+        || !file.setFileTime(QDateTime::currentDateTime().addDays(-1),
+                             QFileDevice::FileModificationTime))
+        qFatal("cannot age %s", qPrintable(path));
+}
+
+bool isOld(const QString &path)
+{
+    return QFileInfo(path).lastModified() < QDateTime::currentDateTime().addSecs(-3600);
+}
+
+QByteArray demoFile(const QString &name)
+{
+    static const QTemporaryDir folder;
+    static const DemoResult result = writeDemoLibrary(folder.path());
+    QDirIterator files(folder.path(), {name}, QDir::Files, QDirIterator::Subdirectories);
+    if (!result.ok() || !files.hasNext())
+        qFatal("no %s", qPrintable(name));
+    return contents(files.next());
 }
 
 QString numbersOf(const Points &points)

@@ -89,6 +89,9 @@ struct SessionBytes
     [[nodiscard]] QByteArray bytes() const;
 };
 
+/// A session file with all there can be: lists of 21 and 11 readings, and information.
+[[nodiscard]] SessionBytes fullSession(const InformationBytes &information = {});
+
 /// A named place of a map, in metres north of the origin of all rides and maps.
 struct NamedPlace
 {
@@ -120,8 +123,23 @@ void addReadings(PointAcquisition &point, int channel, const QList<float> &value
                                            const QList<NamedPlace> &places
                                            = {{QStringLiteral("Start"), 0.0}});
 
-/// Writes a new file: some file systems wait for the disk when one is written over.
+/// Writes a new file, in a folder that need not be there yet. What it replaces is removed first:
+/// some file systems wait for the disk when a file is written over.
 void putFile(const QString &path, const QByteArray &bytes);
+/// What the file holds; nothing if it cannot be read.
+[[nodiscard]] QByteArray contents(const QString &path);
+/// Moves the file's time into the past, so that any writing shows in isOld().
+void makeOld(const QString &path);
+[[nodiscard]] bool isOld(const QString &path);
+
+/// Sessions of the demo library; the circuits' maps are named after them.
+inline const QString AtValmora = QStringLiteral("2026-04-18 10h12 Valmora.ra1");
+inline const QString AtHaidemoor = QStringLiteral("2026-05-24 14h33 Haidemoor.ra1");
+inline const QString OnTheRoad = QStringLiteral("2026-06-06 08h15 Hill road.ra1");
+inline const QString WithoutBlock = QStringLiteral("2026-07-11 13h45 Karoosberg.ra1");
+inline const QString NeverOpened = QStringLiteral("2026-07-12 09h27 Karoosberg.ra1");
+/// The bytes of a session or map of the demo library.
+[[nodiscard]] QByteArray demoFile(const QString &name);
 
 /// Acquisition numbers of points, "1 2 3".
 [[nodiscard]] QString numbersOf(const Points &points);
