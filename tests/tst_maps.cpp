@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -49,167 +47,113 @@ class TestMaps final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cutAtEveryLength();
-    void refuses();
-    void parses();
-    void counts();
-    void namedPoints();
-    void directions();
-    void loadsFolder();
-    void sessionTakesName();
-};
-
-void TestMaps::cutAtEveryLength()
-{
-    const QByteArray whole = mapBytes();
-    const qsizetype startAt = 4 + 4 + 4 * 8 + 4 + 4;
-    const qsizetype outlineAt = whole.size() - 3 * 16;
-    for (qsizetype size = 0; size <= whole.size(); ++size) {
-        const auto map = parsed(whole.left(size));
-        const QByteArray where = "cut at " + QByteArray::number(size);
-        // The version's text of a file that ends within it reads as one that is new enough.
-        QVERIFY2((map != nullptr) == (size > 4), where);
-        if (!map)
-            continue;
-        QVERIFY2(map->isUsable() == (size >= startAt + 6), where);
-        QVERIFY2(map->gateSize() == 12.5 || size < outlineAt - 4, where);
-        if (size < outlineAt)
-            continue;
-        QCOMPARE(map->trackPoints().size(), 3);
-        for (qsizetype i = 0; i < 3; ++i) {
-            const double latitude = size >= outlineAt + 16 * i + 16 ? 45.0 : 0.0;
-            QVERIFY2(map->trackPoints()[i].latitude() == latitude, where);
+    void cutAtEveryLength()
+    {
+        const QByteArray whole = mapBytes();
+        const qsizetype startAt = 4 + 4 + 4 * 8 + 4 + 4;
+        const qsizetype outlineAt = whole.size() - 3 * 16;
+        for (qsizetype size = 0; size <= whole.size(); ++size) {
+            const auto map = parsed(whole.left(size));
+            const QByteArray where = "cut at " + QByteArray::number(size);
+            // The version's text of a file that ends within it reads as one that is new enough.
+            QVERIFY2((map != nullptr) == (size > 4), where);
+            if (!map)
+                continue;
+            QVERIFY2(map->isUsable() == (size >= startAt + 6), where);
+            QVERIFY2(map->gateSize() == 12.5 || size < outlineAt - 4, where);
+            if (size < outlineAt)
+                continue;
+            QCOMPARE(map->trackPoints().size(), 3);
+            for (qsizetype i = 0; i < 3; ++i) {
+                const double latitude = size >= outlineAt + 16 * i + 16 ? 45.0 : 0.0;
+                QVERIFY2(map->trackPoints()[i].latitude() == latitude, where);
+            }
         }
     }
-}
 
-void TestMaps::refuses()
-{
-    for (const char *version : {"1.0", "1.0.0.0", "2", "10"})
-        QVERIFY2(parsed(mapBytes("MAP", version)), version);
-    for (const char *version : {"1", "0.9", "", "1."})
-        QVERIFY2(!parsed(mapBytes("MAP", version)), version);
-    for (const char *magic : {"", "MA", "MAP1", "map"})
-        QVERIFY2(!parsed(mapBytes(magic)), magic);
-}
-
-void TestMaps::parses()
-{
-    const auto map = parsed(mapBytes() + "and more");
-    QCOMPARE(text(map->cornerA()), u"1/3"_s);
-    QCOMPARE(text(map->cornerB()), u"2/4"_s);
-    QCOMPARE(map->mapNumber(), 77);
-    QCOMPARE(map->gateSize(), 12.5);
-    QCOMPARE(text(map->startPoint()), u"45.5/9.5"_s);
-    QCOMPARE(QStringList(map->timingPoints().keys()), (QStringList {u"Time 2"_s, u"time 1"_s}));
-    QCOMPARE(text(map->trackPoints().last()), u"45/11"_s);
-}
-
-void TestMaps::counts()
-{
-    // How many outline points come of so many claimed and so many in the file.
-    const auto trackPoints = [](quint32 claimed, int held) {
-        Bytes file;
-        file.text("MAP").text("1.0").raw(QByteArray(36, '\0')).u32(0xffffffffU);
-        file.f64(5).u32(claimed).raw(QByteArray(held * 16, '\1'));
-        return parsed(file)->trackPoints().size();
-    };
-    QCOMPARE(trackPoints(0x80000000U, 2), 0);
-    QCOMPARE(trackPoints(1, 2), 1);
-    // Cut short, up to 1000 are believed, more only when half of them are there.
-    QCOMPARE(trackPoints(1000, 1), 1000);
-    QCOMPARE(trackPoints(1001, 1), 1);
-    QCOMPARE(trackPoints(1001, 500), 500);
-    QCOMPARE(trackPoints(1002, 501), 1002);
-    QCOMPARE(trackPoints(1001, 501), 1001);
-    QCOMPARE(trackPoints(0x7fffffff, 3), 3);
-    // Named points are asked for only as long as there is something to read.
-    Bytes endless;
-    endless.text("MAP").text("1.0").raw(QByteArray(36, '\0')).u32(0x7fffffff);
-    QCOMPARE(parsed(endless.text("Time").f64(9).f64(45))->timingPoints().size(), 1);
-}
-
-void TestMaps::namedPoints()
-{
-    // The names' points are at 1, 2, ... degrees north.
-    const auto points = [](const QStringList &names) {
-        Map map;
-        for (qsizetype i = 0; i < names.size(); ++i)
-            map.addNamedPoint(names[i], {static_cast<double>(i + 1), 9.0});
-        QString points = text(map.startPoint());
-        for (auto it = map.timingPoints().begin(); it != map.timingPoints().end(); ++it)
-            points += u"; %1 %2"_s.arg(it.key(), text(it.value()));
-        return points;
-    };
-    QCOMPARE(points({u"Stop"_s}), u"-"_s);
-    QCOMPARE(points({u"Start/Time 1"_s}), u"1/9; Start/Time 1 1/9"_s);
-    QCOMPARE(points({u"RESTART"_s, u"xTiMe"_s}), u"1/9; xTiMe 2/9"_s);
-    QCOMPARE(points({u"start"_s, u"Start"_s}), u"2/9"_s);
-    QCOMPARE(points({u"time"_s, u"TIME"_s, u"time"_s}), u"-; TIME 2/9; time 3/9"_s);
-    QCOMPARE(points({u"time2"_s, u"time10"_s, u"Time3"_s}),
-             u"-; Time3 3/9; time10 2/9; time2 1/9"_s);
-}
-
-void TestMaps::directions()
-{
-    // The outline goes 0, 1000, 3000 and back to 0 metres; the last point begins no segment.
-    const auto direction = [](double north) {
-        Map map;
-        for (const double point : {0.0, 1000.0, 3000.0, 0.0, -9000.0})
-            map.addTrackPoint(place(point));
-        map.addNamedPoint(u"start time"_s, place(north));
-        map.computeGeometry();
-        map.computeGeometry(); // starts afresh each time
-        const double metres = map.startDirection().first / (place(1).latitude() - 45.0);
-        return map.timingDirections() == QList {map.startDirection()} ? qRound(metres) : -1;
-    };
-    QCOMPARE(direction(1000), 2000);
-    QCOMPARE(direction(501), 2000);
-    QCOMPARE(direction(499), 1000);
-    QCOMPARE(direction(2900), -3000);
-    QCOMPARE(direction(12999), -3000); // within 10 km, and farther away
-    QCOMPARE(direction(13001), 0);
-    QCOMPARE(direction(-5), 1000); // of two at the same place the first
-}
-
-void TestMaps::loadsFolder()
-{
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(u"a"_s) && QDir(folder.path()).mkpath(u"c/deep/er"_s));
-    putFile(folder.filePath(u"b.map"_s), mapBytes());
-    putFile(folder.filePath(u"a/z.bin"_s), mapBytes());
-    putFile(folder.filePath(u"c/deep/er/a"_s), mapBytes());
-    putFile(folder.filePath(u".hidden.map"_s), mapBytes());
-    putFile(folder.filePath(u"old.map"_s), mapBytes("MAP", "0.9"));
-    putFile(folder.filePath(u"empty.map"_s), "");
-    const auto namesOf = [](const MapLibrary &library) {
-        QStringList names;
-        for (const Map *map : library.maps())
-            names.append(map->name());
-        return names.join(u' ');
-    };
-    MapLibrary library;
-    for (const QString &path : {folder.path(), QString(folder.path() + u"//")}) {
-        library.loadMaps(path);
-        QCOMPARE(namesOf(library), u"/a/z.bin /b.map /c/deep/er/a"_s);
+    void parses()
+    {
+        for (const char *version : {"1.0", "1.0.0.0", "2"})
+            QVERIFY2(parsed(mapBytes("MAP", version)), version);
+        for (const char *version : {"1", "0.9", ""})
+            QVERIFY2(!parsed(mapBytes("MAP", version)), version);
+        QVERIFY(!parsed(mapBytes("MAP1")));
+        const auto map = parsed(mapBytes() + "and more");
+        QCOMPARE(text(map->cornerB()), u"2/4"_s);
+        QCOMPARE(text(map->startPoint()), u"45.5/9.5"_s);
+        QCOMPARE(QStringList(map->timingPoints().keys()), (QStringList {u"Time 2"_s, u"time 1"_s}));
+        QCOMPARE(text(map->trackPoints().last()), u"45/11"_s);
     }
-    QCOMPARE(library.find(u"/b.map"_s), library.maps().at(1));
-}
 
-// The name goes into the session's file, which holds nothing but ASCII without harm.
-void TestMaps::sessionTakesName()
-{
-    const auto session = sessionOf(ride(lapRide({0})));
-    const auto map = lineMap(10, 680);
-    map->setName(u"/Straße é.x.map"_s);
-    session->setMap(map.get());
-    QCOMPARE(session->circuitName(), u"Strasse e"_s);
-    session->setCircuitName(u"mine"_s);
-    session->setMap(map.get());
-    QCOMPARE(session->circuitName(), u"mine"_s);
-    session->setMap(nullptr);
-    QCOMPARE(session->circuitName(), QString());
-}
+    void counts()
+    {
+        // How many outline points come of so many claimed and so many in the file.
+        const auto trackPoints = [](quint32 claimed, int held) {
+            Bytes file;
+            file.text("MAP").text("1.0").raw(QByteArray(36, '\0')).u32(0xffffffffU);
+            file.f64(5).u32(claimed).raw(QByteArray(held * 16, '\1'));
+            return parsed(file)->trackPoints().size();
+        };
+        QCOMPARE(trackPoints(0x80000000U, 2), 0);
+        QCOMPARE(trackPoints(1, 2), 1);
+        // Cut short, up to 1000 are believed, more only when half of them are there.
+        QCOMPARE(trackPoints(1000, 1), 1000);
+        QCOMPARE(trackPoints(1001, 1), 1);
+        QCOMPARE(trackPoints(1002, 501), 1002);
+        QCOMPARE(trackPoints(0x7fffffff, 3), 3);
+        // Named points are asked for only as long as there is something to read.
+        Bytes endless;
+        endless.text("MAP").text("1.0").raw(QByteArray(36, '\0')).u32(0x7fffffff);
+        QCOMPARE(parsed(endless.text("Time").f64(9).f64(45))->timingPoints().size(), 1);
+    }
+
+    void namedPoints()
+    {
+        // The names' points are at 1, 2, ... degrees north.
+        const auto points = [](const QStringList &names) {
+            Map map;
+            for (qsizetype i = 0; i < names.size(); ++i)
+                map.addNamedPoint(names[i], {static_cast<double>(i + 1), 9.0});
+            QString points = text(map.startPoint());
+            for (auto it = map.timingPoints().begin(); it != map.timingPoints().end(); ++it)
+                points += u"; %1 %2"_s.arg(it.key(), text(it.value()));
+            return points;
+        };
+        QCOMPARE(points({u"RESTART"_s, u"xTiMe"_s}), u"1/9; xTiMe 2/9"_s);
+        QCOMPARE(points({u"time"_s, u"TIME"_s, u"time"_s}), u"-; TIME 2/9; time 3/9"_s);
+        QCOMPARE(points({u"time2"_s, u"time10"_s, u"Time3"_s}),
+                 u"-; Time3 3/9; time10 2/9; time2 1/9"_s);
+    }
+
+    void loadsFolder()
+    {
+        const QTemporaryDir folder;
+        putFile(folder.filePath(u"b.map"_s), mapBytes());
+        putFile(folder.filePath(u"a/z.bin"_s), mapBytes());
+        putFile(folder.filePath(u"c/deep/er/a"_s), mapBytes());
+        putFile(folder.filePath(u".hidden.map"_s), mapBytes());
+        putFile(folder.filePath(u"old.map"_s), mapBytes("MAP", "0.9"));
+        MapLibrary library;
+        for (const QString &path : {folder.path(), QString(folder.path() + u"//")}) {
+            library.loadMaps(path);
+            QStringList names;
+            for (const Map *map : library.maps())
+                names.append(map->name());
+            QCOMPARE(names.join(u' '), u"/a/z.bin /b.map /c/deep/er/a"_s);
+        }
+        QCOMPARE(library.find(u"/b.map"_s), library.maps().at(1));
+    }
+
+    // The name goes into the session's file, which holds nothing but ASCII without harm.
+    void sessionTakesName()
+    {
+        const auto session = sessionOf(ride(lapRide({0})));
+        const auto map = lineMap(10, 680);
+        map->setName(u"/Straße é.x.map"_s);
+        session->setMap(map.get());
+        QCOMPARE(session->circuitName(), u"Strasse e"_s);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestMaps)
 #include "tst_maps.moc"

@@ -72,23 +72,15 @@ QString everything(const OpenedSession &opened)
     if (!opened.session)
         return describe(opened.error);
     const Session &session = *opened.session;
-    QString all = frame(session) + u'\n' + information(session) + u'\n'
-                  + QString::fromLatin1(session.recording().version);
+    QString all = frame(session) + information(session) + text(session.readingLists());
     for (const PointAcquisition &sample : session.samples())
         all += u'\n' + text(sample);
-    return all + u'\n' + text(session.readingLists());
+    return all;
 }
 
 const QString NoInformation = u"||||||Dry|20||"_s;
 const QString FullInformation
     = u"Hill|Cup|Ann|01:02.003|01:01.001|R6|Wet|31|soft|rain, later|2|3"_s;
-
-SessionBytes fullFile()
-{
-    return {.listsFlag = 1,
-            .lists = readingList(21) + readingList(11),
-            .information = InformationBytes().bytes()};
-}
 
 } // namespace
 
@@ -97,197 +89,167 @@ class TestSessionFile final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cutAtEveryLength();
-    void refuses();
-    void sampleCount();
-    void lists();
-    void describes();
-    void samples();
-    void noFile();
-    void fileGoneOrReplaced();
+    // A recording ends where the battery did: what it holds whole must come out.
+    void cutAtEveryLength()
+    {
+        const SessionBytes file = fullSession();
+        const QByteArray whole = file.bytes();
+        const qsizetype flagsAt = file.head().size();
+        const QStringList samples {u"1 100 0.1 10 46 101.5 -21.25 0.25 0 -0.5"_s,
+                                   u"2 200 0.2 11 47 102.5 -22.25 0.5 0 -1"_s};
+        for (qsizetype size = 0; size <= whole.size(); ++size) {
+            const OpenedSession cut = decoded(whole.left(size));
+            const QByteArray where = "cut at " + QByteArray::number(size);
+            QVERIFY2((cut.error == SessionFileError::None) == (size > 4), where);
+            if (!cut.session)
+                continue;
+            const Session &session = *cut.session;
+            const qsizetype count = std::clamp<qsizetype>((size - SamplesAt) / SampleSize, 0, 2);
+            QVERIFY2(session.recording().wholeSampleCount == count, where);
+            for (qsizetype i = 0; i < count; ++i)
+                QCOMPARE(text(session.samples()[static_cast<std::size_t>(i)]), samples[i]);
+            QVERIFY2(session.sampleCount() == (size < SamplesAt ? 0 : 2), where);
+            if (size < flagsAt)
+                continue;
+            QVERIFY2(session.newSession() == (size > flagsAt ? 1 : 0), where);
+            QVERIFY2(session.recording().listsFlag == (size > flagsAt + 1 ? 1 : 0), where);
+            // What is left over of a number, or of the last reading, passes for the block's
+            // beginning.
+            const qsizetype ofLists = size - flagsAt - 2;
+            if (ofLists <= 0 || ofLists == file.lists.size()
+                || (ofLists < file.lists.size() - 8 && ofLists % 4 == 0))
+                QCOMPARE(information(session), NoInformation);
+        }
+    }
+
+    void refuses()
+    {
+        using enum SessionFileError;
+        const auto error = [this](const QByteArray &magic, const QByteArray &version) {
+            return decoded(SessionBytes {.magic = magic, .version = version}.bytes()).error;
+        };
+        // Versions are compared as texts.
+        for (const char *version : {"1.0.0.0", "1.0.0.0b", "10"})
+            QVERIFY2(error("RA1", version) == None, version);
+        for (const char *version : {"1.0.0", "0.9.9.9", ""})
+            QVERIFY2(error("RA1", version) == VersionTooOld, version);
+        for (const char *magic : {"RA2", "RA1 ", ""})
+            QVERIFY2(error(magic, "1.0.0.0") == NotASession, magic);
+    }
+
+    void sampleCount()
+    {
+        const auto check = [this](quint32 claimed, int held, int count) {
+            Bytes file;
+            file.text("RA1").text("1.0.0.0").u32(claimed);
+            for (int i = 1; i <= held * 7; ++i)
+                file.u32(static_cast<quint32>(i));
+            const auto session = decoded(file).session;
+            const int whole = std::min(held, count);
+            bool right = std::ssize(session->samples()) == count
+                         && std::ssize(session->wholeSamples()) == whole;
+            for (int i = 0; right && i < count; ++i)
+                right = session->samples()[static_cast<std::size_t>(i)].dataTimeStamp
+                        == static_cast<quint32>(i < whole ? (7 * i) + 1 : 0);
+            return right;
+        };
+        QVERIFY(check(0x80000000U, 0, 0));
+        QVERIFY(check(1, 2, 1));
+        // Cut short, up to 1000 samples are believed, more only when half of them are there.
+        QVERIFY(check(1000, 1, 1000));
+        QVERIFY(check(1001, 1, 1));
+        QVERIFY(check(1002, 501, 1002));
+        QVERIFY(check(0x7fffffff, 3, 3));
+    }
+
+    void lists()
+    {
+        const auto read = [this](const QByteArray &lists) {
+            const SessionBytes file {.listsFlag = 1, .lists = lists};
+            return text(decoded(file.bytes()).session->readingLists());
+        };
+        const QByteArray one = readingList(1);
+        QCOMPARE(read(readingList({-0.5, 0.1, 1e40}) + one),
+                 u" 100:-0.5 101:0.1 102:inf| 100:1.5|"_s);
+        QCOMPARE(read(readingList({}, 0xffffffffU) + one), u"| 100:1.5|"_s);
+        // A number that cannot be read is 0, and the bytes stay for the next one.
+        QCOMPARE(read(readingList({1.0, 2.0}).chopped(8)), u" 100:1 101:0||"_s);
+        QCOMPARE(read(readingList({1, 2}, 9).chopped(4)), u" 100:1 101:0 0:0||"_s);
+    }
+
+    void describes()
+    {
+        const auto read = [this](const QByteArray &bytes) {
+            const auto session = decoded(bytes).session;
+            return QString(frame(*session) + u'\n' + information(*session));
+        };
+        const QString head = u"2 of 2; 2 words; 03/05/2026 7 10:11:12 2.5; "_s;
+        const QByteArray block = InformationBytes().bytes();
+        const QByteArray plain = SessionBytes {.newSession = 5}.bytes();
+        const InformationBytes longTexts {.circuit = QByteArray(255, 'c'), .event = "Fête \xff"};
+        const SessionBytes manyWords {.wordCount = 0xffffffffU, .date = "", .time = ""};
+        QCOMPARE(read(fullSession().bytes() + "more"),
+                 head + u"new 1 lists 1\n"_s + FullInformation);
+        QCOMPARE(read(plain), head + u"new 5 lists 0\n"_s + NoInformation);
+        // Without lists the block begins in the flag's place.
+        QCOMPARE(read(plain + block), head + u"new 5 lists 4\n"_s + FullInformation);
+        QCOMPARE(read(plain + InformationBytes {.circuit = ""}.bytes()),
+                 head + u"new 5 lists 0\n"_s + FullInformation.mid(4));
+        QCOMPARE(read(plain + longTexts.bytes()), head + u"new 5 lists 255\n"_s + QString(255, u'c')
+                                                      + u"|Fête \ufffd"_s + FullInformation.mid(8));
+        QCOMPARE(read(plain + block.chopped(1)),
+                 head + u"new 5 lists 4\n"_s + FullInformation.chopped(2));
+        QCOMPARE(read(plain + block.left(6)), head + u"new 5 lists 4\nHill|"_s
+                                                  + QString::fromLatin1(outOfRangeText())
+                                                  + u"||||||0||"_s);
+        QCOMPARE(read(manyWords.bytes()),
+                 u"2 of 2; 4294967295 words;  0  0; new 0 lists 0\n"_s + NoInformation);
+        // The second sample ends after its time; three bytes are no number, but texts and a byte.
+        QCOMPARE(read(plain.left(SamplesAt + SampleSize + 4) + QByteArray("\0\7\0", 3)),
+                 u"1 of 2; 0 words;  7  0; new 0 lists 0\n"_s + NoInformation);
+    }
+
+    void noFile()
+    {
+        QCOMPARE(openSession(m_folder.filePath(u"none"_s)).error, SessionFileError::Unreadable);
+        QCOMPARE(openSession(m_folder.path()).error, SessionFileError::Unreadable);
+        // Opening a pipe would wait for somebody to write to it.
+        QCOMPARE(::mkfifo(m_folder.filePath(u"pipe"_s).toLocal8Bit(), 0600), 0);
+        QCOMPARE(openSession(m_folder.filePath(u"pipe"_s)).error, SessionFileError::Unreadable);
+    }
+
+    // Samples are read late: by then the file may be another one.
+    void fileGoneOrReplaced()
+    {
+        const OpenedSession gone = opened(fullSession().bytes());
+        QVERIFY(QFile::remove(m_path));
+        QCOMPARE(gone.session->samples().size(), 0U);
+        QCOMPARE(information(*gone.session), FullInformation);
+
+        const OpenedSession replaced = opened(fullSession().bytes());
+        (void)opened("no session any more");
+        QCOMPARE(replaced.session->wholeSamples().size(), 0U);
+    }
 
 private:
-    /// Writes the bytes to a file and opens that.
-    [[nodiscard]] OpenedSession opened(const QByteArray &bytes) const;
+    /// Opens a file of these bytes.
+    [[nodiscard]] OpenedSession opened(const QByteArray &bytes) const
+    {
+        putFile(m_path, bytes);
+        return openSession(m_path);
+    }
+    /// Decodes the bytes, from memory and from a file alike.
+    [[nodiscard]] OpenedSession decoded(const QByteArray &bytes) const
+    {
+        OpenedSession decoded = decodeSession(bytes, m_path);
+        if (everything(opened(bytes)) != everything(decoded))
+            qFatal("a file of %lld bytes reads differently", qlonglong(bytes.size()));
+        return decoded;
+    }
 
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(u"Ride.ra1"_s);
 };
-
-OpenedSession TestSessionFile::opened(const QByteArray &bytes) const
-{
-    putFile(m_path, bytes);
-    return openSession(m_path);
-}
-
-// A recording ends where the battery did: what it holds whole must come out.
-void TestSessionFile::cutAtEveryLength()
-{
-    const SessionBytes file = fullFile();
-    const QByteArray whole = file.bytes();
-    const qsizetype flagsAt = file.head().size();
-    const QStringList samples = everything(decodeSession(whole, m_path)).split(u'\n').mid(3, 2);
-    for (qsizetype size = 0; size <= whole.size(); ++size) {
-        const QByteArray cut = whole.left(size);
-        const OpenedSession decoded = decodeSession(cut, m_path);
-        const QByteArray where = "cut at " + QByteArray::number(size);
-        QVERIFY2(everything(opened(cut)) == everything(decoded), where);
-        const auto error = size < 4    ? SessionFileError::NotASession
-                           : size == 4 ? SessionFileError::VersionTooOld
-                                       : SessionFileError::None;
-        QVERIFY2(decoded.error == error, where);
-        if (!decoded.session)
-            continue;
-        const Session &session = *decoded.session;
-        const qsizetype count = std::clamp<qsizetype>((size - SamplesAt) / SampleSize, 0, 2);
-        QVERIFY2(session.recording().wholeSampleCount == count, where);
-        QVERIFY2(std::ssize(session.wholeSamples()) == count, where);
-        for (qsizetype i = 0; i < count; ++i)
-            QCOMPARE(text(session.samples()[static_cast<std::size_t>(i)]), samples[i]);
-        QVERIFY2(session.sampleCount() == (size < SamplesAt ? 0 : 2), where);
-        if (size < flagsAt)
-            continue;
-        QVERIFY2(session.newSession() == (size > flagsAt ? 1 : 0), where);
-        QVERIFY2(session.recording().listsFlag == (size > flagsAt + 1 ? 1 : 0), where);
-        // What is left over of a number, or of the last reading, passes for the block's beginning.
-        const qsizetype ofLists = size - flagsAt - 2;
-        if (ofLists <= 0 || ofLists == file.lists.size()
-            || (ofLists < file.lists.size() - 8 && ofLists % 4 == 0))
-            QCOMPARE(information(session), NoInformation);
-    }
-}
-
-void TestSessionFile::refuses()
-{
-    using enum SessionFileError;
-    const auto error = [this](const QByteArray &magic, const QByteArray &version) {
-        const SessionBytes file {.magic = magic, .version = version};
-        const OpenedSession decoded = decodeSession(file.bytes(), m_path);
-        return (decoded.session != nullptr) == (decoded.error == None) ? decoded.error : Unreadable;
-    };
-    // Versions are compared as texts.
-    for (const char *version : {"1.0.0.0", "1.4.0.0", "1.0.0.0b", "10", "\xff"})
-        QVERIFY2(error("RA1", version) == None, version);
-    for (const char *version : {"1.0.0", "0.9.9.9", ""})
-        QVERIFY2(error("RA1", version) == VersionTooOld, version);
-    for (const char *magic : {"RA2", "RA1 ", ""})
-        QVERIFY2(error(magic, "1.0.0.0") == NotASession, magic);
-}
-
-void TestSessionFile::sampleCount()
-{
-    const auto check = [this](quint32 claimed, int held, int count) {
-        Bytes file;
-        file.text("RA1").text("1.0.0.0").u32(claimed);
-        for (int i = 1; i <= held * 7; ++i)
-            file.u32(static_cast<quint32>(i));
-        const OpenedSession decoded = decodeSession(file, m_path);
-        const int whole = std::min(held, count);
-        bool right = decoded.session->sampleCount() == count
-                     && std::ssize(decoded.session->samples()) == count
-                     && std::ssize(decoded.session->wholeSamples()) == whole;
-        for (int i = 0; right && i < count; ++i)
-            right = decoded.session->samples()[static_cast<std::size_t>(i)].dataTimeStamp
-                    == static_cast<quint32>(i < whole ? (7 * i) + 1 : 0);
-        return right && everything(opened(file)) == everything(decoded);
-    };
-    QVERIFY(check(0x80000000U, 0, 0));
-    QVERIFY(check(1, 2, 1));
-    // Cut short, up to 1000 samples are believed, more only when half of them are there.
-    QVERIFY(check(1000, 1, 1000));
-    QVERIFY(check(1001, 1, 1));
-    QVERIFY(check(1001, 500, 500));
-    QVERIFY(check(1002, 501, 1002));
-    QVERIFY(check(1001, 501, 1001));
-    QVERIFY(check(0x7fffffff, 3, 3));
-}
-
-void TestSessionFile::lists()
-{
-    const auto read = [this](const QByteArray &lists) {
-        const QByteArray bytes = SessionBytes {.listsFlag = 1, .lists = lists}.bytes();
-        const OpenedSession decoded = decodeSession(bytes, m_path);
-        return everything(opened(bytes)) == everything(decoded)
-                   ? text(decoded.session->readingLists())
-                   : u"not the same"_s;
-    };
-    const QByteArray one = readingList(1);
-    QCOMPARE(read(readingList({-0.5, 0.1, 1e40}) + one), u" 100:-0.5 101:0.1 102:inf| 100:1.5|"_s);
-    QCOMPARE(read(readingList({}, 0xffffffffU) + one), u"| 100:1.5|"_s);
-    QCOMPARE(read(one), u" 100:1.5||"_s);
-    QCOMPARE(read(QByteArray("\x01\0\0", 3)), u"||"_s);
-    QCOMPARE(read(readingList({1.0}, 0x7fffffffU)), u" 100:1||"_s);
-    // A number that cannot be read is 0, and the bytes stay for the next one.
-    QCOMPARE(read(readingList({1.0, 2.0}).chopped(8)), u" 100:1 101:0||"_s);
-    QCOMPARE(read(readingList({1, 2}, 9).chopped(4)), u" 100:1 101:0 0:0||"_s);
-    QCOMPARE(read(readingList({1, 2}, 9).chopped(9)), u" 100:1||"_s);
-}
-
-void TestSessionFile::describes()
-{
-    const auto read = [this](const QByteArray &bytes) {
-        const OpenedSession decoded = decodeSession(bytes, m_path);
-        return everything(opened(bytes)) == everything(decoded)
-                   ? frame(*decoded.session) + u'\n' + information(*decoded.session)
-                   : u"not the same"_s;
-    };
-    const QString head = u"2 of 2; 2 words; 03/05/2026 7 10:11:12 2.5; "_s;
-    const QByteArray block = InformationBytes().bytes();
-    const QByteArray plain = SessionBytes {.newSession = 5}.bytes();
-    const InformationBytes longTexts {.circuit = QByteArray(255, 'c'), .event = "Fête \xff"};
-    const SessionBytes manyWords {.wordCount = 0xffffffffU, .date = "", .time = ""};
-    QCOMPARE(read(fullFile().bytes() + "more"), head + u"new 1 lists 1\n"_s + FullInformation);
-    QCOMPARE(read(SessionBytes().head()), head + u"new 0 lists 0\n"_s + NoInformation);
-    QCOMPARE(read(plain), head + u"new 5 lists 0\n"_s + NoInformation);
-    // Without lists the block begins in the flag's place.
-    QCOMPARE(read(plain + block), head + u"new 5 lists 4\n"_s + FullInformation);
-    QCOMPARE(read(plain + InformationBytes {.circuit = ""}.bytes()),
-             head + u"new 5 lists 0\n"_s + FullInformation.mid(4));
-    QCOMPARE(read(plain + QByteArray(11, '\0')), head + u"new 5 lists 0\n|||||||0||"_s);
-    QCOMPARE(read(plain + longTexts.bytes()), head + u"new 5 lists 255\n"_s + QString(255, u'c')
-                                                  + u"|Fête \ufffd"_s + FullInformation.mid(8));
-    QCOMPARE(read(plain + block.chopped(1)),
-             head + u"new 5 lists 4\n"_s + FullInformation.chopped(2));
-    QCOMPARE(read(plain + block.left(6)), head + u"new 5 lists 4\nHill|"_s
-                                              + QString::fromLatin1(outOfRangeText())
-                                              + u"||||||0||"_s);
-    QCOMPARE(read(manyWords.bytes()),
-             u"2 of 2; 4294967295 words;  0  0; new 0 lists 0\n"_s + NoInformation);
-    // The second sample ends after its time; three bytes are no number, but texts and a byte.
-    QCOMPARE(read(plain.left(SamplesAt + SampleSize + 4) + QByteArray("\0\7\0", 3)),
-             u"1 of 2; 0 words;  7  0; new 0 lists 0\n"_s + NoInformation);
-}
-
-void TestSessionFile::samples()
-{
-    const OpenedSession decoded = decodeSession(SessionBytes().bytes(), m_path);
-    const Points &samples = decoded.session->samples();
-    QCOMPARE(text(samples.at(0)), u"1 100 0.1 10 46 101.5 -21.25 0.25 0 -0.5"_s);
-    QCOMPARE(text(samples.at(1)), u"2 200 0.2 11 47 102.5 -22.25 0.5 0 -1"_s);
-}
-
-void TestSessionFile::noFile()
-{
-    QCOMPARE(openSession(m_folder.filePath(u"none"_s)).error, SessionFileError::Unreadable);
-    QCOMPARE(openSession(m_folder.path()).error, SessionFileError::Unreadable);
-    QCOMPARE(opened({}).error, SessionFileError::NotASession);
-    // Opening a pipe would wait for somebody to write to it.
-    QCOMPARE(::mkfifo(m_folder.filePath(u"pipe"_s).toLocal8Bit(), 0600), 0);
-    QCOMPARE(openSession(m_folder.filePath(u"pipe"_s)).error, SessionFileError::Unreadable);
-}
-
-// Samples are read late: by then the file may be another one.
-void TestSessionFile::fileGoneOrReplaced()
-{
-    const OpenedSession gone = opened(fullFile().bytes());
-    QVERIFY(QFile::remove(m_path));
-    QCOMPARE(gone.session->samples().size(), 0U);
-    QCOMPARE(information(*gone.session), FullInformation);
-
-    const OpenedSession replaced = opened(fullFile().bytes());
-    (void)opened("no session any more");
-    QCOMPARE(replaced.session->wholeSamples().size(), 0U);
-}
 
 QTEST_GUILESS_MAIN(TestSessionFile)
 #include "tst_sessionfile.moc"

@@ -20,18 +20,14 @@ namespace {
 
 using Change = void (*)(Session &);
 
-const QByteArray Lists = readingList(11) + readingList(3);
-
 /// What a file without an information block is given.
 const InformationBytes Defaults {{}, {}, {}, {}, {}, {}, "Dry", 20, {}, {}, {}};
 
 QByteArray withLists(const InformationBytes &information, int newSession = 1)
 {
-    return SessionBytes {.newSession = newSession,
-                         .listsFlag = 1,
-                         .lists = Lists,
-                         .information = information.bytes()}
-        .bytes();
+    SessionBytes file = fullSession(information);
+    file.newSession = newSession;
+    return file.bytes();
 }
 
 /// Without lists, a file has the block's first byte where the lists' flag was.
@@ -47,173 +43,153 @@ class TestSessionRewrite final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void rewrites();
-    void cutAtEveryLength();
-    void withLaps();
-    void writesNothingWithoutChange();
-    void failures();
+    void rewrites()
+    {
+        // What a change makes of a file; rewritten again, and opened again, it must stay the same.
+        const auto rewritten = [this](const QByteArray &before, Change change) -> QByteArray {
+            putFile(m_path, before);
+            const OpenedSession opened = openSession(m_path);
+            change(*opened.session);
+            const RewriteOutcome outcome = rewriteSessionFile(*opened.session).outcome;
+            const QByteArray after = contents(m_path);
+            const OpenedSession again = openSession(m_path);
+            const bool stable
+                = (outcome == RewriteOutcome::Unchanged) == (after == before)
+                  && rewriteSessionFile(*opened.session).outcome == RewriteOutcome::Unchanged
+                  && rewriteSessionFile(*again.session).outcome == RewriteOutcome::Unchanged
+                  && again.session->samples() == opened.session->samples();
+            return stable ? after : "not stable";
+        };
+        const Change nothing = [](Session &) {};
+        const Change setNotes = [](Session &session) { session.setNotes(u"dry"_s); };
+        const Change open = [](Session &session) { session.setNewSession(0); };
+        const Change sameEvent
+            = [](Session &session) { session.setEventName(session.eventName()); };
+        const Change longTexts = [](Session &session) {
+            session.setCircuitName(QString(255, u'c'));
+            session.setTemperature(300);
+            session.setTyres(QString(256, u't'));
+        };
+        const InformationBytes full;
+        const InformationBytes dry {.notes = "dry"};
+        const InformationBytes accents {.circuit = "Le Man\xc3\xa9", .event = "F\xeate"};
+        InformationBytes accentsDry = accents;
+        accentsDry.notes = "dry";
+        InformationBytes texts {.circuit = QByteArray(255, 'c'), .temperature = 300 - 256};
+        texts.tyres = QByteArray(255, 't');
+        const QByteArray onlyLists
+            = SessionBytes {.listsFlag = 1, .lists = fullSession().lists}.bytes();
+
+        QCOMPARE(rewritten(withLists(full), open), withLists(full, 0));
+        QCOMPARE(rewritten(withoutLists(full), setNotes), withoutLists(dry));
+        QCOMPARE(rewritten(onlyLists, nothing), withLists(Defaults));
+        QCOMPARE(rewritten(withLists(full) + "more", nothing), withLists(full));
+        QCOMPARE(rewritten(withLists(full).chopped(2), nothing), withLists({.invalidLaps = ""}));
+        QCOMPARE(rewritten(withoutLists(full), longTexts), withoutLists(texts));
+        // A length that counts characters would cut what is untouched here.
+        QCOMPARE(rewritten(withLists(accents), setNotes), withLists(accentsDry));
+        QCOMPARE(rewritten(withLists(accents), sameEvent), withLists(accents));
+    }
+
+    // Half a file is still a rider's recording: a rewrite must not make it worse.
+    void cutAtEveryLength()
+    {
+        const QByteArray whole = withLists({});
+        const qsizetype informationAt
+            = SessionBytes().head().size() + 2 + fullSession().lists.size();
+        for (qsizetype size = 12; size <= whole.size(); ++size) {
+            const QByteArray where = "cut at " + QByteArray::number(size);
+            putFile(m_path, whole.left(size));
+            const OpenedSession opened = openSession(m_path);
+            opened.session->setNewSession(0);
+            opened.session->setNotes(u"edited"_s);
+            const RewriteOutcome outcome = rewriteSessionFile(*opened.session).outcome;
+            if (size < informationAt) {
+                QVERIFY2(outcome == RewriteOutcome::NotRewritable, where);
+                QVERIFY2(contents(m_path) == whole.left(size), where);
+                continue;
+            }
+            QVERIFY2(outcome == RewriteOutcome::Written, where);
+            const OpenedSession again = openSession(m_path);
+            QVERIFY2(again.session->samples() == opened.session->samples(), where);
+            QVERIFY2(again.session->notes() == u"edited" && again.session->newSession() == 0,
+                     where);
+            QCOMPARE(rewriteSessionFile(*again.session).outcome, RewriteOutcome::Unchanged);
+        }
+    }
+
+    // Times and thrown out laps follow the laps; without laps the file's own are kept.
+    void withLaps()
+    {
+        const InformationBytes stored;
+        const auto session = sessionOf(ride(lapRide({0, 0, 1})));
+        SessionInformation information = session->information();
+        information.bestLapText = StoredText::fromFile(stored.bestLap);
+        information.idealTimeText = StoredText::fromFile(stored.idealTime);
+        information.invalidLaps = {2, 3, 9};
+        session->setInformation(information);
+
+        InformationBytes expected = Defaults;
+        expected.bestLap = stored.bestLap;
+        expected.idealTime = stored.idealTime;
+        expected.invalidLaps = "\x02\x03\x09";
+        QCOMPARE(informationBlock(*session), expected.bytes());
+
+        const auto sectors = lineMap(10, 680, {{u"Start"_s, 0}, {u"Time 0"_s, 100}});
+        session->setMap(sectors.get());
+        session->setLapValid(2, true);
+        expected.bestLap = "00:03.500";
+        expected.idealTime = "00:00.999";
+        expected.invalidLaps = "\x02";
+        QCOMPARE(informationBlock(*session), expected.bytes());
+    }
+
+    void writesNothingWithoutChange()
+    {
+        putFile(m_path, withLists({}));
+        QVERIFY(
+            QFile::setPermissions(m_path, QFile::ReadUser | QFile::WriteUser | QFile::WriteOther));
+        const QFile::Permissions permissions = QFile::permissions(m_path);
+        makeOld(m_path);
+        const OpenedSession opened = openSession(m_path);
+        QVERIFY(rewriteSessionFile(*opened.session).ok());
+        QVERIFY(isOld(m_path));
+        opened.session->setNewSession(0);
+        QVERIFY(rewriteSessionFile(*opened.session).ok());
+        QVERIFY(!isOld(m_path));
+        QCOMPARE(QFile::permissions(m_path), permissions);
+    }
+
+    void failures()
+    {
+        using enum RewriteOutcome;
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"Ride.ra1"_s);
+        // What becomes of a file of such bytes; Written if the file does not stay, or not alone.
+        const auto outcome = [&](const QByteArray &bytes, const QString &target = {}) {
+            putFile(path, bytes);
+            if (bytes.isEmpty())
+                QFile::remove(path);
+            const OpenedSession opened = decodeSession(withLists({}), path);
+            opened.session->setNewSession(0);
+            const RewriteResult result
+                = target.isNull() ? rewriteSessionFile(*opened.session)
+                                  : rewriteSessionFileTo(*opened.session, folder.filePath(target));
+            const bool kept = contents(path) == bytes
+                              && QDir(folder.path()).count() == (bytes.isEmpty() ? 2U : 3U);
+            const bool explained = result.reason.isEmpty() == (result.outcome == NotRewritable);
+            return kept && explained && !result.ok() ? result.outcome : Written;
+        };
+        QCOMPARE(outcome({}), Unreadable);
+        QCOMPARE(outcome("text"), NotRewritable);
+        QCOMPARE(outcome(SessionBytes {.version = "0.9", .listsFlag = 0}.bytes()), NotRewritable);
+        QCOMPARE(outcome(withLists({}), u"."_s), WriteFailed);
+    }
 
 private:
-    [[nodiscard]] static QByteArray contents(const QString &path);
-
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(u"Ride.ra1"_s);
 };
-
-QByteArray TestSessionRewrite::contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable";
-}
-
-void TestSessionRewrite::rewrites()
-{
-    // What a change makes of a file; rewritten again, and opened again, it must stay the same.
-    const auto rewritten = [this](const QByteArray &before, Change change) -> QByteArray {
-        putFile(m_path, before);
-        const OpenedSession opened = openSession(m_path);
-        change(*opened.session);
-        const RewriteOutcome outcome = rewriteSessionFile(*opened.session).outcome;
-        const QByteArray after = contents(m_path);
-        const OpenedSession again = openSession(m_path);
-        const bool stable
-            = (outcome == RewriteOutcome::Unchanged) == (after == before)
-              && rewriteSessionFile(*opened.session).outcome == RewriteOutcome::Unchanged
-              && rewriteSessionFile(*again.session).outcome == RewriteOutcome::Unchanged
-              && again.session->samples() == opened.session->samples();
-        return stable ? after : "not stable";
-    };
-    const Change nothing = [](Session &) {};
-    const Change setNotes = [](Session &session) { session.setNotes(u"dry"_s); };
-    const Change open = [](Session &session) { session.setNewSession(0); };
-    const Change sameEvent = [](Session &session) { session.setEventName(session.eventName()); };
-    const Change longTexts = [](Session &session) {
-        session.setCircuitName(QString(255, u'c'));
-        session.setTemperature(300);
-        session.setTyres(QString(256, u't'));
-    };
-    const InformationBytes full;
-    const InformationBytes dry {.notes = "dry"};
-    const InformationBytes accents {.circuit = "Le Man\xc3\xa9", .event = "F\xeate"};
-    InformationBytes accentsDry = accents;
-    accentsDry.notes = "dry";
-    InformationBytes texts {.circuit = QByteArray(255, 'c'), .temperature = 300 - 256};
-    texts.tyres = QByteArray(255, 't');
-    const QByteArray noBlock = SessionBytes {.listsFlag = 0}.bytes();
-    const QByteArray onlyLists = SessionBytes {.listsFlag = 1, .lists = Lists}.bytes();
-
-    QCOMPARE(rewritten(withLists(full), nothing), withLists(full));
-    QCOMPARE(rewritten(withLists(full), open), withLists(full, 0));
-    QCOMPARE(rewritten(withLists(full), setNotes), withLists(dry));
-    QCOMPARE(rewritten(withoutLists(full), setNotes), withoutLists(dry));
-    QCOMPARE(rewritten(noBlock, nothing), withoutLists(Defaults));
-    QCOMPARE(rewritten(onlyLists, nothing), withLists(Defaults));
-    QCOMPARE(rewritten(withLists(full) + "more", nothing), withLists(full));
-    QCOMPARE(rewritten(withLists(full).chopped(2), nothing), withLists({.invalidLaps = ""}));
-    QCOMPARE(rewritten(withoutLists(full), longTexts), withoutLists(texts));
-    // A length that counts characters would cut what is untouched here.
-    QCOMPARE(rewritten(withLists(accents), setNotes), withLists(accentsDry));
-    QCOMPARE(rewritten(withLists(accents), sameEvent), withLists(accents));
-}
-
-// Half a file is still a rider's recording: a rewrite must not make it worse.
-void TestSessionRewrite::cutAtEveryLength()
-{
-    const QByteArray whole = withLists({});
-    const qsizetype informationAt = SessionBytes().head().size() + 2 + Lists.size();
-    for (qsizetype size = 12; size <= whole.size(); ++size) {
-        const QByteArray where = "cut at " + QByteArray::number(size);
-        putFile(m_path, whole.left(size));
-        const OpenedSession opened = openSession(m_path);
-        opened.session->setNewSession(0);
-        opened.session->setNotes(u"edited"_s);
-        const RewriteOutcome outcome = rewriteSessionFile(*opened.session).outcome;
-        if (size < informationAt) {
-            QVERIFY2(outcome == RewriteOutcome::NotRewritable, where);
-            QVERIFY2(contents(m_path) == whole.left(size), where);
-            continue;
-        }
-        QVERIFY2(outcome == RewriteOutcome::Written, where);
-        const OpenedSession again = openSession(m_path);
-        QVERIFY2(again.session->samples() == opened.session->samples(), where);
-        QVERIFY2(again.session->notes() == u"edited" && again.session->newSession() == 0, where);
-        QCOMPARE(rewriteSessionFile(*again.session).outcome, RewriteOutcome::Unchanged);
-    }
-}
-
-// Times and thrown out laps follow the laps; without laps the file's own are kept.
-void TestSessionRewrite::withLaps()
-{
-    const InformationBytes stored;
-    const auto session = sessionOf(ride(lapRide({0, 0, 1})));
-    SessionInformation information = session->information();
-    information.bestLapText = StoredText::fromFile(stored.bestLap);
-    information.idealTimeText = StoredText::fromFile(stored.idealTime);
-    information.invalidLaps = {2, 3, 9};
-    session->setInformation(information);
-
-    InformationBytes expected = Defaults;
-    expected.bestLap = stored.bestLap;
-    expected.idealTime = stored.idealTime;
-    expected.invalidLaps = "\x02\x03\x09";
-    QCOMPARE(informationBlock(*session), expected.bytes());
-
-    const auto sectors = lineMap(10, 680, {{u"Start"_s, 0}, {u"Time 0"_s, 100}});
-    session->setMap(sectors.get());
-    session->setLapValid(2, true);
-    expected.bestLap = "00:03.500";
-    expected.idealTime = "00:00.999";
-    expected.invalidLaps = "\x02";
-    QCOMPARE(informationBlock(*session), expected.bytes());
-}
-
-void TestSessionRewrite::writesNothingWithoutChange()
-{
-    const QDateTime longAgo(QDate(2020, 2, 2), QTime(2, 2));
-    const QFile::Permissions own = QFile::ReadUser | QFile::WriteUser;
-    for (const auto &permissions : {own, own | QFile::ReadGroup | QFile::WriteOther}) {
-        putFile(m_path, withLists({}));
-        QFile file(m_path);
-        QVERIFY(file.open(QIODevice::ReadWrite) && file.setPermissions(permissions));
-        QVERIFY(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
-        file.close();
-        const QFile::Permissions before = QFile::permissions(m_path);
-        const OpenedSession opened = openSession(m_path);
-        QVERIFY(rewriteSessionFile(*opened.session).ok());
-        QCOMPARE(QFileInfo(m_path).lastModified(), longAgo);
-        opened.session->setNewSession(0);
-        QVERIFY(rewriteSessionFile(*opened.session).ok());
-        QVERIFY(QFileInfo(m_path).lastModified() > longAgo);
-        QCOMPARE(QFile::permissions(m_path), before);
-    }
-}
-
-void TestSessionRewrite::failures()
-{
-    using enum RewriteOutcome;
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"Ride.ra1"_s);
-    // What becomes of a file of such bytes; Written if the file does not stay, or not alone.
-    const auto outcome = [&](const QByteArray &bytes, const QString &target = {}) {
-        putFile(path, bytes);
-        if (bytes.isEmpty())
-            QFile::remove(path);
-        const OpenedSession opened = decodeSession(withLists({}), path);
-        opened.session->setNewSession(0);
-        const RewriteResult result
-            = target.isNull() ? rewriteSessionFile(*opened.session)
-                              : rewriteSessionFileTo(*opened.session, folder.filePath(target));
-        const bool kept = contents(path) == (bytes.isEmpty() ? "unreadable" : bytes)
-                          && QDir(folder.path()).count() == (bytes.isEmpty() ? 2U : 3U);
-        const bool explained = result.reason.isEmpty() == (result.outcome == NotRewritable);
-        return kept && explained && !result.ok() ? result.outcome : Written;
-    };
-    QCOMPARE(outcome({}), Unreadable);
-    QCOMPARE(outcome("text"), NotRewritable);
-    QCOMPARE(outcome(SessionBytes {.version = "0.9", .listsFlag = 0}.bytes()), NotRewritable);
-    QCOMPARE(outcome(withLists({}), u"none/A.ra1"_s), WriteFailed);
-    QCOMPARE(outcome(withLists({}), u"."_s), WriteFailed);
-}
 
 QTEST_GUILESS_MAIN(TestSessionRewrite)
 #include "tst_sessionrewrite.moc"
