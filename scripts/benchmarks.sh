@@ -6,19 +6,23 @@
 # Fails when an aim is missed.
 #   scripts/benchmarks.sh [options of Google Benchmark]   (--benchmark_filter=NONE: the table only)
 #   scripts/benchmarks.sh --map                           (the map page instead)
+#   scripts/benchmarks.sh --library [SESSIONS]            (the program with a large library instead)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
 
-if [[ ${1:-} == --map ]]; then
+case ${1:-} in
+--map | --library)
     scripts/install-dependencies.sh --gui
+    program=bench_${1#--}
     {
         cmake --preset release
-        cmake --build --preset release --target bench_map
+        cmake --build --preset release --target "$program"
     } >&2
     ((EUID != 0)) || export QTWEBENGINE_DISABLE_SANDBOX=1
-    QT_QPA_PLATFORM=offscreen exec build/release/bin/bench_map
-fi
+    QT_QPA_PLATFORM=offscreen exec "build/release/bin/$program" "${@:2}"
+    ;;
+esac
 
 scripts/install-dependencies.sh --core
 # In a folder of its own: without the window, and whatever build/release is set to stays.
