@@ -6,6 +6,7 @@
 
 #include <app/darkstyle.h>
 #include <app/logfile.h>
+#include <app/updateapp.h>
 #include <app/zunoanalyzer.h>
 
 int main(int argc, char *argv[])
@@ -16,6 +17,9 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window;
+    zuno::UpdateApp updates(zuno::UpdateApp::configuredServer(), &window);
+    QObject::connect(&updates, &zuno::UpdateApp::failed, &window, &zuno::ZunoAnalyzer::tell);
+    updates.checkForUpdates();
     // Where no window manager maximises it, the window fills the screen all the same.
     window.resize(window.screen()->availableSize());
     window.showMaximized();

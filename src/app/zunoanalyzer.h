@@ -66,6 +66,8 @@ public Q_SLOTS:
     void goToSession(zuno::Session *sess);
     void openHelp();
     void openAbout();
+    /// Shows a message in the status bar for a while.
+    void tell(const QString &message);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -91,7 +93,6 @@ private:
     void onFileChanged(const QString &path);
     void showComparison(const Lap *first, const Lap *second);
     void onValidityChanged(Session *session);
-    void tell(const QString &message);
 
     std::unique_ptr<Ui::ZunoAnalyzer> m_ui;
     Settings m_settings;
