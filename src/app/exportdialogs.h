@@ -35,6 +35,7 @@ Q_SIGNALS:
 
 private:
     void writeText(const QString &path, const QByteArray &text);
+    void tellWritten(const QString &path, bool isWritten, const QString &error);
 
     QWidget *m_window;
 };
