@@ -189,6 +189,9 @@ void ZunoAnalyzer::connectParts()
     connect(m_tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
     connect(m_lapsView, &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
     connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
+    m_import = new SessionImport(m_library, m_settings, this);
+    connect(m_import, &SessionImport::finished, this,
+            [this](const ImportResult &result) { result.showIn(*statusBar()); });
     connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
     connect(m_mapView, &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
@@ -319,18 +322,8 @@ void ZunoAnalyzer::importSession()
     const QStringList files = QFileDialog::getOpenFileNames(
         this, tr("Select one or more session files to import"),
         session != nullptr ? session->filePath() : QString(), tr("RA1 Files (*.ra1)"));
-    if (files.isEmpty())
-        return;
-    importFiles(files);
-}
-
-void ZunoAnalyzer::importFiles(const QStringList &files)
-{
-    const ImportResult result = importSessions(files, m_settings.acquisitionFolder(), m_library);
-    tell(tr("Imported: %1, already there: %2, no session: %3")
-             .arg(result.imported)
-             .arg(result.skipped.size())
-             .arg(result.undecodable.size()));
+    if (!files.isEmpty())
+        m_import->start(files);
 }
 
 void ZunoAnalyzer::openFile(const QString &path)
@@ -347,10 +340,15 @@ void ZunoAnalyzer::openFile(const QString &path)
         tr("\"%1\" is not in your library. Do you want to import it?").arg(name));
     if (answer != QMessageBox::Yes)
         return;
-    importFiles({clean});
-    const QString imported = importedPath(m_settings.acquisitionFolder(), name);
-    if (m_library.find(imported) != nullptr)
-        m_tree->select(imported);
+    const QString imported = m_import->importedPath(name);
+    connect(
+        m_import, &SessionImport::finished, this,
+        [this, imported](const ImportResult &result) {
+            if (result.taken.isEmpty() && m_library.find(imported) != nullptr)
+                m_tree->select(imported);
+        },
+        Qt::SingleShotConnection);
+    m_import->start({clean});
 }
 
 void ZunoAnalyzer::openSettings()
@@ -511,8 +509,8 @@ QString ZunoAnalyzer::emptyState() const
 {
     const Session *session = m_display.session();
     if (m_library.size() == 0) {
-        return tr("There are no sessions yet.\n\nCopy the session files (.ra1) of your logger to\n"
-                  "%1")
+        return tr("There are no sessions yet.\n\nDrop the session files (.ra1) of your logger "
+                  "here, choose them with \"Import\" (Ctrl+I), or copy them to\n%1")
             .arg(QDir::toNativeSeparators(m_settings.acquisitionFolder()));
     }
     if (session == nullptr)

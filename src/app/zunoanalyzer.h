@@ -23,6 +23,7 @@ namespace zuno {
 class LapsView;
 class LibraryTree;
 class MapViewController;
+class SessionImport;
 class SessionInfos;
 class SessionsStats;
 
@@ -78,7 +79,6 @@ private:
     void createInfosPage();
     void createSplitters();
     void connectParts();
-    void importFiles(const QStringList &files);
     void openMapsFolder();
     void openAcquisitionFolder();
     void showSession(Session *session);
@@ -110,6 +110,7 @@ private:
     MapViewController *m_mapView = nullptr;
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
+    SessionImport *m_import = nullptr;
     std::array<QSplitter *, 4> m_splitters {};
 };
 
