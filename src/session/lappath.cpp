@@ -26,7 +26,7 @@ constexpr double MinimumSlowStep = 5.0;
 constexpr double SlowTime = 2000.0;
 
 // Metres before and behind a place over which its heading is taken, for the same reason.
-constexpr double HeadingReach = 6.0;
+constexpr double HeadingReach = 4.0;
 
 // Metres between places from which on, and so far apart, others are put between them.
 constexpr double LongStep = 7.0;
@@ -115,9 +115,12 @@ void head(LapPath &path)
     for (std::size_t i = 0; i < path.size(); ++i) {
         const PathNode &behind = path[headingEnd(path, i, false)];
         const PathNode &ahead = path[headingEnd(path, i, true)];
-        // Each side counts alike, however far its places are apart.
-        path[i].heading = direction(direction(ahead.place - path[i].place)
-                                    + direction(path[i].place - behind.place));
+        const PlaneVector in = path[i].place - behind.place;
+        const PlaneVector out = ahead.place - path[i].place;
+        // On a circle each chord is off by half its angle, so the shorter one counts more.
+        const double inWeight = out.length() > 0.0 ? out.length() : 1.0;
+        const double outWeight = in.length() > 0.0 ? in.length() : 1.0;
+        path[i].heading = direction((direction(in) * inWeight) + (direction(out) * outWeight));
     }
 }
 
