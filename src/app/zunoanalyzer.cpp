@@ -30,6 +30,7 @@
 #include <session/numbers.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
+#include <views/idealtimedialog.h>
 #include <views/lapsview.h>
 
 namespace zuno {
@@ -161,6 +162,7 @@ void ZunoAnalyzer::connectParts()
 {
     connect(m_tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
     connect(m_tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
+    connect(m_tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
     connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
@@ -391,6 +393,21 @@ void ZunoAnalyzer::openStatistics()
 void ZunoAnalyzer::goToSession(Session *sess)
 {
     m_tree->select(sess->filePath());
+}
+
+void ZunoAnalyzer::openIdealTime(const QList<Session *> &sessions)
+{
+    IdealTimeDialog dialog({m_maps.library(), m_settings}, sessions, this);
+    connect(&dialog, &IdealTimeDialog::lapRequested, this, &ZunoAnalyzer::goToLap);
+    dialog.exec();
+}
+
+void ZunoAnalyzer::goToLap(const QString &filePath, int lapNumber)
+{
+    m_tree->select(filePath);
+    const Session *session = m_display.session();
+    if (session != nullptr && session->filePath() == filePath)
+        m_selection.setCurrentLap(lapNumber - 1);
 }
 
 void ZunoAnalyzer::openHelp()

@@ -65,6 +65,8 @@ public Q_SLOTS:
     void openMaps();
     void openStatistics();
     void goToSession(zuno::Session *sess);
+    void openIdealTime(const QList<zuno::Session *> &sessions);
+    void goToLap(const QString &filePath, int lapNumber);
     void openHelp();
     void openAbout();
     /// Shows a message in the status bar for a while.

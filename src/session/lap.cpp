@@ -142,6 +142,7 @@ void Lap::computeSectors(const Trace &trace)
         sector.exit
             = stands ? m_points[i] : crossingPoint(m_points[i], m_points[next], gate->centre());
         sector.last = i;
+        sector.driven = m_distance;
         // A sector line at the very start of the lap: the crossing is all there is of the sector.
         if (i == 0)
             sector.entry = sector.exit;
@@ -171,6 +172,14 @@ qint32 Lap::sectorTime(int sector) const
     return found == nullptr
                ? -1
                : wrappedDifference(found->exit.dataTimeStamp, found->entry.dataTimeStamp);
+}
+
+std::optional<Lap::Passing> Lap::sectorEnd(int sector) const
+{
+    if (sector < 0 || sector >= crossedSectors())
+        return {};
+    const Sector &passed = m_sectors[static_cast<std::size_t>(sector)];
+    return Passing {passed.exit.dataTimeStamp, passed.driven};
 }
 
 Points Lap::sectorPoints(int sector) const

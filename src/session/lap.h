@@ -103,6 +103,16 @@ public:
     [[nodiscard]] Points sectorPoints(int sector) const;
     [[nodiscard]] bool isBestSector(int sector) const;
 
+    /// Where the lap passed a sector's line: the time stamp, and the metres from its first sample.
+    struct Passing
+    {
+        quint32 timeStamp = 0;
+        double distance = 0.0;
+    };
+    /// The passing of the line at the end of sector @p sector, also in the first lap of a
+    /// recording, whose first sector has no time; none when the lap did not get there.
+    [[nodiscard]] std::optional<Passing> sectorEnd(int sector) const;
+
 private:
     /// One sector: between two crossing points, the samples from first up to (not including) last.
     struct Sector
@@ -111,6 +121,8 @@ private:
         PointAcquisition exit;
         std::size_t first = 0;
         std::size_t last = 0;
+        // Metres from the lap's first sample to the exit's.
+        double driven = 0.0;
         bool hasTime = true;
     };
 

@@ -23,7 +23,7 @@ constexpr int CoolDown = 10;
 // The line is looked for within this many gate sizes of the start point.
 constexpr double LineReach = 2.0;
 
-// A lap is complete when its length differs from the map's by less than this part of it.
+// What once around may differ from the map's length, as a part of it.
 constexpr double LengthTolerance = 0.1;
 
 // Cuts one session; lives for one call of cutIntoLaps.
@@ -116,8 +116,7 @@ private:
         const QList<quint8> &invalid = m_session.information().invalidLaps;
         lap->setIsValid(std::find(invalid.begin(), invalid.end(), lap->lapNumber())
                         == invalid.end());
-        const double difference = std::fabs(lap->distance() - m_map.length());
-        lap->setIsComplete(lap->lapNumber() != 1 && difference < LengthTolerance * m_map.length());
+        lap->setIsComplete(lap->lapNumber() != 1 && isOnceAround(lap->distance(), m_map));
         return lap;
     }
 
@@ -192,6 +191,11 @@ LapResults::LapResults()
 {
     bestSectorTimes.fill(NoTime);
     bestSectorLaps.fill(-1);
+}
+
+bool isOnceAround(double distance, const Map &map)
+{
+    return std::fabs(distance - map.length()) < LengthTolerance * map.length();
 }
 
 LapResults cutIntoLaps(const Session &session)

@@ -37,6 +37,9 @@ struct LapResults
     std::array<qint32, MaximumSectors> bestSectorLaps {};
 };
 
+/// Whether @p distance metres are once around the circuit of @p map: within a tenth of its length.
+[[nodiscard]] bool isOnceAround(double distance, const Map &map);
+
 /// Cuts the samples of @p session into laps at its map's start/finish line, with all figures,
 /// marks and records. No laps without a usable map or without a pass over the line.
 [[nodiscard]] LapResults cutIntoLaps(const Session &session);
