@@ -26,8 +26,11 @@ constexpr int ColumnPadding = 16;
 // A name is no wider than this unless the rider widens the column, in characters.
 constexpr int NameWidth = 40;
 
+// So many sessions that are left out are named below the table, all of them in its tool tip.
+constexpr qsizetype NamedSessions = 5;
+
 // In characters and rows.
-constexpr int DialogWidth = 130;
+constexpr int DialogWidth = 170;
 constexpr int DialogHeight = 22;
 
 } // namespace
@@ -91,9 +94,7 @@ void IdealTimeDialog::step()
 
 void IdealTimeDialog::showResult()
 {
-    const QStringList leftOut = m_search.leftOut();
-    m_ui->lb_leftOut->setVisible(!leftOut.isEmpty());
-    m_ui->lb_leftOut->setText(tr("Left out:") + u'\n' + leftOut.join(u'\n'));
+    showLeftOut();
     m_ui->pb_close->setText(tr("Close"));
     const IdealTime idealTime = m_search.result();
     const bool hasTimes = idealTime.bestContinuousLap()
@@ -118,6 +119,18 @@ void IdealTimeDialog::showResult()
     m_ui->stack->setCurrentWidget(m_ui->tablePage);
     m_ui->tw_idealTime->selectRow(0);
     m_ui->tw_idealTime->setFocus();
+}
+
+void IdealTimeDialog::showLeftOut()
+{
+    QStringList lines = m_search.leftOut();
+    m_ui->lb_leftOut->setVisible(!lines.isEmpty());
+    m_ui->lb_leftOut->setToolTip(
+        lines.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    const qsizetype more = lines.size() - NamedSessions;
+    if (more > 0)
+        lines = lines.first(NamedSessions) << tr("and %1 more").arg(more);
+    m_ui->lb_leftOut->setText(tr("Left out:") + u'\n' + lines.join(u'\n'));
 }
 
 void IdealTimeDialog::fitColumns()

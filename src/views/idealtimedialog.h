@@ -37,6 +37,7 @@ private:
     void createActions();
     void step();
     void showResult();
+    void showLeftOut();
     void fitColumns();
     void showLap(const QModelIndex &index);
     void copyTable() const;

@@ -170,7 +170,7 @@ QVariant IdealTimeModel::data(const QModelIndex &index, int role) const
     case Qt::TextAlignmentRole: {
         const bool isText = index.column() == Section || index.column() == SessionName
                             || index.column() == Driver;
-        return QVariant((isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        return QVariant((isText ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter);
     }
     case Qt::FontRole: {
         QFont font;
