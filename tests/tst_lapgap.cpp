@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -19,279 +20,192 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Spot
-{
-    double north = 0.0;
-    double east = 0.0;
-};
-
-// A road of straights and arcs of a circle, by its middle.
+// A road, by its middle: straights of so many metres, and turns with the degrees to the right.
 class Road
 {
 public:
-    Road &straight(double metres) { return turn(metres, 0.0); }
-    Road &left(double radius, double degrees) { return arc(radius, -degrees); }
-    Road &right(double radius, double degrees) { return arc(radius, degrees); }
-
-    // Metres.
-    [[nodiscard]] double length() const { return 0.1 * static_cast<double>(m_spots.size() - 1); }
-
-    // So many metres along the road and to the right of its middle.
-    [[nodiscard]] Spot at(double along, double right) const
+    Road(const QString &stretches)
     {
-        const double last = static_cast<double>(m_spots.size() - 2);
-        const double index = std::clamp(along / 0.1, 0.0, last);
-        const auto i = static_cast<std::size_t>(index);
-        const double part = (along / 0.1) - static_cast<double>(i);
-        const double heading = std::lerp(m_headings[i], m_headings[i + 1], part);
-        return {
-            std::lerp(m_spots[i].north, m_spots[i + 1].north, part) - (right * std::sin(heading)),
-            std::lerp(m_spots[i].east, m_spots[i + 1].east, part) + (right * std::cos(heading))};
+        for (const QString &stretch : stretches.split(u' ')) {
+            const auto steps = static_cast<int>(stretch.section(u'/', 0, 0).toDouble() * 100.0);
+            const double turn = stretch.section(u'/', 1).toDouble() * std::numbers::pi / 180.0;
+            for (int i = 0; i < steps; ++i) {
+                const auto [north, east, heading] = m_spots.back();
+                m_spots.push_back({north + (0.01 * std::cos(heading)),
+                                   east + (0.01 * std::sin(heading)), heading + (turn / steps)});
+            }
+        }
+    }
+
+    [[nodiscard]] double length() const { return 0.01 * static_cast<double>(m_spots.size() - 1); }
+    // So many metres along the road and to the right of its middle.
+    [[nodiscard]] QGeoCoordinate at(double along, double right) const
+    {
+        const auto [north, east, heading] = m_spots[static_cast<std::size_t>(along * 100.0)];
+        return place(north - (right * std::sin(heading)), east + (right * std::cos(heading)));
     }
 
 private:
-    Road &arc(double radius, double degrees)
-    {
-        const double angle = degrees * std::numbers::pi / 180.0;
-        return turn(radius * std::fabs(angle), angle);
-    }
-
-    Road &turn(double metres, double angle)
-    {
-        const auto steps = static_cast<int>(std::round(metres / 0.1));
-        for (int i = 0; i < steps; ++i) {
-            m_heading += angle / (2.0 * steps);
-            m_spots.push_back({m_spots.back().north + (0.1 * std::cos(m_heading)),
-                               m_spots.back().east + (0.1 * std::sin(m_heading))});
-            m_heading += angle / (2.0 * steps);
-            m_headings.push_back(m_heading);
-        }
-        return *this;
-    }
-
-    std::vector<Spot> m_spots {{}};
-    std::vector<double> m_headings {0.0};
-    double m_heading = 0.0;
+    std::vector<std::array<double, 3>> m_spots {{0.0, 0.0, 0.0}}; // a hundred to a metre
 };
-
-Road circuit()
-{
-    return Road()
-        .straight(400)
-        .right(60, 180)
-        .straight(150)
-        .left(30, 90)
-        .right(30, 90)
-        .straight(190)
-        .right(60, 90)
-        .straight(60)
-        .right(60, 90);
-}
-
-// Legs twelve metres apart, in turns that the lines of two riders round differently.
-Road hairpin()
-{
-    return Road().straight(300).right(6, 180).straight(280).left(6, 180).straight(300);
-}
-
-Road figureOfEight()
-{
-    return Road().straight(200).right(50, 270).straight(200).left(50, 270).straight(60);
-}
-
-// Milliseconds at which a rider is so many metres along the road: at 18 to 34 m/s, and steadily
-// faster or slower by @p trend.
-double paceTime(double along, double trend)
-{
-    const double wave = along / 120.0;
-    return (1000.0 * along / 24.0) + (1500.0 * std::sin(wave)) + (trend * along * along / 1000.0);
-}
 
 struct Ride
 {
     double right = 0.0;
+    // How much slower the rider gets.
     double trend = 0.0;
-    double stretch = 1.0;
     // Milliseconds from sample to sample.
     int interval = 100;
-    // Samples without a position, by their time.
+    // Between these times the positions are missing.
     int lostFrom = 0;
     int lostTo = 0;
-    double length = 1e9;
+    // Metres at most.
+    double end = 1e9;
+
+    // Milliseconds at so many metres, at 18 to 34 m/s; and the other way around.
+    [[nodiscard]] double timeAt(double along) const
+    {
+        return (along / 0.024) + (1500.0 * std::sin(along / 120.0)) + (trend * along * along);
+    }
+    [[nodiscard]] double placeAt(double time) const
+    {
+        double low = 0.0;
+        for (double step = 2048.0; step > 1e-4; step /= 2.0)
+            low += timeAt(low + step) <= time ? step : 0.0;
+        return low;
+    }
 };
 
-Points rideOn(const Road &road, const Ride &ride)
+std::unique_ptr<Lap> lapOn(const Road &road, const Ride &ride, double stretch = 1.0)
 {
-    const double end = std::min(road.length() - 0.2, ride.length);
+    const double end = std::min(road.length(), ride.end);
     Points points;
-    double along = 0.0;
-    for (int time = 0;; time += ride.interval) {
-        const auto reached
-            = [&](double metres) { return ride.stretch * paceTime(metres, ride.trend) >= time; };
-        while (along < end && !reached(along))
-            along += 0.001;
-        const Spot spot = road.at(std::min(along, end), ride.right);
-        const QGeoCoordinate where = place(spot.north, spot.east);
+    for (double time = 0.0, along = 0.0; along < end; time += ride.interval) {
+        along = std::min(ride.placeAt(time), end);
         const bool lost = time >= ride.lostFrom && time < ride.lostTo;
+        const QGeoCoordinate where = road.at(along, ride.right);
         PointAcquisition point;
-        const double stamp = along < end ? time : ride.stretch * paceTime(end, ride.trend);
+        const double stamp = std::min(time, ride.timeAt(end)) * stretch;
         point.dataTimeStamp = 5000 + static_cast<quint32>(std::round(stamp));
         point.dataCoordX = lost ? NoFixCoordinate : where.longitude();
         point.dataCoordY = lost ? NoFixCoordinate : where.latitude();
         points.push_back(point);
-        if (along >= end)
-            return points;
     }
-}
-
-std::unique_ptr<Lap> lapOn(const Road &road, const Ride &ride)
-{
     static const Session session(u"/somewhere/Ride.ra1"_s);
     auto lap = std::make_unique<Lap>(session);
     lap->setLapNumber(2);
-    lap->setPoints(rideOn(road, ride));
-    lap->setIsComplete(ride.length > road.length());
+    lap->setPoints(points);
+    lap->setIsComplete(end < ride.end);
     return lap;
 }
 
-} // namespace
+double elapsed(const Lap &lap, std::size_t i)
+{
+    return lap.points()[i].dataTimeStamp - 5000.0;
+}
 
-Q_DECLARE_METATYPE(Road)
-Q_DECLARE_METATYPE(Ride)
+const Road Circuit(u"400 188.5/180 150 47.1/-90 47.1/90 190 94.2/90 60 94.2/90"_s);
+// Its legs are twelve metres apart, and two riders take its turns quite differently.
+const Road Hairpins(u"300 18.8/180 280 18.8/-180 300"_s);
+const Road Eight(u"200 235.6/270 200 235.6/-270 60"_s);
+
+} // namespace
 
 class TestLapGap : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void againstItself_data();
-    void againstItself();
-    void samePlace_data();
-    void samePlace();
-    void incompleteLaps();
+    void againstItself()
+    {
+        const std::unique_ptr<Lap> lap = lapOn(Circuit, {});
+        for (const double stretch : {1.0, 1.01}) {
+            const std::unique_ptr<Lap> slower = lapOn(Circuit, {}, stretch);
+            const LapGap gap(*slower, *lap);
+            QCOMPARE(gap.size(), lap->points().size());
+            for (std::size_t i = 0; i < gap.size(); ++i) {
+                QCOMPARE(gap.gap(i), elapsed(*slower, i) - elapsed(*lap, i));
+                QCOMPARE(gap.secondPoint(i), static_cast<double>(i));
+            }
+            QCOMPARE(gap.secondPointAt(250.0), 2.5);
+            QCOMPARE(gap.secondPointAt(1e9), static_cast<double>(gap.size() - 1));
+        }
+    }
+
+    void samePlace()
+    {
+        const Ride middle;
+        const Ride slower {-3.0, 0.0005};
+        const struct
+        {
+            QString name;
+            const Road &road;
+            Ride first;
+            Ride second;
+            double tolerance; // milliseconds
+        } rows[] = {
+            {u"outside"_s, Circuit, {-3.0}, middle, 20},
+            {u"inside"_s, Circuit, middle, {-3.0}, 20},
+            {u"slower"_s, Circuit, slower, middle, 20},
+            {u"25 Hz"_s, Circuit, {-3.0, 0.0005, 40}, middle, 20},
+            {u"1 Hz to 10 Hz"_s, Circuit, {-3.0, 0.0005, 1000}, middle, 20},
+            {u"10 Hz to 1 Hz"_s, Circuit, slower, {0.0, 0.0, 1000}, 60},
+            {u"first lost in the turn"_s, Circuit, {-3.0, 0.0005, 100, 17000, 24000}, middle, 60},
+            {u"second lost in the turn"_s, Circuit, slower, {0.0, 0.0, 100, 17000, 24000}, 60},
+            {u"eight"_s, Eight, slower, middle, 20},
+            {u"lost at the crossing"_s, Eight, slower, {0.0, 0.0, 100, 6000, 9000}, 60},
+            {u"hairpins"_s, Hairpins, slower, middle, 80},
+            {u"hairpins, lines crossing"_s, Hairpins, {3.0, 0.0005}, {-3.0}, 200},
+            {u"lost in a hairpin"_s, Hairpins, {-3.0, 0.0005, 100, 11000, 15000}, middle, 80},
+        };
+        for (const auto &row : rows) {
+            const std::unique_ptr<Lap> first = lapOn(row.road, row.first);
+            const std::unique_ptr<Lap> second = lapOn(row.road, row.second);
+            const LapGap gap(*first, *second);
+            for (std::size_t i = 0; i + 1 < gap.size(); ++i) {
+                const double time = elapsed(*first, i);
+                const double truth = time - row.second.timeAt(row.first.placeAt(time));
+                QVERIFY2(
+                    std::fabs(gap.gap(i) - truth) < row.tolerance,
+                    qPrintable(u"%1 at %2 ms: %3 ms"_s.arg(row.name).arg(time).arg(gap.gap(i))));
+            }
+            QCOMPARE(gap.gap(0), 0.0);
+            QCOMPARE(gap.gap(gap.size() - 1), double(first->lapTime() - second->lapTime()));
+        }
+        // A wider line is longer all the same.
+        QVERIFY(lapOn(Circuit, {-3.0})->distance() > lapOn(Circuit, middle)->distance() + 15.0);
+    }
+
+    // The first lap of a recording starts somewhere, the last ends somewhere.
+    void incompleteLaps()
+    {
+        const std::unique_ptr<Lap> lap = lapOn(Circuit, {});
+        const std::unique_ptr<Lap> ended = lapOn(Circuit, {2.0, 0.0, 100, 0, 0, 600.0});
+        const LapGap toEnded(*lap, *ended);
+        for (std::size_t i = 0; i < toEnded.size(); ++i) {
+            if (elapsed(*lap, i) < ended->lapTime() - 100.0)
+                QVERIFY(std::fabs(toEnded.gap(i)) < 20.0);
+            else if (elapsed(*lap, i) > ended->lapTime() + 100.0)
+                QVERIFY(std::isnan(toEnded.gap(i)) && std::isnan(toEnded.secondPoint(i)));
+        }
+        const LapGap fromEnded(*ended, *lap);
+        QVERIFY(std::fabs(fromEnded.gap(fromEnded.size() - 1)) < 20.0);
+
+        Points points = lapOn(Circuit, {2.0})->points();
+        points.erase(points.begin(), points.begin() + 150);
+        Lap outLap(lap->session());
+        outLap.setLapNumber(1);
+        outLap.setPoints(points);
+        outLap.setIsComplete(true); // and so ends at the line
+        const LapGap fromOutLap(outLap, *lap);
+        for (std::size_t i = 0; i < fromOutLap.size(); ++i)
+            QVERIFY(std::fabs(fromOutLap.gap(i) + 15000.0) < 20.0);
+
+        const Lap none(lap->session());
+        QVERIFY(LapGap(none, *lap).isEmpty());
+        QVERIFY(std::isnan(LapGap(*lap, none).gap(3)));
+    }
 };
-
-void TestLapGap::againstItself_data()
-{
-    QTest::addColumn<double>("stretch");
-    QTest::newRow("the same") << 1.0;
-    QTest::newRow("one per cent slower") << 1.01;
-}
-
-void TestLapGap::againstItself()
-{
-    QFETCH(double, stretch);
-    const std::unique_ptr<Lap> lap = lapOn(circuit(), {});
-    Points points = lap->points();
-    for (PointAcquisition &point : points)
-        point.dataTimeStamp
-            = 5000 + static_cast<quint32>(std::round((point.dataTimeStamp - 5000.0) * stretch));
-    Lap slower(lap->session());
-    slower.setLapNumber(3);
-    slower.setPoints(points);
-    slower.setIsComplete(true);
-    const LapGap gap(slower, *lap);
-    QCOMPARE(gap.size(), points.size());
-    for (std::size_t i = 0; i < gap.size(); ++i) {
-        const double time = points[i].dataTimeStamp - 5000.0;
-        QVERIFY(std::fabs(gap.gap(i) - (time * (1.0 - (1.0 / stretch)))) < 1.0);
-        QVERIFY(std::fabs(gap.secondPoint(i) - static_cast<double>(i)) < 1e-6);
-    }
-    QCOMPARE(gap.secondPointAt(250.0), 2.5);
-    QCOMPARE(gap.secondPointAt(1e9), static_cast<double>(points.size() - 1));
-}
-
-void TestLapGap::samePlace_data()
-{
-    QTest::addColumn<Road>("road");
-    QTest::addColumn<Ride>("first");
-    QTest::addColumn<Ride>("second");
-    QTest::addColumn<double>("tolerance"); // milliseconds
-    const Ride middle;
-    const Ride outside {-3.0};
-    const Ride slower {-3.0, 0.5};
-    QTest::newRow("outside, the same pace") << circuit() << outside << middle << 20.0;
-    QTest::newRow("inside, the same pace") << circuit() << middle << outside << 20.0;
-    QTest::newRow("outside, slower") << circuit() << slower << middle << 20.0;
-    QTest::newRow("25 Hz against 10 Hz")
-        << circuit() << Ride {-3.0, 0.5, 1.0, 40} << middle << 20.0;
-    QTest::newRow("1 Hz against 10 Hz")
-        << circuit() << Ride {-3.0, 0.5, 1.0, 1000} << middle << 20.0;
-    QTest::newRow("10 Hz against 1 Hz")
-        << circuit() << slower << Ride {0.0, 0.0, 1.0, 1000} << 120.0;
-    QTest::newRow("first without positions in the turn")
-        << circuit() << Ride {-3.0, 0.5, 1.0, 100, 17000, 24000} << middle << 60.0;
-    QTest::newRow("second without positions in the turn")
-        << circuit() << slower << Ride {0.0, 0.0, 1.0, 100, 17000, 24000} << 60.0;
-    QTest::newRow("figure-of-eight") << figureOfEight() << slower << middle << 20.0;
-    QTest::newRow("figure-of-eight, no positions at the crossing")
-        << figureOfEight() << slower << Ride {0.0, 0.0, 1.0, 100, 3000, 6000} << 60.0;
-    QTest::newRow("hairpin") << hairpin() << slower << middle << 80.0;
-    QTest::newRow("hairpin, lines crossing over")
-        << hairpin() << Ride {3.0, 0.5} << Ride {-3.0} << 200.0;
-    QTest::newRow("hairpin, no positions in it")
-        << hairpin() << Ride {-3.0, 0.5, 1.0, 100, 11000, 15000} << middle << 60.0;
-}
-
-void TestLapGap::samePlace()
-{
-    QFETCH(Road, road);
-    QFETCH(Ride, first);
-    QFETCH(Ride, second);
-    QFETCH(double, tolerance);
-    const std::unique_ptr<Lap> lap1 = lapOn(road, first);
-    const std::unique_ptr<Lap> lap2 = lapOn(road, second);
-    // The wider line of a lap around a circuit is 19 metres longer.
-    if (QByteArray(QTest::currentDataTag()).startsWith("outside"))
-        QVERIFY(lap1->distance() - lap2->distance() > 15.0);
-    const LapGap gap(*lap1, *lap2);
-    double along = 0.0;
-    for (std::size_t i = 0; i + 1 < gap.size(); ++i) {
-        const double time = lap1->points()[i].dataTimeStamp - 5000.0;
-        while (first.stretch * paceTime(along, first.trend) < time)
-            along += 0.001;
-        const double truth = time - (second.stretch * paceTime(along, second.trend));
-        QVERIFY2(!std::isnan(gap.gap(i)), qPrintable(u"%1 m"_s.arg(along)));
-        QVERIFY2(std::fabs(gap.gap(i) - truth) < tolerance,
-                 qPrintable(u"%1 ms for %2 ms at %3 m"_s.arg(gap.gap(i)).arg(truth).arg(along)));
-    }
-    QCOMPARE(gap.gap(0), 0.0);
-    QCOMPARE(gap.gap(gap.size() - 1), static_cast<double>(lap1->lapTime() - lap2->lapTime()));
-}
-
-// The first lap of a recording starts somewhere, the last ends somewhere.
-void TestLapGap::incompleteLaps()
-{
-    const std::unique_ptr<Lap> lap = lapOn(circuit(), {});
-    const std::unique_ptr<Lap> ended = lapOn(circuit(), {2.0, 0.0, 1.0, 100, 0, 0, 600.0});
-    const LapGap toEnded(*lap, *ended);
-    const LapGap fromEnded(*ended, *lap);
-    std::size_t met = 0;
-    for (std::size_t i = 0; i < toEnded.size(); ++i) {
-        const bool there = !std::isnan(toEnded.gap(i));
-        met += there ? 1 : 0;
-        QCOMPARE(there, i < met);
-        QVERIFY(!there || std::fabs(toEnded.gap(i)) < 20.0);
-    }
-    QVERIFY(met + 3 >= ended->points().size() && met <= ended->points().size());
-    QVERIFY(std::fabs(fromEnded.gap(fromEnded.size() - 1)) < 20.0);
-
-    Points points = rideOn(circuit(), {2.0});
-    points.erase(points.begin(), points.begin() + 150);
-    Lap outLap(lap->session());
-    outLap.setLapNumber(1);
-    outLap.setPoints(points);
-    outLap.setIsComplete(true); // and so ends at the line
-    const LapGap fromOutLap(outLap, *lap);
-    for (std::size_t i = 0; i < fromOutLap.size(); ++i)
-        QVERIFY(std::fabs(fromOutLap.gap(i) + 15000.0) < 20.0);
-    QCOMPARE(fromOutLap.gap(points.size() - 1), outLap.lapTime() - double(lap->lapTime()));
-
-    QVERIFY(LapGap().isEmpty());
-    const LapGap withoutPoints(Lap(lap->session()), *lap);
-    QVERIFY(withoutPoints.isEmpty());
-    QVERIFY(std::isnan(LapGap(*lap, Lap(lap->session())).gap(3)));
-}
 
 QTEST_GUILESS_MAIN(TestLapGap)
 #include "tst_lapgap.moc"
