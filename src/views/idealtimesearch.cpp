@@ -42,11 +42,13 @@ void IdealTimeSearch::step()
     ++m_handled;
     if (session.isNull()) {
         leaveOut(name, tr("it has been removed"));
-    } else if (session->map() != nullptr) {
-        add(*session, true);
-    } else if (const std::unique_ptr<Session> copy = cutCopy(*session)) {
-        add(*copy, false);
+        return;
     }
+    const bool isDisplayed = session->map() != nullptr;
+    if (isDisplayed && !session->laps().empty())
+        add(*session, isDisplayed);
+    else if (const std::unique_ptr<Session> copy = cutCopy(*session))
+        add(*copy, isDisplayed);
 }
 
 void IdealTimeSearch::leaveOut(const QString &session, const QString &reason)
@@ -61,13 +63,24 @@ std::unique_ptr<Session> IdealTimeSearch::cutCopy(const Session &session)
         leaveOut(nameOf(session), describe(opened.error));
         return {};
     }
-    opened.session->smooth();
+    Session &copy = *opened.session;
+    copy.setInformation(session.information());
+    copy.smooth();
+    if (session.map() != nullptr)
+        copy.setMap(session.map());
+    else
+        chooseMap(copy);
+    return std::move(opened.session);
+}
+
+void IdealTimeSearch::chooseMap(Session &session) const
+{
     const QString choice = m_parts.settings.mapChoice(session.fileName());
     const Map *stored = choice.isNull() ? nullptr : m_parts.maps.find(choice);
-    chooseMapByLength(*opened.session, stored != nullptr
-                                           ? QList<const Map *> {stored}
-                                           : findCandidates(*opened.session, m_parts.maps.maps()));
-    return std::move(opened.session);
+    const QList<const Map *> candidates = stored != nullptr
+                                              ? QList<const Map *> {stored}
+                                              : findCandidates(session, m_parts.maps.maps());
+    chooseMapByLength(session, candidates);
 }
 
 void IdealTimeSearch::add(const Session &session, bool isDisplayed)

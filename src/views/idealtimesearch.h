@@ -19,8 +19,8 @@ class Settings;
 
 /// Gathers the ideal time over sessions, one session a step, so that a window stays alive.
 ///
-/// A session that was displayed before is taken as it is. Of any other a copy is read from its
-/// file, smoothed and cut, and thrown away again: the session stays new and undisplayed, and
+/// A session that has its laps is taken as it is. Of any other a copy is read from its file,
+/// smoothed, cut, and thrown away again: the session stays as new and undisplayed as it was, and
 /// nothing is written.
 class IdealTimeSearch final
 {
@@ -65,6 +65,7 @@ private:
 
     void leaveOut(const QString &session, const QString &reason);
     [[nodiscard]] std::unique_ptr<Session> cutCopy(const Session &session);
+    void chooseMap(Session &session) const;
     void add(const Session &session, bool isDisplayed);
     [[nodiscard]] const Group *chosen() const;
 
