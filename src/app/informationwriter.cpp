@@ -18,18 +18,24 @@ QString reasonOf(const RewriteResult &result)
 
 } // namespace
 
-RewriteResult InformationWriter::write(const Session &session)
+RewriteResult InformationWriter::write(const Session &session, Cause cause)
 {
     RewriteResult result = rewriteSessionFile(session);
+    const QString &path = session.filePath();
     if (result.ok()) {
-        m_told = false;
+        m_told.clear();
         Q_EMIT written(session);
-    } else if (!m_told) {
-        m_told = true;
+    } else if (!isTold(path, cause)) {
+        m_told.insert(path);
         Q_EMIT failed(tr("%1 was not changed: %2. Changes are kept until the program ends.")
                           .arg(session.fileName(), reasonOf(result)));
     }
     return result;
+}
+
+bool InformationWriter::isTold(const QString &path, Cause cause) const
+{
+    return cause == Cause::Edited ? m_told.contains(path) : !m_told.isEmpty();
 }
 
 } // namespace zuno

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QObject>
+#include <QSet>
 #include <QString>
 
 #include <session/sessionrewrite.h>
@@ -19,18 +20,28 @@ class InformationWriter : public QObject
     Q_OBJECT
 
 public:
+    enum class Cause {
+        /// The rider looks at the session; only the first failure of any file is told.
+        Shown,
+        /// The rider has changed the session; the first failure of each file is told.
+        Edited,
+    };
+
     using QObject::QObject;
 
     /// Rewrites the information block of the session's file.
-    RewriteResult write(const Session &session);
+    RewriteResult write(const Session &session, Cause cause = Cause::Shown);
 
 Q_SIGNALS:
     void written(const zuno::Session &session);
-    /// The first failure after a success; @p message is for the rider.
+    /// A failure that was not told since a file was last written; @p message is for the rider.
     void failed(const QString &message);
 
 private:
-    bool m_told = false;
+    [[nodiscard]] bool isTold(const QString &path, Cause cause) const;
+
+    // The files whose failure was told since a file was last written.
+    QSet<QString> m_told;
 };
 
 } // namespace zuno

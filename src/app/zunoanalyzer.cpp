@@ -118,11 +118,11 @@ void ZunoAnalyzer::createActions()
 
 void ZunoAnalyzer::createInfosPage()
 {
-    m_infos = new SessionInfos({m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires,
-                                m_ui->cb_weather, m_ui->sb_trackTemp, m_ui->te_infos, m_ui->lb_date,
-                                m_ui->lb_circuit, m_ui->lb_bestLap, m_ui->lb_idealTime_2,
-                                m_ui->tabWidget},
-                               m_writer, this);
+    m_infos = new SessionInfos(
+        {m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires, m_ui->cb_weather,
+         m_ui->sb_trackTemp, m_ui->l_degrees, m_ui->te_infos, m_ui->lb_notesCount, m_ui->lb_hint,
+         m_ui->lb_date, m_ui->lb_circuit, m_ui->lb_bestLap, m_ui->lb_idealTime_2, m_ui->tabWidget},
+        m_writer, this);
     m_ui->webSite->setText(webSiteLink(m_language));
     m_ui->mail->setText(mailLink());
 }
@@ -586,7 +586,7 @@ void ZunoAnalyzer::onValidityChanged(Session *session)
     showLabels(session);
     showSectors(session);
     m_infos->showSession(session);
-    m_writer.write(*session);
+    m_writer.write(*session, InformationWriter::Cause::Edited);
 }
 
 void ZunoAnalyzer::tell(const QString &message)

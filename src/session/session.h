@@ -23,6 +23,10 @@ class Map;
 /// What a rider can say about a session; the information block at the end of its file.
 struct SessionInformation
 {
+    /// What the loggers store when they know no temperature.
+    static constexpr qint32 UnknownTemperature = 99;
+    static constexpr qint32 MaximumTemperature = 255;
+
     StoredText circuitName;
     StoredText event;
     StoredText driver;

@@ -9,8 +9,6 @@ namespace zuno {
 
 namespace {
 
-constexpr qsizetype MaximumLength = 255;
-
 // Letters that have a plain form, but no decomposition that would lead to it.
 QString plainLetter(QChar letter)
 {
@@ -68,7 +66,7 @@ void StoredText::set(const QString &text)
 
 QByteArray StoredText::encoded() const
 {
-    const QString text = m_text.left(MaximumLength);
+    const QString text = m_text.left(MaximumTextLength);
     const QByteArray bytes = m_fromFile ? m_bytes : text.toLocal8Bit();
     const qsizetype length = m_fromFile ? m_bytes.size() : text.size();
     QByteArray block;
@@ -89,7 +87,7 @@ QString storableText(const QString &text)
         if (letter.unicode() < 0x80)
             stored += letter;
     }
-    return stored.left(MaximumLength);
+    return stored.left(MaximumTextLength);
 }
 
 } // namespace zuno

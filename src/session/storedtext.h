@@ -8,6 +8,9 @@
 
 namespace zuno {
 
+/// Characters that a text of the information block has at most: a byte counts them.
+constexpr qsizetype MaximumTextLength = 255;
+
 /// A text of the information block, with what the file holds for it.
 ///
 /// The block counts a text's characters but stores its bytes, so a text with letters outside

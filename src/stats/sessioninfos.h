@@ -3,12 +3,13 @@
 
 #pragma once
 
-#include <optional>
-
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
+
+#include <stats/storableedit.h>
 
 class QComboBox;
 class QLabel;
@@ -38,7 +39,10 @@ public:
         QLineEdit *tyres;
         QComboBox *condition;
         QSpinBox *temperature;
+        QLabel *degrees;
         QTextEdit *notes;
+        QLabel *notesCount;
+        QLabel *hint;
         QLabel *date;
         QLabel *circuit;
         QLabel *bestLap;
@@ -48,23 +52,41 @@ public:
 
     SessionInfos(const Form &form, InformationWriter &writer, QObject *parent = nullptr);
 
-    /// Fills the page from @p session; nullptr empties and disables it.
+    /// Fills the page from @p session; nullptr empties and disables it. What the rider is typing
+    /// for that very session stays.
     void showSession(Session *session);
-    /// Copies the page into the session and writes the session's file.
+    /// Copies the page into the session and writes the session's file. Emptied tyres and notes
+    /// leave what the session has.
     void save();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    /// The rider has described the session anew, whether its file could be written or not.
+    void saved();
+
 private:
+    void connectEdits();
+    void onNotesChanged();
+    void onTabChanged(int index);
+    void showHint(const QString &hint);
+    void showCount();
     void fillEdits();
+    template<typename Edit>
+    void fill(Edit *edit, const QString &text);
+    void fillTemperature(int degrees);
     void fillLabels();
-    /// Remembers the texts as they stand, which are those of the session.
-    void noteTexts();
-    void setEnabled(bool enabled);
-    /// The text of an edit when it is another than the page was filled with.
-    [[nodiscard]] std::optional<QString> typed(const QWidget *edit, const QString &text) const;
+    void storeEvent();
+    void storeTexts();
+    [[nodiscard]] QHash<const QWidget *, QString> texts() const;
+    [[nodiscard]] bool isTyped(const QWidget *edit) const;
 
     Form m_form;
     InformationWriter &m_writer;
+    StorableEdits m_storable;
+    QTimer m_hintTime;
     QPointer<Session> m_session;
+    // What the edits showed when the page was filled or last saved.
     QHash<const QWidget *, QString> m_filled;
     bool m_isFilling = false;
 };

@@ -16,13 +16,10 @@ namespace zuno {
 
 namespace {
 
-// What the loggers store when they know no temperature.
-constexpr qint32 UnknownTemperature = 99;
-
 QString temperatureText(const Session &session)
 {
     const qint32 degrees = session.temperature();
-    return degrees == UnknownTemperature ? QString() : QString::number(degrees);
+    return degrees == SessionInformation::UnknownTemperature ? QString() : QString::number(degrees);
 }
 
 QString text(const Session &session, int column)
@@ -165,7 +162,9 @@ Value valueOf(const Session &session, int column)
     case SessionsStatsTableModel::IdealTime:
         return idealTimeOf(session);
     default:
-        return session.temperature() == UnknownTemperature ? Value() : session.temperature();
+        return session.temperature() == SessionInformation::UnknownTemperature
+                   ? Value()
+                   : session.temperature();
     }
 }
 
