@@ -382,6 +382,9 @@ void ZunoAnalyzer::openStatistics()
         connect(m_statistics, &SessionsStats::goToSession, this, &ZunoAnalyzer::goToSession);
         connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_statistics,
                 [this] { m_statistics->setSessions(m_library.sessions()); });
+        connect(m_infos, &SessionInfos::saved, m_statistics, &SessionsStats::refreshSoon);
+        connect(m_lapsView, &LapsView::validityChanged, m_statistics, &SessionsStats::refreshSoon);
+        connect(&m_display, &SessionDisplay::mapApplied, m_statistics, &SessionsStats::refreshSoon);
     } else {
         m_statistics->setSessions(m_library.sessions());
     }

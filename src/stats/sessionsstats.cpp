@@ -9,6 +9,8 @@
 #include <QHelpEvent>
 #include <QIcon>
 #include <QKeyEvent>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <QTextDocument>
@@ -39,6 +41,8 @@ constexpr std::array Filters {
     Filter {&Ui::SessionsStats::cb_weather, SessionFilter::Field::Condition},
 };
 
+// Filling the filters anew at every key would be felt while typing.
+constexpr int RefreshTime = 200;
 // Above and below the text of a row together, pixels.
 constexpr int RowPadding = 8;
 // Left and right of the text of a cell together, pixels.
@@ -105,10 +109,14 @@ SessionsStats::SessionsStats(const QList<Session *> &sessions, QWidget *parent)
     setUpFilters();
     connect(m_ui->pb_reset, &QPushButton::clicked, this, &SessionsStats::resetFilters);
     connect(m_ui->pb_close, &QPushButton::clicked, this, &QDialog::close);
+    m_refreshTime.setSingleShot(true);
+    m_refreshTime.setInterval(RefreshTime);
+    connect(&m_refreshTime, &QTimer::timeout, this, &SessionsStats::refresh);
     takeSessions(sessions);
     fillFilters();
     resetFilters();
     fitColumns();
+    fitWindow();
     setModal(true);
 }
 
@@ -220,6 +228,19 @@ void SessionsStats::fitColumns()
     m_ui->tw_stats->resizeColumnsToContents();
 }
 
+// As wide as the table where the screen is.
+void SessionsStats::fitWindow()
+{
+    constexpr int BesideWindow = 40;
+    const QTableView &table = *m_ui->tw_stats;
+    const QMargins margins = layout()->contentsMargins();
+    const int wanted = table.horizontalHeader()->length() + (2 * table.frameWidth())
+                       + table.verticalScrollBar()->sizeHint().width() + margins.left()
+                       + margins.right();
+    const int widest = screen()->availableGeometry().width() - BesideWindow;
+    resize(std::max(width(), std::min(wanted, widest)), height());
+}
+
 Session *SessionsStats::currentSession() const
 {
     const QModelIndex index = m_ui->tw_stats->currentIndex();
@@ -240,6 +261,13 @@ void SessionsStats::onGoToSession(const QModelIndex &index)
         return;
     if (Session *const session = m_model->session(m_sorted->mapToSource(index).row()))
         Q_EMIT goToSession(session);
+}
+
+// Whoever shows the window again sets the list anew.
+void SessionsStats::refreshSoon()
+{
+    if (isVisible())
+        m_refreshTime.start();
 }
 
 // While another window was in front, the rider may have described a session or thrown out a lap.

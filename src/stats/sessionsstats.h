@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QList>
+#include <QTimer>
 
 class QModelIndex;
 
@@ -42,6 +43,8 @@ Q_SIGNALS:
 public Q_SLOTS:
     /// Asks for the session of a row of the table.
     void onGoToSession(const QModelIndex &index);
+    /// Shows what has changed in the sessions, once the rider stops typing.
+    void refreshSoon();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -58,11 +61,13 @@ private:
     void refresh();
     void showCount();
     void fitColumns();
+    void fitWindow();
     [[nodiscard]] Session *currentSession() const;
     void selectSession(const Session *session);
 
     std::unique_ptr<Ui::SessionsStats> m_ui;
     QList<Session *> m_sessions;
+    QTimer m_refreshTime;
     SessionsStatsTableModel *m_model;
     SessionsSortModel *m_sorted;
 };
