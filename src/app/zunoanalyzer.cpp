@@ -25,13 +25,11 @@
 #include <maps/map.h>
 #include <maps/mapswidget.h>
 #include <maps/mapviewcontroller.h>
-#include <session/gpsquality.h>
-#include <session/laptimes.h>
-#include <session/numbers.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
 #include <views/idealtimedialog.h>
 #include <views/lapsview.h>
+#include <views/sessionsummary.h>
 
 namespace zuno {
 
@@ -52,16 +50,6 @@ constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitte
 
 constexpr int MessageTime = 10000;
 
-// Why laps may be missing; empty when the recording says everywhere where it was made.
-QString gpsText(const Session &session)
-{
-    const qint64 count = gpsQuality(session.wholeSamples()).total();
-    if (count == 0)
-        return {};
-    return count == 1 ? ZunoAnalyzer::tr("1 sample without GPS")
-                      : ZunoAnalyzer::tr("%1 samples without GPS").arg(QLocale().toString(count));
-}
-
 } // namespace
 
 ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
@@ -76,13 +64,16 @@ ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
     m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
     m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
     m_ui->tw_arbo->installEventFilter(this);
+    m_summary = std::make_unique<SessionSummary>(SessionSummary::Widgets {
+        m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap, m_ui->lb_idealTime,
+        m_ui->lb_traveledDistance, m_ui->lb_firstLapSelected, m_ui->tableWidget, m_ui->tw_tours});
     m_mapView = new MapViewController(this);
     m_mapView->init(this, m_ui->webview_layout);
     createActions();
     createInfosPage();
     connectParts();
     showNothing();
-    showFirstLap();
+    m_summary->showFirstLap(m_selection.firstLap());
     openMapsFolder();
     createSplitters();
     openAcquisitionFolder();
@@ -183,7 +174,8 @@ void ZunoAnalyzer::connectParts()
                       .arg(QFileInfo(path).fileName()));
     });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
-    connect(&m_selection, &LapSelection::firstLapChanged, this, &ZunoAnalyzer::showFirstLap);
+    connect(&m_selection, &LapSelection::firstLapChanged, this,
+            [this] { m_summary->showFirstLap(m_selection.firstLap()); });
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
             [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);
@@ -437,76 +429,14 @@ void ZunoAnalyzer::showSession(Session *session)
     m_mapView->centerMap(session->map());
     m_selection.setSession(session);
     m_lapsView->showLaps();
-    showLabels(session);
-    showSectors(session);
+    m_summary->showSession(session);
     m_infos->showSession(session);
-    showFirstLap();
+    m_summary->showFirstLap(m_selection.firstLap());
     const bool hasLaps = !session->laps().empty();
     if (hasLaps)
         m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
     else
         showState(emptyState());
-}
-
-void ZunoAnalyzer::showLabels(const Session *session)
-{
-    const Map *map = session != nullptr ? session->map() : nullptr;
-    const bool hasMap = map != nullptr;
-    m_ui->lb_mapSelected->setVisible(hasMap);
-    m_ui->lb_mapLength->setVisible(hasMap);
-    m_ui->lb_idealTime->setVisible(hasMap);
-    m_ui->lb_traveledDistance->setVisible(hasMap);
-    m_ui->lb_errorMap->setVisible(session != nullptr && !hasMap);
-    m_ui->lb_errorMap->setText(
-        tr("No map found, please try to select one from the Map configuraton panel"));
-    if (session == nullptr || !hasMap)
-        return;
-    m_ui->lb_mapSelected->setText(tr("Map : %1").arg(map->displayName()));
-    m_ui->lb_mapLength->setText(
-        tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
-    m_ui->lb_idealTime->setText(tr("Ideal Time : %1").arg(session->idealTimeText()));
-    const QString distance
-        = tr("Traveled distance : %1 m").arg(QLocale().toString(session->results().distance));
-    const QString gps = gpsText(*session);
-    m_ui->lb_traveledDistance->setText(gps.isEmpty() ? distance : distance + u"   (" + gps + u')');
-}
-
-// The best time of each section, and the lap that holds it.
-void ZunoAnalyzer::showSectors(const Session *session)
-{
-    QTableWidget *table = m_ui->tableWidget;
-    table->clear();
-    if (session == nullptr || session->map() == nullptr || session->laps().empty()) {
-        table->hide();
-        return;
-    }
-    const int sectors = session->map()->sectorCount();
-    table->setVisible(sectors > 0);
-    table->setRowCount(sectors);
-    table->setColumnCount(3);
-    table->setHorizontalHeaderLabels({tr("Section"), tr("Best time"), tr("Lap")});
-    table->verticalHeader()->hide();
-    for (int sector = 0; sector < sectors; ++sector) {
-        const auto s = static_cast<std::size_t>(sector);
-        const qint32 lap = session->results().bestSectorLaps[s];
-        const QStringList texts {
-            QString::number(sector + 1),
-            lap < 0 ? QString() : timeText(session->results().bestSectorTimes[s]),
-            lap < 0 ? QString() : QString::number(lap + 1),
-        };
-        for (int column = 0; column < texts.size(); ++column) {
-            auto *item = new QTableWidgetItem(texts[column]);
-            item->setTextAlignment(Qt::AlignCenter);
-            table->setItem(sector, column, item);
-        }
-    }
-    table->horizontalHeader()->ensurePolished();
-    table->resizeColumnsToContents();
-    table->verticalHeader()->setDefaultSectionSize(
-        m_ui->tw_tours->verticalHeader()->defaultSectionSize());
-    const int height = table->horizontalHeader()->sizeHint().height()
-                       + table->verticalHeader()->length() + (2 * table->frameWidth());
-    table->setFixedHeight(height);
 }
 
 void ZunoAnalyzer::showState(const QString &text)
@@ -519,58 +449,21 @@ void ZunoAnalyzer::showNothing()
 {
     m_selection.setSession(nullptr);
     m_lapsView->showLaps();
-    showLabels(nullptr);
-    showSectors(nullptr);
+    m_summary->showSession(nullptr);
     m_infos->showSession(nullptr);
     showState(emptyState());
 }
 
 QString ZunoAnalyzer::emptyState() const
 {
-    const Session *session = m_display.session();
     if (m_library.size() == 0) {
         return tr("There are no sessions yet.\n\nDrop the session files (.ra1) of your logger "
                   "here, choose them with \"Import\" (Ctrl+I), or copy them to\n%1")
             .arg(QDir::toNativeSeparators(m_settings.acquisitionFolder()));
     }
-    if (session == nullptr)
+    if (m_display.session() == nullptr)
         return tr("Select a session in the list on the left to see its laps.");
-    const QString gps = gpsText(*session);
-    return gps.isEmpty() ? lapless(*session) : lapless(*session) + u"\n\n" + gps + u'.';
-}
-
-QString ZunoAnalyzer::lapless(const Session &session) const
-{
-    const Map *map = session.map();
-    if (map == nullptr) {
-        return tr("No map is known for the place where this session was recorded, so it cannot be "
-                  "cut into laps.\n\nChoose a map with \"Maps\" (Ctrl+M), or copy the circuit's "
-                  "map file to\n%1")
-            .arg(QDir::toNativeSeparators(m_settings.mapsFolder()));
-    }
-    if (!map->isUsable()) {
-        return tr("The map \"%1\" has no start point, so laps cannot be cut.\n\nChoose another map "
-                  "with \"Maps\" (Ctrl+M).")
-            .arg(map->displayName());
-    }
-    return tr("This session never passes the start/finish line of the map \"%1\".\n\nIf it was "
-              "ridden on another circuit, choose its map with \"Maps\" (Ctrl+M).")
-        .arg(map->displayName());
-}
-
-void ZunoAnalyzer::showFirstLap()
-{
-    const Lap *lap = m_selection.firstLap();
-    m_ui->lb_firstLapSelected->setVisible(lap != nullptr);
-    if (lap == nullptr)
-        return;
-    const Map *map = lap->session().map();
-    m_ui->lb_firstLapSelected->setText(
-        tr("Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time "
-           ": %4 --- max speed : %5 km/h")
-            .arg(map != nullptr ? map->displayName() : QString(), lap->session().fileName(),
-                 QString::number(lap->lapNumber()), lap->timeText(),
-                 QString::number(lap->maxSpeed())));
+    return SessionSummary::laplessText(*m_display.session(), m_settings.mapsFolder());
 }
 
 void ZunoAnalyzer::showComparison(const Lap *first, const Lap *second)
@@ -586,8 +479,7 @@ void ZunoAnalyzer::showComparison(const Lap *first, const Lap *second)
 
 void ZunoAnalyzer::onValidityChanged(Session *session)
 {
-    showLabels(session);
-    showSectors(session);
+    m_summary->showSession(session);
     m_infos->showSession(session);
     m_writer.write(*session, InformationWriter::Cause::Edited);
 }

@@ -25,6 +25,7 @@ class LibraryTree;
 class MapViewController;
 class SessionImport;
 class SessionInfos;
+class SessionSummary;
 class SessionsStats;
 
 namespace Ui {
@@ -84,14 +85,10 @@ private:
     void openMapsFolder();
     void openAcquisitionFolder();
     void showSession(Session *session);
-    void showLabels(const Session *session);
-    void showSectors(const Session *session);
     void showState(const QString &text);
     void showNothing();
-    void showFirstLap();
     void showLapOnMap();
     [[nodiscard]] QString emptyState() const;
-    [[nodiscard]] QString lapless(const Session &session) const;
     void onFileChanged(const QString &path);
     void showComparison(const Lap *first, const Lap *second);
     void onValidityChanged(Session *session);
@@ -107,6 +104,7 @@ private:
     InformationWriter m_writer;
     LapSelection m_selection;
     SessionDisplay m_display;
+    std::unique_ptr<SessionSummary> m_summary;
     LapsView *m_lapsView = nullptr;
     LibraryTree *m_tree = nullptr;
     MapViewController *m_mapView = nullptr;
