@@ -154,8 +154,13 @@ void LibraryTree::connectModel()
         if (m_view.selectionModel()->hasSelection())
             Q_EMIT currentChanged();
     });
-    connect(m_model.get(), &QFileSystemModel::directoryLoaded, this,
-            &LibraryTree::restoreSelection);
+    connect(m_model.get(), &QFileSystemModel::directoryLoaded, this, [this](const QString &folder) {
+        restoreSelection();
+        // Only now it is known where in its folder a file stands.
+        if (!m_wanted.isEmpty() && m_wanted == currentPath()
+            && folder == QFileInfo(m_wanted).absolutePath())
+            m_view.scrollTo(m_view.currentIndex());
+    });
     connect(m_model.get(), &QFileSystemModel::dataChanged, this,
             [this](const QModelIndex &topLeft, const QModelIndex &bottomRight) {
                 for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
@@ -186,9 +191,9 @@ bool LibraryTree::isCurrentFile() const
 
 void LibraryTree::select(const QString &path)
 {
-    const QModelIndex index = m_model->index(path);
     selectOnly(path);
-    m_view.scrollTo(index);
+    m_wanted = path;
+    m_view.scrollTo(m_model->index(path));
 }
 
 void LibraryTree::selectOnly(const QString &path)

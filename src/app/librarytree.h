@@ -88,6 +88,8 @@ private:
     std::unique_ptr<QFileSystemModel> m_model;
     CustomFileSystemModelDelegate *m_delegate;
     QString m_folder;
+    /// The file that was to be scrolled to last.
+    QString m_wanted;
     QAction *m_rename;
     QAction *m_delete;
     QAction *m_newFolder;
