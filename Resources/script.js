@@ -384,6 +384,15 @@ function centerMap(text) {
         fitLap();
 }
 
+/** Shows a stretch of track. @param {string} text its bounds as [south, west, north, east] */
+function showStretch(text) {
+    const [south, west, north, east] = JSON.parse(text);
+    const bounds = new google.maps.LatLngBounds();
+    bounds.extend({ lat: south, lng: west });
+    bounds.extend({ lat: north, lng: east });
+    map?.fitBounds(bounds, 24);
+}
+
 /** @param {string} text options */
 function setOptions(text) {
     options = JSON.parse(text);

@@ -26,11 +26,15 @@ class LatLng {
 window.google = {
     maps: {
         LatLng,
-        LatLngBounds: class { extend() {} isEmpty() { return false; } },
+        LatLngBounds: class {
+            places = [];
+            extend(place) { this.places.push(`${place.lat}/${place.lng}`); }
+            isEmpty() { return false; }
+        },
         Map: class {
             constructor(element, options) { this.options = options; this.calls = []; }
             setCenter(place) { this.calls.push(`center ${place.lat} ${place.lng}`); }
-            fitBounds() { this.calls.push("fit"); }
+            fitBounds(bounds) { this.calls.push(`fit ${bounds.places.join(" ")}`); }
             getZoom() { return 16; }
             addListener(event, slot) { this[event] = slot; }
         },

@@ -311,6 +311,15 @@ void TestMapPage::centres()
     run(QStringLiteral("map.calls = [];") + call("centerMap", {QStringLiteral("-1.5°, 2°")}));
     run(call("drawOneLap", {lap()}));
     QCOMPARE(text(QStringLiteral("map.calls.join()")), "center -1.5 2");
+    PointAcquisition point;
+    point.dataCoordX = 6;
+    point.dataCoordY = 46;
+    Points stretch {point, point, point};
+    stretch[1].dataCoordX = 6.5;
+    stretch[2].dataCoordX = stretch[2].dataCoordY = NoFixCoordinate;
+    m_view->initOnlineMap({}, -1);
+    m_view->showStretch(stretch);
+    QTRY_COMPARE(text(QStringLiteral("map.calls.join()")), QByteArray("fit 46/6 46/6.5"));
 }
 
 void TestMapPage::options()

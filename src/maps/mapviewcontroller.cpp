@@ -4,6 +4,7 @@
 #include <maps/mapviewcontroller.h>
 
 #include <QGeoCoordinate>
+#include <QGeoRectangle>
 #include <QLayout>
 #include <QLoggingCategory>
 #include <QMainWindow>
@@ -18,6 +19,7 @@
 #include <maps/pagesettings.h>
 #include <session/lap.h>
 #include <session/session.h>
+#include <session/trace.h>
 
 namespace zuno {
 
@@ -122,6 +124,27 @@ void MapViewController::drawSecondCursor(const QString &text)
 {
     if (m_view != nullptr)
         Q_EMIT m_page->drawSecondCursor(text);
+}
+
+void MapViewController::showStretch(const Points &points)
+{
+    QList<QGeoCoordinate> places;
+    for (const PointAcquisition &point : points) {
+        const QGeoCoordinate place = positionOf(point);
+        if (place.isValid())
+            places.append(place);
+    }
+    const QGeoRectangle bounds(places);
+    if (!m_isReady || !bounds.isValid())
+        return;
+    const QGeoCoordinate southWest = bounds.bottomLeft();
+    const QGeoCoordinate northEast = bounds.topRight();
+    run(*m_page, QStringLiteral("showStretch"),
+        QStringLiteral("[%1,%2,%3,%4]")
+            .arg(southWest.latitude(), 0, 'f', 7)
+            .arg(southWest.longitude(), 0, 'f', 7)
+            .arg(northEast.latitude(), 0, 'f', 7)
+            .arg(northEast.longitude(), 0, 'f', 7));
 }
 
 void MapViewController::setOptions(const QString &settingsPath)

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QObject>
 
+#include <session/pointacquisition.h>
+
 class QLayout;
 class QMainWindow;
 class QWebEngineView;
@@ -49,6 +51,8 @@ public:
     /// Move the cursor of the first lap and of the second to a point payload.
     void drawCursor(const QString &text);
     void drawSecondCursor(const QString &text);
+    /// Zooms to a stretch of a lap; nothing without a point that has a position.
+    void showStretch(const Points &points);
     /// Tells the page the options that the settings file at @p settingsPath holds; what it does
     /// not hold is sent as an empty text.
     void setOptions(const QString &settingsPath);
