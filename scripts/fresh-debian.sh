@@ -4,12 +4,13 @@
 #
 # Tries the committed state on a bare Debian 12: ./run.sh and ./test.sh in a chroot with nothing but
 # the base system, set up with this machine's own apt sources. Needs root and debootstrap.
-#   scripts/fresh-debian.sh [--user] [run|test|ci]...   (without a name: run and test)
-# --user does it as a plain user with sudo instead of as root.
+#   scripts/fresh-debian.sh [--user] [run|test|ci|package]...   (without a name: run and test)
+# --user does it as a plain user with sudo instead of as root. "package" installs, tries and removes
+# the package that scripts/package.sh has built here before, without anything to build with.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-usage="usage: scripts/fresh-debian.sh [--user] [run|test|ci]..."
+usage="usage: scripts/fresh-debian.sh [--user] [run|test|ci|package]..."
 user=root
 commands=()
 for argument in "$@"; do
@@ -18,6 +19,7 @@ for argument in "$@"; do
     run) commands+=(./run.sh) ;;
     test) commands+=(./test.sh) ;;
     ci) commands+=(.ci/run) ;;
+    package) commands+=(scripts/try-package.sh) ;;
     *)
         echo "$usage" >&2
         exit 2
@@ -74,6 +76,9 @@ inside() {
 
 tree="/srv/ZUNO Analyzer"
 git clone -q --no-hardlinks . "$root$tree"
+if [[ " ${commands[*]} " == *" scripts/try-package.sh "* ]]; then
+    install -D -t "$root$tree/build/release" build/release/zunoanalyzer_*.deb
+fi
 if [[ $user != root ]]; then
     script="apt-get -qq update && apt-get -qq install -y --no-install-recommends sudo &&
         useradd -m $user && echo '$user ALL=(ALL) NOPASSWD: ALL' >/etc/sudoers.d/$user &&
@@ -90,7 +95,7 @@ for command in "${commands[@]}"; do
     echo "== $command: exit status $status after $((SECONDS - started)) s"
 done
 mkdir -p build
-! cp "$root$tree"/build/dev/zunoanalyzer.png build/fresh-debian.png 2>/dev/null ||
+! cp "$root$tree"/build/*/zunoanalyzer.png build/fresh-debian.png 2>/dev/null ||
     echo "The picture: $PWD/build/fresh-debian.png"
 if ((${#failed[@]})); then
     echo "On a bare Debian 12: FAILED: ${failed[*]}"

@@ -6,7 +6,9 @@
 #   --core    what the core, the command line tool and their tests need
 #   --gui     that, and what the desktop program needs (this is the default)
 #   --checks  additionally the tools of scripts/check.sh
+#   --package additionally the tools of scripts/package.sh
 #   --page    only what scripts/check-page.sh needs
+#   --try     only what scripts/try-package.sh needs
 set -euo pipefail
 
 core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
@@ -15,6 +17,9 @@ gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools
     libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
 # The compiler brings the sanitizers' libraries itself.
 checks=(git clang-format clang-tidy cppcheck shellcheck)
+package=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libfile-mimeinfo-perl)
+try=(xvfb x11-utils imagemagick fonts-dejavu-core xdg-utils desktop-file-utils shared-mime-info
+    libfile-mimeinfo-perl)
 
 packages=()
 sort_of=gui
@@ -23,9 +28,11 @@ for argument in "$@"; do
     --core) sort_of=core ;;
     --gui) sort_of=gui ;;
     --checks) packages+=("${checks[@]}") ;;
+    --package) packages+=("${package[@]}") ;;
     --page) sort_of=page ;;
+    --try) sort_of=try ;;
     *)
-        echo "usage: ${0##*/} [--gui|--core|--page] [--checks]" >&2
+        echo "usage: ${0##*/} [--gui|--core|--page|--try] [--checks] [--package]" >&2
         exit 2
         ;;
     esac
@@ -33,6 +40,7 @@ done
 case $sort_of in
 core) packages+=("${core[@]}") ;;
 gui) packages+=("${core[@]}" "${gui[@]}") ;;
+try) packages+=("${try[@]}") ;;
 page)
     # They often come from elsewhere than from Debian, and then Debian's would be in their way.
     command -v node >/dev/null || packages+=(nodejs)

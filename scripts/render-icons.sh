@@ -2,7 +2,7 @@
 # SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Draws the icons of Resources/ and darkstyle/ anew from their SVG sources, in the formats that the
+# Draws the icons of Resources/, darkstyle/ and packaging/ anew from their SVG sources, in the formats that the
 # program ships. The results are committed, so that neither a build nor the program needs a
 # renderer; run this after a change to a source, and commit both.
 set -euo pipefail
@@ -72,3 +72,11 @@ small=Resources/svg/logo-small.svg
 large=Resources/svg/logo.svg
 ico Resources/Logos/logo.ico $small:{16,20,24,32,40} $large:{48,64,128,256}
 rsvg-convert --width 256 --height 256 $large -o Resources/logo.png
+
+# For the desktop's menu and file manager.
+for size in 16 22 24 32; do
+    rsvg-convert --width $size --height $size $small -o packaging/icons/$size.png
+done
+for size in 48 64 128 256; do
+    rsvg-convert --width $size --height $size $large -o packaging/icons/$size.png
+done

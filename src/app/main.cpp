@@ -14,6 +14,8 @@ int main(int argc, char *argv[])
     zuno::startLog();
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
+    // By this name a desktop finds the window's icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.example.ZunoAnalyzer"));
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window;
