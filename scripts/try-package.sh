@@ -21,18 +21,14 @@ scripts/install-dependencies.sh --try
 as_root=()
 ((EUID == 0)) || as_root=(sudo)
 work=$(mktemp -d)
-pids=()
+. scripts/virtual-display.sh
 apt() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0 \
         --no-install-recommends "$@" >"$work/apt.log" 2>&1 || { cat "$work/apt.log" >&2 && return 1; }
 }
 # shellcheck disable=SC2317 # the trap calls it
 finish() {
-    local pid
-    for pid in "${pids[@]}"; do
-        kill -- "-$pid" 2>/dev/null || true
-    done
-    wait
+    end_started
     ! dpkg-query --show zunoanalyzer >/dev/null 2>&1 || apt purge zunoanalyzer
     rm -rf "$work"
 }
@@ -45,13 +41,6 @@ die() {
 same() { # same WHAT EXPECTED FOUND
     [[ $2 == "$3" ]] || die "$1: \"$3\" instead of \"$2\""
     echo "$1: $3"
-}
-try() { # try COMMAND...: until it succeeds, for a minute
-    local deadline=$((SECONDS + 60))
-    until "$@"; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.25
-    done
 }
 # Where packages put their files.
 files() { "${as_root[@]}" find /etc /opt /usr /var/lib -xdev \
@@ -80,29 +69,18 @@ same "Type by suffix" $type "$(xdg-mime query filetype "$session")"
 same "Type by first bytes" $type "$(xdg-mime query filetype "$work/nameless")"
 same "Opened with" com.example.ZunoAnalyzer.desktop "$(xdg-mime query default $type)"
 
-[[ -d /tmp/.X11-unix ]] || "${as_root[@]}" mkdir -m 1777 /tmp/.X11-unix
-setsid Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$work/display" >"$work/log" 2>&1 &
-pids+=($!)
-try test -s "$work/display" || die "the virtual display did not start"
-DISPLAY=:$(<"$work/display")
-export DISPLAY QT_QPA_PLATFORM=xcb
-unset WAYLAND_DISPLAY XAUTHORITY XDG_CURRENT_DESKTOP DESKTOP_SESSION
-# The web engine's sandbox does not work for root.
-((EUID != 0)) || export QTWEBENGINE_DISABLE_SANDBOX=1
-
+start_display 1600x1000
 # The program writes into a recording that it has been displayed.
 opened() { zuno decode --no-points "$session" | sed -n 's/^Opened before  *//p'; }
 same "Opened before" no "$(opened)"
-setsid xdg-open "$session" >"$work/log" 2>&1 &
-pids+=($!)
+start xdg-open "$session"
 displayed() { [[ $(opened) == yes ]]; }
 try displayed || die "the recording was not displayed"
 same "Opened before" yes "$(opened)"
 sleep 5
 import -window root "${deb%/*}/zunoanalyzer.png"
-kill -0 "${pids[-1]}" || die "the program ended"
-kill -- "-${pids[-1]}"
-wait "${pids[-1]}" || true
+kill -0 "$pid" || die "the program ended"
+end "$pid"
 
 echo "== Removing"
 apt purge zunoanalyzer

@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
+# Takes the pictures of the program at work anew (docs/images/), from the demo library on a virtual
+# display. They are committed; run this when the window has changed, look at them, and commit them.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+[[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
+
+preset=dev
+if (($# == 2)) && [[ $1 == --preset ]]; then
+    preset=$2
+elif (($#)); then
+    echo "usage: scripts/screenshots.sh [--preset NAME]" >&2
+    exit 2
+fi
+build=build/$preset
+scripts/install-dependencies.sh --gui
+cmake --preset "$preset" >/dev/null
+cmake --build --preset "$preset" --target zunoanalyzer zuno
+
+work=$(mktemp -d)
+. scripts/virtual-display.sh
+trap 'end_started; rm -rf "$work"' EXIT
+export XDG_DATA_HOME=$work/home XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
+export XDG_RUNTIME_DIR=$work LANGUAGE=en ZUNO_MAP_KEY=
+mkdir "$work/home"
+"$build/bin/zuno" demo "$work/home/Norvale" >/dev/null
+# All have been opened but the one that came in last.
+find "$work/home" -name '*.ra1' ! -name '*15h50*' -exec "$build/bin/zuno" set {} newSession=0 \;
+
+# Done is what has many colours and stays the same for two seconds.
+quiet() {
+    local before=${pixels:-} colours
+    sleep 2
+    import -window root "$work/now.png"
+    read -r pixels colours < <(identify -format '%# %k\n' "$work/now.png")
+    ((colours > 64)) && [[ $pixels == "$before" ]]
+}
+
+# picture NAME FILE: docs/images/NAME.png, the window that displays a session of the demo library.
+picture() {
+    local target=docs/images/$1.png file
+    file=$(find "$work/home" -name "$2")
+    pixels=
+    start "$build/bin/zunoanalyzer" "$file"
+    sleep 4
+    if ! try quiet || ! kill -0 "$pid"; then
+        echo "$1: the window did not come up." >&2
+        cat "$work/log" >&2
+        return 1
+    fi
+    end "$pid"
+    # Few colours, and nothing that would differ from one day to the next.
+    convert "$work/now.png" -dither None -colors 128 -strip -define png:exclude-chunks=date,time \
+        -define png:compression-level=9 "PNG8:$target"
+    echo "$target: $(stat -c %s "$target") bytes"
+    if (($(stat -c %s "$target") > 200000)); then
+        echo "That is too much for a page; the limit is 200000." >&2
+        return 1
+    fi
+}
+
+mkdir -p docs/images
+start_display 1440x900
+picture laps '2026-07-12 09h27 Karoosberg.ra1'
