@@ -61,6 +61,9 @@ export XDG_DATA_HOME=$work/home XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$wor
 export XDG_RUNTIME_DIR=$work
 mkdir "$work/home"
 zuno demo "$work/home/Norvale"
+# As after a first start, which opens all of them.
+mkdir "$work/home/Norvale/ZUNO Analyzer"
+printf '[General]\nv1400=true\n' >"$work/home/Norvale/ZUNO Analyzer/ConfigAnalyzer.ini"
 session="$work/home/Norvale/RemoteDevice/$(cd "$work/home/Norvale/RemoteDevice" &&
     find . -name '2026-07-12 09h27 Karoosberg.ra1')"
 cp "$session" "$work/nameless"
