@@ -204,6 +204,24 @@ private Q_SLOTS:
         QCOMPARE(removed.count(), 0);
     }
 
+    // What could not be written is kept when another program changes the file.
+    void keepsEdits()
+    {
+        Outfit outfit({AtValmora});
+        const QString path = outfit.path(AtValmora);
+        outfit.library.find(path)->setNotes(u"mine"_s);
+        const OpenedSession other = openSession(path);
+        other.session->setDriver(u"Bob"_s);
+        QVERIFY(rewriteSessionFile(*other.session).ok());
+        QVERIFY(outfit.library.refresh(path));
+        Session *session = outfit.library.find(path);
+        QCOMPARE(session->driver(), u"Bob"_s);
+        QCOMPARE(session->notes(), u"mine"_s);
+        QVERIFY(outfit.writer.write(*session).ok());
+        QCOMPARE(openSession(path).session->notes(), u"mine"_s);
+        QVERIFY(!outfit.library.refresh(path));
+    }
+
     // A write-protected card must not complain at every selection. There is no room for the name
     // of the file that would be written first, so that the old one stands.
     void tellsOnce()

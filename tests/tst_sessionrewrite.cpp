@@ -160,6 +160,80 @@ private Q_SLOTS:
         QCOMPARE(QFile::permissions(m_path), permissions);
     }
 
+    // Two copies of the program on one library: neither undoes what the other has written.
+    void twoCopies()
+    {
+        const auto both = [this](const InformationBytes &before, Change first, Change second) {
+            putFile(m_path, withLists(before));
+            const OpenedSession one = openSession(m_path);
+            const OpenedSession other = openSession(m_path);
+            first(*one.session);
+            second(*other.session);
+            const bool joined
+                = !rewriteSessionFile(*one.session).wasChanged
+                  && rewriteSessionFile(*other.session).wasChanged
+                  && rewriteSessionFile(*one.session).wasChanged
+                  && !rewriteSessionFile(*one.session).wasChanged
+                  && informationBlock(*one.session) == informationBlock(*other.session)
+                  && one.session->newSession() == other.session->newSession();
+            return joined ? contents(m_path) : "not joined";
+        };
+        const Change driver = [](Session &session) { session.setDriver(u"Bob"_s); };
+        const Change notes = [](Session &session) { session.setNotes(u"dry"_s); };
+        const Change otherNotes = [](Session &session) { session.setNotes(u"damp"_s); };
+        const Change open = [](Session &session) { session.setNewSession(0); };
+        const Change first = [](Session &session) { session.setInvalidLaps({2, 7}); };
+        const Change second = [](Session &session) { session.setInvalidLaps({1, 2, 3}); };
+        const InformationBytes accents {.event = "F\xeate", .notes = ""};
+        InformationBytes joined = accents;
+        joined.driver = "Bob";
+        joined.notes = "dry";
+        QCOMPARE(both(accents, driver, notes), withLists(joined));
+        QCOMPARE(both({}, notes, otherNotes), withLists({.notes = "damp"}));
+        QCOMPARE(both({}, notes, open), withLists({.notes = "dry"}, 0));
+        QCOMPARE(both({}, first, second), withLists({.invalidLaps = "\x01\x02\x07"}));
+    }
+
+    // Laps that the other copy throws out are thrown out here, and the times are then the others'.
+    void joinsLaps()
+    {
+        const auto map = lineMap(10, 680, {{u"Start"_s, 0}, {u"Time 0"_s, 100}});
+        const auto session = sessionOf(ride(lapRide({0, 1, 2})));
+        session->setMap(map.get());
+        session->setStoredState(session->state());
+        StoredState file = session->state();
+        file.information.invalidLaps = {2};
+        session->setLapValid(2, false);
+        QVERIFY(session->takeOver(file));
+        QCOMPARE(session->invalidLaps(), QList<quint8>({2, 3}));
+        QCOMPARE(session->bestLapText(), u"00:03.700"_s);
+        QVERIFY(!session->takeOver(file));
+    }
+
+    // Between reading and rewriting the file becomes another one.
+    void becomesAnother()
+    {
+        SessionBytes grown = fullSession();
+        grown.samples = 5;
+        SessionBytes other = fullSession();
+        other.time = "12:00:00";
+        const QByteArray half = withLists({}).chopped(20);
+        const auto after = [this](const QByteArray &bytes) {
+            putFile(m_path, withLists({}));
+            const OpenedSession opened = openSession(m_path);
+            opened.session->setNotes(u"dry"_s);
+            putFile(m_path, bytes);
+            (void)rewriteSessionFile(*opened.session);
+            return contents(m_path);
+        };
+        const QByteArray written = after(grown.bytes());
+        grown.information = InformationBytes {.notes = "dry"}.bytes();
+        QCOMPARE(written, grown.bytes());
+        QCOMPARE(after(other.bytes()), other.bytes());
+        QCOMPARE(after(half), withLists({.notes = "dry"}));
+        QCOMPARE(after(withLists({}).left(60)), withLists({}).left(60));
+    }
+
     void failures()
     {
         using enum RewriteOutcome;

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -20,6 +21,7 @@
 #include <app/settings.h>
 #include <app/zunoanalyzer.h>
 #include <session/sessionfile.h>
+#include <session/sessionrewrite.h>
 
 #include "builders.h"
 #include "widgets.h"
@@ -323,6 +325,32 @@ private Q_SLOTS:
     }
 
     // Typed, but not finished with Enter: leaving the page saves it, for its own session.
+    // The library changes under the program, faster than it can notice.
+    void otherPrograms()
+    {
+        const Home home({}, {u"Valmora.map"_s});
+        const QString path = home.path(u"Spring/ride.ra1"_s);
+        putFile(path, demoFile(AtValmora));
+        home.startedBefore(u"Spring/ride.ra1"_s);
+        Window window;
+        QTRY_COMPARE(window.laps(), 7);
+        const OpenedSession other = openSession(path);
+        other.session->setDriver(u"Bob"_s);
+        QVERIFY(rewriteSessionFile(*other.session).ok());
+        type(window, "le_vehicle", u"R6"_s);
+        QCOMPARE(stored(path)["le_driver"], u"Bob"_s);
+        QCOMPARE(stored(path)["le_vehicle"], u"R6"_s);
+        QCOMPARE(window.part<QLineEdit>("le_driver").text(), u"Bob"_s);
+        QVERIFY(window.main.statusBar()->currentMessage().contains(u"changed by another program"));
+
+        QVERIFY(QDir().rename(home.path(u"Spring"_s), home.path(u"Summer"_s)));
+        type(window, "le_vehicle", u"R1"_s);
+        QVERIFY(window.main.statusBar()->currentMessage().contains(u"was not changed: No such"));
+        QTRY_COMPARE(window.laps(), 0);
+        window.select(home.path(u"Summer/ride.ra1"_s));
+        QTRY_COMPARE(window.laps(), 7);
+    }
+
     void infosOfOneSessionOnly()
     {
         const Home home({AtValmora, AtHaidemoor}, {u"Valmora.map"_s, u"Haidemoor.map"_s});

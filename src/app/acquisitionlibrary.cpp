@@ -21,6 +21,20 @@ bool isAtOrBelow(const QString &path, const QString &folder)
     return path == folder || path.startsWith(folder + u'/');
 }
 
+// What the rider has said about a session, and could not be written so far, outlives its reading.
+void keepEdits(Session &session, StoredState stored, StoredState edited)
+{
+    const StoredState now = session.state();
+    // What was computed from the samples that the file had is none of that.
+    for (StoredState *state : {&stored, &edited}) {
+        state->newSession = now.newSession;
+        state->information.circuitName = now.information.circuitName;
+        state->information.bestLapText = now.information.bestLapText;
+        state->information.idealTimeText = now.information.idealTimeText;
+    }
+    session.setInformation(merged(stored, edited, now).information);
+}
+
 } // namespace
 
 AcquisitionLibrary::AcquisitionLibrary(QObject *parent) : QObject(parent) {}
@@ -69,8 +83,14 @@ bool AcquisitionLibrary::refresh(const QString &path)
     if (session == nullptr || !QFileInfo::exists(path)
         || m_stamps.value(session) == FileStamp::of(path))
         return false;
+    const StoredState before = session->state();
+    const StoredState stored = session->storedState();
+    const Recording recording = session->recording();
     remove(session);
-    add(path, "onSessionDisplayedChange");
+    Session *again = append(path, "onSessionDisplayedChange");
+    if (again != nullptr && isStillRecording(recording, again->recording()))
+        keepEdits(*again, stored, before);
+    Q_EMIT sessionsChanged();
     return true;
 }
 

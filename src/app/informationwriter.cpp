@@ -11,14 +11,19 @@ namespace {
 
 QString reasonOf(const RewriteResult &result)
 {
-    if (result.outcome == RewriteOutcome::NotRewritable)
+    switch (result.outcome) {
+    case RewriteOutcome::NotRewritable:
         return InformationWriter::tr("the file ends too early");
-    return result.reason;
+    case RewriteOutcome::OtherRecording:
+        return InformationWriter::tr("the file holds another recording now");
+    default:
+        return result.reason;
+    }
 }
 
 } // namespace
 
-RewriteResult InformationWriter::write(const Session &session, Cause cause)
+RewriteResult InformationWriter::write(Session &session, Cause cause)
 {
     RewriteResult result = rewriteSessionFile(session);
     const QString &path = session.filePath();
@@ -29,6 +34,11 @@ RewriteResult InformationWriter::write(const Session &session, Cause cause)
         m_told.insert(path);
         Q_EMIT failed(tr("%1 was not changed: %2. Changes are kept until the program ends.")
                           .arg(session.fileName(), reasonOf(result)));
+    }
+    if (result.wasChanged) {
+        Q_EMIT joined(&session,
+                      tr("%1 was changed by another program meanwhile; its changes were kept.")
+                          .arg(session.fileName()));
     }
     return result;
 }

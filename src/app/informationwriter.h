@@ -30,10 +30,13 @@ public:
     using QObject::QObject;
 
     /// Rewrites the information block of the session's file.
-    RewriteResult write(const Session &session, Cause cause = Cause::Shown);
+    RewriteResult write(Session &session, Cause cause = Cause::Shown);
 
 Q_SIGNALS:
     void written(const zuno::Session &session);
+    /// The file had been changed by another program; the session has its changes now, and
+    /// @p message is for the rider.
+    void joined(zuno::Session *session, const QString &message);
     /// A failure that was not told since a file was last written; @p message is for the rider.
     void failed(const QString &message);
 

@@ -25,6 +25,11 @@ SessionDisplay::SessionDisplay(const Parts &parts, QObject *parent)
     connect(&m_library, &AcquisitionLibrary::sessionAboutToBeRemoved, this,
             &SessionDisplay::onAboutToBeRemoved);
     connect(&m_writer, &InformationWriter::written, &m_library, &AcquisitionLibrary::noteWritten);
+    // Laps may have been thrown out.
+    connect(&m_writer, &InformationWriter::joined, this, [this](Session *session) {
+        if (session == m_session)
+            Q_EMIT mapApplied(session);
+    });
 }
 
 qsizetype SessionDisplay::index() const

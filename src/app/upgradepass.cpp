@@ -61,7 +61,7 @@ void UpgradePass::run()
 void UpgradePass::handle(const QString &path)
 {
     m_parts.tree.selectOnly(path);
-    const Session *session = m_parts.display.session();
+    Session *session = m_parts.display.session();
     if (session != nullptr && session->filePath() == path)
         m_parts.writer.write(*session);
 }

@@ -156,6 +156,8 @@ void ZunoAnalyzer::connectParts()
     connect(m_tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
     connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
+    connect(&m_writer, &InformationWriter::joined, this,
+            [this](const Session *, const QString &message) { tell(message); });
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
             &LibraryTree::updateViewedStates);
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, this, [this] {

@@ -98,6 +98,8 @@ QString failure(const RewriteResult &result)
     switch (result.outcome) {
     case RewriteOutcome::NotRewritable:
         return QStringLiteral("ends before its information; it was left alone");
+    case RewriteOutcome::OtherRecording:
+        return QStringLiteral("holds another recording now; it was left alone");
     case RewriteOutcome::Unreadable:
         return QStringLiteral("cannot be read: ") + result.reason;
     default:

@@ -31,7 +31,18 @@ struct Recording
     double reservedDouble = 0.0;
     /// 1 when lists of suspension readings follow.
     quint8 listsFlag = 0;
+    /// Whether the file has an information block and nothing of it is missing.
+    bool hasWholeInformation = false;
 };
+
+/// Whether a file that says @p now holds the recording that it held @p before, grown perhaps.
+[[nodiscard]] inline bool isStillRecording(const Recording &before, const Recording &now)
+{
+    // While it is being written, a file has no header yet.
+    const bool wasGrowing = before.wholeSampleCount < before.sampleCount;
+    return wasGrowing
+           || (before.version == now.version && before.date == now.date && before.time == now.time);
+}
 
 /// The readings of both suspension channels as they stand in the file, ten to a sample.
 struct ReadingLists

@@ -111,6 +111,43 @@ QList<quint8> Session::invalidLaps() const
     return numbers;
 }
 
+StoredState Session::state() const
+{
+    StoredState state {m_newSession, m_information};
+    state.information.bestLapText = bestLapStored();
+    state.information.idealTimeText = idealTimeStored();
+    state.information.invalidLaps = invalidLaps();
+    return state;
+}
+
+bool Session::takeOver(const StoredState &file)
+{
+    if (file == m_stored)
+        return false;
+    // The laps first: the times are theirs.
+    m_information.invalidLaps = merged(m_stored, state(), file).information.invalidLaps;
+    flagLaps();
+    StoredState state = merged(m_stored, this->state(), file);
+    m_newSession = state.newSession;
+    m_information = std::move(state.information);
+    m_stored = file;
+    return true;
+}
+
+// Gives the laps the flags that the stored numbers say.
+void Session::flagLaps()
+{
+    if (laps().empty())
+        return;
+    for (const auto &lap : laps()) {
+        const bool isByte = lap->lapNumber() <= 255;
+        if (isByte)
+            lap->setIsValid(
+                !m_information.invalidLaps.contains(static_cast<quint8>(lap->lapNumber())));
+    }
+    rankLaps();
+}
+
 void Session::setMap(const Map *map)
 {
     if (map == m_map)

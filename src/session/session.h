@@ -14,32 +14,11 @@
 
 #include <session/lapcutter.h>
 #include <session/recording.h>
-#include <session/storedtext.h>
+#include <session/sessionmerge.h>
 
 namespace zuno {
 
 class Map;
-
-/// What a rider can say about a session; the information block at the end of its file.
-struct SessionInformation
-{
-    /// What the loggers store when they know no temperature.
-    static constexpr qint32 UnknownTemperature = 99;
-    static constexpr qint32 MaximumTemperature = 255;
-
-    StoredText circuitName;
-    StoredText event;
-    StoredText driver;
-    StoredText bestLapText;
-    StoredText idealTimeText;
-    StoredText vehicle;
-    StoredText condition {QStringLiteral("Dry")};
-    /// Degrees; the file keeps the low byte.
-    qint32 temperature = 20;
-    StoredText tyres;
-    StoredText notes;
-    QList<quint8> invalidLaps;
-};
 
 /// One recording: what its file says, and, once it has a map, the laps cut from it.
 ///
@@ -121,6 +100,15 @@ public:
     /// Stores the numbers of laps thrown out; laps that are cut already keep their flags.
     void setInvalidLaps(const QList<quint8> &numbers) { m_information.invalidLaps = numbers; }
 
+    /// What a rewrite would put into the file now, and what the file held when it was last read or
+    /// written.
+    [[nodiscard]] StoredState state() const;
+    [[nodiscard]] const StoredState &storedState() const { return m_stored; }
+    void setStoredState(StoredState state) { m_stored = std::move(state); }
+    /// Joins what the file holds now with what was changed here since storedState(): laps are
+    /// thrown out and ranked accordingly. False when the file still holds storedState().
+    bool takeOver(const StoredState &file);
+
     [[nodiscard]] const Map *map() const { return m_map; }
     /// Gives the session another map (or none) and cuts it into laps. The same map changes
     /// nothing.
@@ -141,10 +129,12 @@ Q_SIGNALS:
 
 private:
     void fetchSamples() const;
+    void flagLaps();
 
     QString m_filePath;
     Recording m_recording;
     SessionInformation m_information;
+    StoredState m_stored;
     LapResults m_results;
     SampleSource m_sampleSource;
     // Decoded on first use, which is no change of the session.

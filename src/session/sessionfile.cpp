@@ -174,8 +174,9 @@ QString readText(ByteReader &reader)
 
 // The block's first byte, the length of the circuit's name, has been read when it stands in the
 // place of the lists' flag.
-SessionInformation readInformation(ByteReader &reader, quint8 listsFlag)
+SessionInformation readInformation(ByteReader &reader, Recording &recording)
 {
+    const quint8 listsFlag = recording.listsFlag;
     SessionInformation information;
     information.circuitName = listsFlag == ListsFollow
                                   ? readStored(reader)
@@ -192,6 +193,8 @@ SessionInformation readInformation(ByteReader &reader, quint8 listsFlag)
     const int invalidCount = reader.u8();
     for (int i = 0; i < invalidCount && !reader.atEnd(); ++i)
         information.invalidLaps.append(reader.u8());
+    recording.hasWholeInformation
+        = !reader.ranShort() && information.invalidLaps.size() == invalidCount;
     return information;
 }
 
@@ -244,7 +247,8 @@ SessionFileError describeSession(ByteReader &reader, Session &session)
     session.setNewSession(readHeader(reader, recording).newSession);
     skipLists(reader, recording);
     if (!reader.atEnd())
-        session.setInformation(readInformation(reader, recording.listsFlag));
+        session.setInformation(readInformation(reader, recording));
+    session.setStoredState(session.state());
     session.setRecording(std::move(recording));
     return SessionFileError::None;
 }

@@ -3,9 +3,14 @@
 
 #include <session/sessionrewrite.h>
 
+#include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
 #include <QSaveFile>
 
+#include <session/bytereader.h>
 #include <session/session.h>
 #include <session/sessionbuffer.h>
 #include <session/sessionfile.h>
@@ -14,27 +19,76 @@ namespace zuno {
 
 namespace {
 
-RewriteResult writeWhole(const QString &path, const QByteArray &bytes)
+void writeWhole(const QString &path, const QByteArray &bytes, RewriteResult &result)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return {RewriteOutcome::WriteFailed, file.errorString()};
-    return {RewriteOutcome::Written, {}};
+    result.outcome = RewriteOutcome::Written;
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+        result.outcome = RewriteOutcome::WriteFailed;
+        result.reason = file.errorString();
+    }
 }
 
-RewriteResult rewriteTo(const Session &session, const QString &target, bool inPlace)
+// Copies of the program wait for each other from reading a file to writing it. Without a lock (no
+// room for it, another user's) there is still only a moment in which they could meet.
+class RewriteLock
 {
+public:
+    explicit RewriteLock(const QString &path)
+        : m_lock(QDir::tempPath() + u"/zuno-" + QString::fromLatin1(nameOf(path)) + u".lock")
+    {
+        (void)m_lock.tryLock(LongestWait);
+    }
+
+private:
+    static constexpr int LongestWait = 1000;
+
+    // Lock files stand in no library: it may be on a card, and it is the rider's.
+    static QByteArray nameOf(const QString &path)
+    {
+        const QString canonical = QFileInfo(path).canonicalFilePath();
+        return QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Md5).toHex();
+    }
+
+    QLockFile m_lock;
+};
+
+// Takes into the session what somebody else has put into the file since it was read.
+RewriteResult readAgain(Session &session, const QByteArray &bytes)
+{
+    ByteReader reader(bytes);
+    const OpenedSession now = decodeSession(bytes, session.filePath());
+    if (!now.session || !findLayout(reader))
+        return {RewriteOutcome::NotRewritable, {}};
+    if (!isStillRecording(session.recording(), now.session->recording()))
+        return {RewriteOutcome::OtherRecording, {}};
+    RewriteResult result;
+    // Half a block, or none, is nobody's change: the session's own makes it whole.
+    if (now.session->recording().hasWholeInformation)
+        result.wasChanged = session.takeOver(now.session->state());
+    return result;
+}
+
+RewriteResult rewriteTo(Session &session, const QString &target, bool inPlace)
+{
+    const RewriteLock lock(session.filePath());
     QFile file(session.filePath());
     if (!file.open(QIODevice::ReadOnly))
         return {RewriteOutcome::Unreadable, file.errorString()};
     const QByteArray before = file.readAll();
     file.close();
+    RewriteResult result = readAgain(session, before);
+    if (!result.ok())
+        return result;
     const QByteArray after = rewritten(before, session);
     if (after.isEmpty())
         return {RewriteOutcome::NotRewritable, {}};
-    if (inPlace && after == before)
-        return {RewriteOutcome::Unchanged, {}};
-    return writeWhole(target, after);
+    if (!inPlace || after != before)
+        writeWhole(target, after, result);
+    const OpenedSession stored = decodeSession(after, target);
+    if (inPlace && result.ok() && stored.session)
+        session.setStoredState(stored.session->state());
+    return result;
 }
 
 } // namespace
@@ -74,12 +128,12 @@ QByteArray rewritten(const QByteArray &bytes, const Session &session)
     return buffer.data();
 }
 
-RewriteResult rewriteSessionFile(const Session &session)
+RewriteResult rewriteSessionFile(Session &session)
 {
     return rewriteTo(session, session.filePath(), true);
 }
 
-RewriteResult rewriteSessionFileTo(const Session &session, const QString &target)
+RewriteResult rewriteSessionFileTo(Session &session, const QString &target)
 {
     return rewriteTo(session, target, false);
 }

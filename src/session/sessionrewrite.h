@@ -19,6 +19,8 @@ enum class RewriteOutcome {
     /// The file is no session file (any more), or it ends before the place of the information;
     /// it was left alone.
     NotRewritable,
+    /// Another recording stands there since the session was read; it was left alone.
+    OtherRecording,
     /// The file could not be read.
     Unreadable,
     /// The new file could not be written; the old one stands.
@@ -30,6 +32,8 @@ struct RewriteResult
     RewriteOutcome outcome = RewriteOutcome::Unchanged;
     /// The system's reason when reading or writing failed.
     QString reason;
+    /// Somebody else had changed the information in the file since the session last knew it.
+    bool wasChanged = false;
 
     [[nodiscard]] bool ok() const
     {
@@ -46,10 +50,13 @@ struct RewriteResult
 
 /// Rewrites the information block of the session's file, in one step: a failure leaves the file
 /// as it was.
-RewriteResult rewriteSessionFile(const Session &session);
+///
+/// What somebody else (a second copy of the program) has changed in the file meanwhile stays, and
+/// the session takes it over; only what was changed in the session goes into the file.
+RewriteResult rewriteSessionFile(Session &session);
 
 /// Writes the session's file with its information block to @p target instead, replacing what is
 /// there.
-RewriteResult rewriteSessionFileTo(const Session &session, const QString &target);
+RewriteResult rewriteSessionFileTo(Session &session, const QString &target);
 
 } // namespace zuno

@@ -32,6 +32,12 @@ public:
     /// a text ends at 255 characters.
     [[nodiscard]] QByteArray encoded() const;
 
+    /// Whether both are the same in the file.
+    friend bool operator==(const StoredText &a, const StoredText &b)
+    {
+        return a.encoded() == b.encoded();
+    }
+
 private:
     QString m_text;
     QByteArray m_bytes;
