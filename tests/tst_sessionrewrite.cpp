@@ -257,6 +257,11 @@ private Q_SLOTS:
         QCOMPARE(outcome({}), Unreadable);
         QCOMPARE(outcome("text"), NotRewritable);
         QCOMPARE(outcome(SessionBytes {.version = "0.9", .listsFlag = 0}.bytes()), NotRewritable);
+        // A damaged count: what follows the last whole sample passes for all the rest, but with
+        // information behind it, it would be a sample, too.
+        const QByteArray damaged
+            = Bytes().text("RA1").text("1.0.0.0").u32(5000).raw(QByteArray(45, '\0'));
+        QCOMPARE(outcome(damaged), NotRewritable);
         QCOMPARE(outcome(withLists({}), u"."_s), WriteFailed);
     }
 

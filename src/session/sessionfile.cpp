@@ -37,6 +37,8 @@ struct SampleExtent
 {
     qint64 count = 0;
     qint64 whole = 0;
+    /// The file has as many as it says.
+    bool isComplete = false;
 };
 
 SessionFileError readVersion(ByteReader &reader, QByteArray &version)
@@ -52,6 +54,7 @@ SampleExtent readExtent(ByteReader &reader)
     SampleExtent extent;
     extent.count = std::max(reader.i32(), 0);
     extent.whole = std::min(extent.count, reader.left() / SampleSize);
+    extent.isComplete = extent.whole == extent.count;
     // A count that nothing in the file supports is damage, not a recording cut short.
     if (extent.count > PlausibleCount && extent.count * SampleSize > 2 * reader.left())
         extent.count = extent.whole;
@@ -338,9 +341,11 @@ std::optional<SessionLayout> findLayout(ByteReader &reader)
     Recording recording;
     if (readVersion(reader, recording.version) != SessionFileError::None)
         return std::nullopt;
-    skipSamples(reader, readExtent(reader));
+    const SampleExtent extent = readExtent(reader);
+    skipSamples(reader, extent);
     const Header header = readHeader(reader, recording);
-    if (!skipLists(reader, recording) || !header.isWhole)
+    // Where samples are missing, the information would be read as one.
+    if (!extent.isComplete || !header.isWhole || !skipLists(reader, recording))
         return std::nullopt;
     SessionLayout layout = header.layout;
     layout.informationAt
