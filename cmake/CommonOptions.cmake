@@ -27,3 +27,8 @@ if(SANITIZE)
     -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(zuno_common INTERFACE -fsanitize=address,undefined)
 endif()
+
+if(FUZZ)
+  # Everything reports what it covers; only the targets have the fuzzer's main function.
+  target_compile_options(zuno_common INTERFACE -fsanitize=fuzzer-no-link)
+endif()

@@ -7,6 +7,7 @@
 #   --gui     that, and what the desktop program needs (this is the default)
 #   --checks  additionally the tools of scripts/check.sh
 #   --package additionally the tools of scripts/package.sh
+#   --fuzz    only what scripts/fuzz.sh needs
 #   --page    only what scripts/check-page.sh needs
 #   --try     only what scripts/try-package.sh needs
 set -euo pipefail
@@ -15,6 +16,7 @@ core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark
 # The virtual display, the tools that find and photograph a window on it, and letters to draw.
 gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools libjs-leaflet
     libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
+fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positioning-dev)
 # The compiler brings the sanitizers' libraries itself.
 checks=(git clang-format clang-tidy cppcheck shellcheck)
 package=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libfile-mimeinfo-perl)
@@ -29,10 +31,11 @@ for argument in "$@"; do
     --gui) sort_of=gui ;;
     --checks) packages+=("${checks[@]}") ;;
     --package) packages+=("${package[@]}") ;;
+    --fuzz) sort_of=fuzz ;;
     --page) sort_of=page ;;
     --try) sort_of=try ;;
     *)
-        echo "usage: ${0##*/} [--gui|--core|--page|--try] [--checks] [--package]" >&2
+        echo "usage: ${0##*/} [--gui|--core|--fuzz|--page|--try] [--checks] [--package]" >&2
         exit 2
         ;;
     esac
@@ -41,6 +44,7 @@ case $sort_of in
 core) packages+=("${core[@]}") ;;
 gui) packages+=("${core[@]}" "${gui[@]}") ;;
 try) packages+=("${try[@]}") ;;
+fuzz) packages+=("${fuzz[@]}") ;;
 page)
     # They often come from elsewhere than from Debian, and then Debian's would be in their way.
     command -v node >/dev/null || packages+=(nodejs)

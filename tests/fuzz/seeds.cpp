@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Writes the files that fuzzing starts from into a folder: a sub-folder for each
+// target.
+
+#include <cmath>
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include "../builders.h"
+
+using namespace zuno;
+using namespace zuno::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray rideSession(const Points &points)
+{
+    Bytes file;
+    file.text("RA1").text("1.0.0.0").u32(static_cast<quint32>(points.size()));
+    for (const PointAcquisition &point : points) {
+        const auto number = static_cast<float>(point.acquisitionNumber);
+        file.u32(point.dataTimeStamp).f32(static_cast<float>(point.dataCoordX));
+        file.f32(static_cast<float>(point.dataCoordY)).f32(std::fmod(number, 200.0F));
+        file.f32(std::fmod(number, 50.0F)).f32(0.1F).f32(-0.1F);
+    }
+    return file.u32(0).text("03/05/2026").u8(0).text("10:11").f64(0).u8(1).u8(0);
+}
+
+QByteArray map(const QList<QByteArray> &names)
+{
+    Bytes file;
+    file.text("MAP").text("1.0").f64(45).f64(45.1).f64(9).f64(9.1).u32(7);
+    file.u32(static_cast<quint32>(names.size()));
+    for (qsizetype i = 0; i < names.size(); ++i)
+        file.text(names[i]).f64(9).f64(place(100.0 * static_cast<double>(i)).latitude());
+    file.f64(10).u32(35);
+    for (int i = 0; i < 35; ++i)
+        file.f64(9).f64(place(20.0 * i).latitude());
+    return file;
+}
+
+} // namespace
+
+int main(int count, char **arguments)
+{
+    const QCoreApplication application(count, arguments);
+    const QString folder = QCoreApplication::arguments().value(1, u"."_s);
+    QList<QByteArray> sessions {
+        fullSession().bytes(),
+        SessionBytes {.information = InformationBytes().bytes()}.bytes(),
+        SessionBytes {.samples = 0, .words = {}, .date = "", .time = "", .listsFlag = 0}.bytes(),
+        rideSession(ride(u"-50..50/10 20*3 -*2"_s)),
+        rideSession(ride(lapRide({0, 0, 1}))),
+    };
+    for (qsizetype i = 0; i < sessions.size(); ++i) {
+        putFile(u"%1/session/%2.ra1"_s.arg(folder).arg(i), sessions[i]);
+        putFile(u"%1/rewrite/%2.ra1"_s.arg(folder).arg(i), sessions[i]);
+    }
+    putFile(folder + u"/map/sectors.map", map({"Start", "Time 0", "Time 1"}));
+    putFile(folder + u"/map/both.map", map({"Start/Time 1", "Pit"}));
+    putFile(folder + u"/map/none.map", map({}));
+    putFile(folder + u"/update/one.xml",
+            R"(<list><item name="ZUNO Analyzer"><version>1.6.0.0</version><name>setup.exe</name>)"
+            R"(<url>https://www.example.com/setup.exe</url></item><item name="Other"/></list>)");
+    return 0;
+}
