@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <cmath>
 #include <limits>
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QTest>
 
 #include <maps/lappayload.h>
 #include <maps/map.h>
+#include <session/csvexport.h>
 #include <session/session.h>
 
 #include "builders.h"
@@ -78,6 +81,37 @@ private Q_SLOTS:
         QCOMPARE(numbersIn(lap[u"minSpeeds"]), u"13"_s);
         QVERIFY(payload.contains(R"("accelMax":1.5,"decelMax":-0.75,"isComplete":true})"));
         QVERIFY(lapPayload(*session->laps()[0]).endsWith("\"isComplete\":false}"));
+    }
+
+    // A wrong number, wherever it stands, costs no lap, and neither the page nor a spreadsheet.
+    void wrongNumbers()
+    {
+        constexpr double Infinite = std::numeric_limits<double>::infinity();
+        constexpr double Huge = std::numeric_limits<float>::max();
+        const auto map = lineMap(10, 680, {{u"Start"_s, 0}, {u"Time 0"_s, 100}});
+        const auto isUsable = [&map](auto field, auto value) {
+            Points points = ride(lapRide({0, 0}));
+            points[60].*field = value;
+            const auto session = sessionOf(points);
+            session->smooth();
+            session->setMap(map.get());
+            bool usable = session->laps().size() == 4
+                          && sessionCsv(*session, QLocale::c()).count('\n') == std::ssize(points);
+            for (const PointAcquisition &point : session->samples())
+                usable = usable && point.dataSpeed >= 0 && point.dataSpeed <= 399;
+            for (const auto &lap : session->laps())
+                usable = usable && QJsonDocument::fromJson(lapPayload(*lap)).isObject();
+            return usable;
+        };
+        using P = PointAcquisition;
+        for (const auto field : {&P::dataCoordX, &P::dataCoordY, &P::dataSpeed, &P::dataAngle,
+                                 &P::dataAccelXPH, &P::dataAccelYPH}) {
+            for (const double value :
+                 {std::nan(""), Infinite, -Infinite, Huge, -Huge, 1e-45, 200.0})
+                QVERIFY2(isUsable(field, value), QByteArray::number(value));
+        }
+        for (const quint32 stamp : {0U, 3600000U, 2147483648U, 4294967295U})
+            QVERIFY2(isUsable(&P::dataTimeStamp, stamp), QByteArray::number(stamp));
     }
 
     // By name, capitals first; the start point goes under "start".
