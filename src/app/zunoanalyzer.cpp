@@ -16,6 +16,7 @@
 #include <QUrl>
 
 #include <app/aboutwidget.h>
+#include <app/chartwidgets.h>
 #include <app/configurationwidget.h>
 #include <app/exportdialogs.h>
 #include <app/librarytree.h>
@@ -71,6 +72,7 @@ ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
     m_mapView->init(this, m_ui->webview_layout);
     createActions();
     createInfosPage();
+    m_charts = new LapCharts(chartWidgets(*m_ui), m_selection, m_settings, this);
     connectParts();
     showNothing();
     m_summary->showFirstLap(m_selection.firstLap());
@@ -85,6 +87,7 @@ ZunoAnalyzer::~ZunoAnalyzer()
 {
     // The views go before what they show.
     delete m_tree;
+    delete m_charts;
     delete m_lapsView;
 }
 
@@ -145,8 +148,6 @@ void ZunoAnalyzer::createSplitters()
         connect(m_splitters[i], &QSplitter::splitterMoved, this, &ZunoAnalyzer::saveSplitterStates);
     }
     setCentralWidget(m_splitters[3]);
-    // Nothing is drawn there yet, and an empty pane would only take room from the laps.
-    m_ui->bottomWidget->hide();
 }
 
 void ZunoAnalyzer::connectParts()
@@ -194,6 +195,7 @@ void ZunoAnalyzer::connectParts()
     connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
     connect(&m_selection, &LapSelection::comparisonRequested, m_mapView,
             &MapViewController::drawTwoLaps);
+    connectCharts(*m_charts, *m_lapsView, *m_mapView);
 }
 
 void ZunoAnalyzer::openMapsFolder()
@@ -310,6 +312,7 @@ void ZunoAnalyzer::saveSplitterStates()
     for (std::size_t i = 0; i < m_splitters.size(); ++i)
         states.append({SplitterSettings[i], m_splitters[i]->saveState()});
     m_settings.setValues(states);
+    m_charts->layOut();
 }
 
 void ZunoAnalyzer::importSession()

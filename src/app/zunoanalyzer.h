@@ -20,6 +20,7 @@ class QSplitter;
 
 namespace zuno {
 
+class LapCharts;
 class LapsView;
 class LibraryTree;
 class MapViewController;
@@ -106,6 +107,7 @@ private:
     SessionDisplay m_display;
     std::unique_ptr<SessionSummary> m_summary;
     LapsView *m_lapsView = nullptr;
+    LapCharts *m_charts = nullptr;
     LibraryTree *m_tree = nullptr;
     MapViewController *m_mapView = nullptr;
     SessionInfos *m_infos = nullptr;

@@ -25,18 +25,18 @@ struct ValueRange
 struct Channel
 {
     /// Texts that are still to be translated, in the context "Channel".
-    const char *name;
-    const char *unit;
+    const char *name = nullptr;
+    const char *unit = nullptr;
     /// Why a recording may not have it, for the rider.
-    const char *missing;
-    int decimals;
+    const char *missing = nullptr;
+    int decimals = 0;
     /// Of its title. The curves have the colours of the laps.
     QColor colour;
     /// The values that a chart shows at least.
     AxisRange shown;
     /// Values outside cannot have been ridden; they count as none.
     AxisRange possible;
-    double (*read)(const PointAcquisition &);
+    double (*read)(const PointAcquisition &) = nullptr;
     /// The lowest and the highest within a sample; nullptr for a channel with one value a sample.
     ValueRange (*readRange)(const PointAcquisition &) = nullptr;
 

@@ -67,6 +67,13 @@ void LapsView::connectSelection()
             });
     connect(&m_selection, &LapSelection::currentLapChanged, this, &LapsView::selectCurrentRow);
     connect(&m_selection, &LapSelection::firstLapChanged, this, &LapsView::updateActions);
+    const auto chooseSector = [this](const QModelIndex &cell) {
+        if (cell.column() >= LapsTableModel::FirstSection)
+            Q_EMIT sectorChosen(cell.column() - LapsTableModel::FirstSection);
+    };
+    connect(&m_table, &QTableView::clicked, this, chooseSector);
+    // With the keys: Enter.
+    connect(&m_table, &QTableView::activated, this, chooseSector);
     connect(&m_table, &QTableView::customContextMenuRequested, this, &LapsView::openMenu);
 }
 

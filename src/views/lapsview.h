@@ -39,6 +39,8 @@ Q_SIGNALS:
     /// The rider threw a lap out or took it back.
     void validityChanged(zuno::Session *session);
     void exportRequested(const zuno::Lap *lap);
+    /// The rider clicked a sector of the current lap; counts from 0.
+    void sectorChosen(int sector);
 
 private:
     void connectSelection();
