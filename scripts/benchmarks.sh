@@ -6,13 +6,14 @@
 # Fails when an aim is missed.
 #   scripts/benchmarks.sh [options of Google Benchmark]   (--benchmark_filter=NONE: the table only)
 #   scripts/benchmarks.sh --map                           (the map page instead)
+#   scripts/benchmarks.sh --charts                        (the charts instead)
 #   scripts/benchmarks.sh --library [SESSIONS]            (the program with a large library instead)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
 
 case ${1:-} in
---map | --library)
+--map | --charts | --library)
     scripts/install-dependencies.sh --gui
     program=bench_${1#--}
     {

@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// How long the charts take with two laps of 1,200 samples, five channels and the time gap: to
+// follow the mouse, beside drawing everything anew; and to show another lap.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <vector>
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <app/darkstyle.h>
+#include <app/settings.h>
+#include <session/session.h>
+#include <views/lapchart.h>
+#include <views/lapselection.h>
+
+#include "../tests/chartpane.h"
+
+namespace zuno {
+
+namespace {
+
+constexpr int SampleCount = 1200;
+constexpr int Turns = 101;
+constexpr double CursorAim = 16.0;
+constexpr double LapAim = 100.0;
+constexpr double RatioAim = 0.5;
+
+/// Four kilometres with all channels; variants differ in pace.
+Points lap(int variant)
+{
+    Points points(SampleCount);
+    for (int i = 0; i < SampleCount; ++i) {
+        const double angle = 2 * M_PI * (i + (variant * 4 * std::sin(i / 190.0))) / SampleCount;
+        PointAcquisition &point = points[static_cast<std::size_t>(i)];
+        point.acquisitionNumber = static_cast<quint32>(i + 1);
+        point.dataTimeStamp = static_cast<quint32>(i * (100 + variant));
+        point.dataCoordX = 6 + (0.006 * (1 + 0.3 * std::sin(5 * angle)) * std::cos(angle));
+        point.dataCoordY = 46 + (0.006 * (1 + 0.3 * std::sin(5 * angle)) * std::sin(angle));
+        point.dataSpeed = 130 + (70 * std::sin(7 * angle)) + variant;
+        point.dataAngle = 45 * std::sin(11 * angle);
+        point.dataAccelXPHComputed = std::cos(7 * angle);
+        std::vector<Reading> readings(10);
+        for (int k = 0; k < 10; ++k)
+            readings[static_cast<std::size_t>(k)].value
+                = static_cast<float>(50 + (20 * std::sin(13 * angle)) + k);
+        point.addSuspension1(readings.data(), readings.size());
+        point.addSuspension2(readings.data(), readings.size());
+    }
+    return points;
+}
+
+/// Milliseconds of processor time, so that what other programs take does not count, from the start
+/// of @p act until everything is painted; the median of many.
+double median(const std::function<void(int)> &act)
+{
+    std::vector<double> times;
+    for (int turn = 0; turn < Turns; ++turn) {
+        const std::clock_t begin = std::clock();
+        act(turn);
+        // Layouts are made, and widgets painted, in the events that come of it.
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        times.push_back(1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
+    }
+    std::sort(times.begin(), times.end());
+    std::printf("  least %.2f, most %.2f ms\n", times.front(), times.back());
+    return times[times.size() / 2];
+}
+
+int run()
+{
+    const QTemporaryDir folder;
+    const Settings settings(folder.path());
+    settings.setValues({{Setting::ChartFrontSusp, true}, {Setting::ChartRearSusp, true}});
+    const Session session(QStringLiteral("Cup.ra1"));
+    Lap first(session);
+    first.setPoints(lap(0));
+    Lap second(session);
+    second.setPoints(lap(1));
+
+    LapSelection selection;
+    test::ChartPane pane;
+    LapCharts charts(pane.widgets, selection, settings);
+    pane.resize(1900, 900);
+    charts.state().showLaps(first, second);
+    pane.show();
+    QCoreApplication::processEvents();
+    const double length = charts.state().whole().to;
+    const QList<LapChart *> drawn = pane.findChildren<LapChart *>();
+
+    const double cursor
+        = median([&](int turn) { charts.state().hover(length * ((turn * 37) % Turns) / Turns); });
+    const double whole = median([&](int /*turn*/) { charts.layOut(); });
+    const double zoom
+        = median([&](int turn) { charts.state().zoom(turn % 20 < 10 ? 0.8 : 1.25, length / 3); });
+    const double one
+        = median([&](int turn) { charts.state().showLap(turn % 2 == 0 ? &first : &second); });
+    const double two = median([&](int turn) {
+        charts.state().showLaps(turn % 2 == 0 ? first : second, turn % 2 == 0 ? second : first);
+    });
+    std::printf("cursor moved: %.2f ms (aim %.0f), all %lld charts drawn anew: %.2f ms, ratio "
+                "%.2f (aim %.2f)\n",
+                cursor, CursorAim, static_cast<long long>(drawn.size()), whole, cursor / whole,
+                RatioAim);
+    std::printf("zoomed by a notch: %.2f ms (aim %.0f)\n", zoom, LapAim);
+    std::printf("another lap: %.2f ms, two others: %.2f ms (aim %.0f)\n", one, two, LapAim);
+    const bool isGood = cursor <= CursorAim && cursor / whole <= RatioAim && zoom <= LapAim
+                        && one <= LapAim && two <= LapAim;
+    return isGood ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+} // namespace zuno
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    QApplication::setStyle(new zuno::DarkStyle);
+    return zuno::run();
+}
