@@ -80,7 +80,10 @@ void LapCharts::connectParts()
     connect(&m_selection, &LapSelection::comparisonRequested, this,
             [this](const Lap *first, const Lap *second) { m_state.showLaps(*first, *second); });
     connect(&m_state, &ChartState::contentChanged, this, &LapCharts::showContent);
-    connect(&m_state, &ChartState::cursorChanged, this, &LapCharts::showCursor);
+    connect(&m_state, &ChartState::cursorChanged, this, [this] {
+        showCursor();
+        sendCursor();
+    });
     for (const QPointer<LapChart> &chart : m_charts)
         connect(&m_state, &ChartState::visibleChanged, chart, &LapChart::showVisible);
     connect(&m_state, &ChartState::visibleChanged, m_gapChart, &LapChart::showVisible);
@@ -134,6 +137,9 @@ void LapCharts::showContent()
     showCharts();
     m_labels.showLaps();
     showCursor();
+    // The map follows the cursor, so a lap that nobody has looked into yet is shown whole.
+    if (m_state.cursor() != 0)
+        sendCursor();
 }
 
 // By what is shown, so that a lap without the channel's values makes no empty chart either.
@@ -190,13 +196,19 @@ void LapCharts::layOut()
 
 void LapCharts::showCursor()
 {
-    const LapTrack *first = m_state.first();
-    if (first == nullptr)
+    if (m_state.first() == nullptr)
         return;
     for (const QPointer<LapChart> &chart : m_charts)
         chart->showCursor();
     m_gapChart->showCursor();
     m_labels.showCursor();
+}
+
+void LapCharts::sendCursor()
+{
+    const LapTrack *first = m_state.first();
+    if (first == nullptr)
+        return;
     if (first->hasFix(m_state.cursor()))
         Q_EMIT cursorMoved(payloadOf(first->points()[m_state.cursor()]));
     const double second = m_state.secondPosition();

@@ -70,6 +70,7 @@ private:
     void showAvailability();
     void showCharts();
     void showCursor();
+    void sendCursor();
     [[nodiscard]] bool isShown(std::size_t channel) const;
 
     ChartState m_state;
