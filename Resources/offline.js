@@ -73,9 +73,13 @@
         }
         getZoom() { return this.leaflet.getZoom(); }
         getBounds() { return new LatLngBounds(this.leaflet.getBounds()); }
-        /** @param {LatLngBounds} bounds @param {number} padding */
+        /** @param {LatLngBounds} bounds @param {Required<google.maps.Padding>} padding */
         fitBounds(bounds, padding) {
-            this.leaflet.fitBounds(bounds.bounds, { animate: false, padding: [padding, padding] });
+            this.leaflet.fitBounds(bounds.bounds, {
+                animate: false,
+                paddingTopLeft: [padding.left, padding.top],
+                paddingBottomRight: [padding.right, padding.bottom],
+            });
         }
         /** @param {"click"} event @param {(event: { latLng: LatLng }) => void} slot */
         addListener(event, slot) {

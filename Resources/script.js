@@ -9,6 +9,8 @@ const FirstColour = "#00FF00";
 const SecondColour = "#FF0000";
 /** How far from the line a click still means it, in pixels. */
 const ClickReach = 25;
+/** Pixels around what is shown whole: signs stand above their place. */
+const FitPadding = { top: 56, right: 30, bottom: 30, left: 30 };
 
 /** @type {google.maps.Map | null} */
 let map = null;
@@ -270,7 +272,7 @@ function fitLap() {
     const lap = boundsOf(firstLap);
     if (lap.isEmpty() || (!fitWanted && map.getBounds()?.intersects(lap)))
         return;
-    map.fitBounds(lap, 24);
+    map.fitBounds(lap, FitPadding);
     fitWanted = false;
 }
 
@@ -390,7 +392,7 @@ function showStretch(text) {
     const bounds = new google.maps.LatLngBounds();
     bounds.extend({ lat: south, lng: west });
     bounds.extend({ lat: north, lng: east });
-    map?.fitBounds(bounds, 24);
+    map?.fitBounds(bounds, FitPadding);
 }
 
 /** @param {string} text options */

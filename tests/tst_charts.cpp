@@ -210,13 +210,16 @@ void TestCharts::sector()
     session->setMap(map.get());
     Charts view;
     view.selection.setSession(session.get());
-    const QSignalSpy shown(&view.state(), &ChartState::sectorShown);
+    const QSignalSpy shown(&view.state(), &ChartState::stretchShown);
     view.state().showSector(1);
     QCOMPARE(shown.count(), 1);
     QVERIFY(std::abs(view.state().visible().from - 100) < 0.5);
     QVERIFY(std::abs(view.state().visible().to - 200) < 0.5);
     view.state().showSector(2);
     QCOMPARE(shown.count(), 1);
+    for (int i = 0; i < 2; ++i)
+        view.state().showWhole();
+    QCOMPARE(shown.count(), 2);
 }
 
 void TestCharts::comparison()

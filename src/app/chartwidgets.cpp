@@ -35,7 +35,7 @@ void connectCharts(LapCharts &charts, const LapsView &table, MapViewController &
     ChartState &state = charts.state();
     QObject::connect(&table, &LapsView::sectorChosen, &state, &ChartState::showSector);
     QObject::connect(&map, &MapViewController::samplePicked, &state, &ChartState::pinSample);
-    QObject::connect(&state, &ChartState::sectorShown, &map, &MapViewController::showStretch);
+    QObject::connect(&state, &ChartState::stretchShown, &map, &MapViewController::showStretch);
     QObject::connect(&charts, &LapCharts::cursorMoved, &map, &MapViewController::drawCursor);
     QObject::connect(&charts, &LapCharts::secondCursorMoved, &map,
                      &MapViewController::drawSecondCursor);

@@ -228,7 +228,16 @@ void ChartState::showSector(int sector)
     const Points &points = m_first->points();
     const auto from = static_cast<std::ptrdiff_t>(nearestSample(times, found->time.from));
     const auto to = static_cast<std::ptrdiff_t>(nearestSample(times, found->time.to));
-    Q_EMIT sectorShown(Points(points.begin() + from, points.begin() + to + 1));
+    m_isSectorShown = true;
+    Q_EMIT stretchShown(Points(points.begin() + from, points.begin() + to + 1));
+}
+
+void ChartState::showWhole()
+{
+    setVisible(m_whole);
+    if (m_isSectorShown && m_first != nullptr)
+        Q_EMIT stretchShown(m_first->points());
+    m_isSectorShown = false;
 }
 
 } // namespace zuno

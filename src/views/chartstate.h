@@ -75,7 +75,8 @@ public:
     void scroll(double part);
     /// Shows a stretch; too short a one is made longer.
     void showRange(const AxisRange &range);
-    void showWhole() { setVisible(m_whole); }
+    /// Shows the whole laps again.
+    void showWhole();
     void select(const std::optional<AxisRange> &range);
     /// Shows a sector of the first lap (counts from 0) and says so; nothing for one without a
     /// time.
@@ -92,8 +93,8 @@ Q_SIGNALS:
     void visibleChanged();
     void selectedChanged();
     void cursorChanged();
-    /// The samples of a sector that was zoomed to.
-    void sectorShown(const zuno::Points &points);
+    /// The samples of a sector that was zoomed to, and afterwards those of the whole lap.
+    void stretchShown(const zuno::Points &points);
 
 private:
     void replaceLaps(std::unique_ptr<LapTrack> first, std::unique_ptr<LapTrack> second,
@@ -111,6 +112,7 @@ private:
     AxisRange m_whole;
     AxisRange m_visible;
     std::optional<AxisRange> m_selected;
+    bool m_isSectorShown = false;
     std::size_t m_pinned = 0;
     std::optional<std::size_t> m_hovered;
 };
