@@ -96,9 +96,10 @@ void SessionSummary::showSections(const Session *session)
     table->resizeColumnsToContents();
     table->verticalHeader()->setDefaultSectionSize(
         m_w.laps->verticalHeader()->defaultSectionSize());
-    const int height = table->horizontalHeader()->sizeHint().height()
-                       + table->verticalHeader()->length() + (2 * table->frameWidth());
-    table->setFixedHeight(height);
+    const int head = table->horizontalHeader()->sizeHint().height() + (2 * table->frameWidth());
+    // As high as its rows where there is room; in a low pane it scrolls, the laps need it more.
+    table->setMinimumHeight(head + table->verticalHeader()->defaultSectionSize());
+    table->setMaximumHeight(head + table->verticalHeader()->length());
 }
 
 // The best time of each section, and the lap that holds it.
