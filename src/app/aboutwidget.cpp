@@ -7,7 +7,6 @@
 #include <QPixmap>
 
 #include <app/makerlinks.h>
-#include <app/settings.h>
 
 #include "ui_aboutwidget.h"
 
@@ -19,14 +18,14 @@ constexpr int LogoWidth = 300;
 
 } // namespace
 
-AboutWidget::AboutWidget(const Settings &settings, QWidget *parent)
+AboutWidget::AboutWidget(const QString &language, QWidget *parent)
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::AboutWidget>())
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
     showLogo();
-    m_ui->lb_webSite->setText(webSiteLink(settings.value(Setting::Language).toString()));
+    m_ui->lb_webSite->setText(webSiteLink(language));
     m_ui->lb_mail->setText(mailLink());
     connect(m_ui->pb_close, &QPushButton::clicked, this, &QDialog::accept);
     // The links come first in the tab order; a rider who only looks closes with Enter.

@@ -9,8 +9,6 @@
 
 namespace zuno {
 
-class Settings;
-
 namespace Ui {
 class AboutWidget;
 }
@@ -21,7 +19,8 @@ class AboutWidget final : public QDialog
     Q_OBJECT
 
 public:
-    explicit AboutWidget(const Settings &settings, QWidget *parent = nullptr);
+    /// The web site's link depends on @p language, a locale's name.
+    explicit AboutWidget(const QString &language, QWidget *parent = nullptr);
     ~AboutWidget() override;
 
 private:

@@ -2,12 +2,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QScreen>
 
 #include <app/darkstyle.h>
 #include <app/logfile.h>
 #include <app/updateapp.h>
 #include <app/zunoanalyzer.h>
+
+namespace {
+
+struct Arguments
+{
+    QString language;
+    QString file;
+};
+
+/// What the program was started with. Ends the program after --help and after what nobody knows.
+Arguments readArguments(const QApplication &application)
+{
+    // It speaks before any language is loaded, as do all programs of a command line.
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QStringLiteral("Speak that language (en, fr, de, it or es) instead of that of the "
+                       "settings, for this run."),
+        QStringLiteral("language"));
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows where time is won and lost on a race track."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOption(language);
+    parser.addPositionalArgument(QStringLiteral("file"),
+                                 QStringLiteral("A session file (*.ra1): one of the library is "
+                                                "selected, any other is offered for import."),
+                                 QStringLiteral("[file]"));
+    parser.process(application);
+    return {parser.value(language), parser.positionalArguments().value(0)};
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -16,18 +50,19 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
     // By this name a desktop finds the window's icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("com.example.ZunoAnalyzer"));
+    const Arguments arguments = readArguments(application);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
-    zuno::ZunoAnalyzer window;
+    zuno::ZunoAnalyzer window(arguments.language);
     zuno::UpdateApp updates(zuno::UpdateApp::configuredServer(), &window);
     QObject::connect(&updates, &zuno::UpdateApp::failed, &window, &zuno::ZunoAnalyzer::tell);
     updates.checkForUpdates();
     // Where no window manager maximises it, the window fills the screen all the same.
     window.resize(window.screen()->availableSize());
     window.showMaximized();
-    const QStringList files = QCoreApplication::arguments().mid(1);
-    if (!files.isEmpty())
+    if (!arguments.file.isEmpty())
         QMetaObject::invokeMethod(
-            &window, [&window, files] { window.openFile(files.first()); }, Qt::QueuedConnection);
+            &window, [&window, file = arguments.file] { window.openFile(file); },
+            Qt::QueuedConnection);
     return QApplication::exec();
 }

@@ -53,15 +53,16 @@ constexpr int MessageTime = 10000;
 
 } // namespace
 
-ZunoAnalyzer::ZunoAnalyzer(QWidget *parent)
+ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     : QMainWindow(parent)
     , m_ui(std::make_unique<Ui::ZunoAnalyzer>())
     , m_settings(Settings::defaultRoot())
+    , m_languagesFolder(QCoreApplication::applicationDirPath() + u"/languages/")
     , m_display({m_library, m_maps.library(), m_settings, m_writer})
 {
+    // Before anything that has a text or shows a number.
+    loadLanguage(language.isNull() ? m_settings.value(Setting::Language).toString() : language);
     m_ui->setupUi(this);
-    m_languagesFolder = QCoreApplication::applicationDirPath() + u"/languages/";
-    loadLanguage(m_settings.value(Setting::Language).toString());
     m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
     m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
     m_ui->tw_arbo->installEventFilter(this);
@@ -418,7 +419,7 @@ void ZunoAnalyzer::openHelp()
 
 void ZunoAnalyzer::openAbout()
 {
-    AboutWidget(m_settings, this).exec();
+    AboutWidget(m_language, this).exec();
 }
 
 bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)

@@ -40,7 +40,8 @@ class ZunoAnalyzer final : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit ZunoAnalyzer(QWidget *parent = nullptr);
+    /// Speaks @p language, a locale's name; if that is null, the language of the settings.
+    explicit ZunoAnalyzer(const QString &language = {}, QWidget *parent = nullptr);
     ~ZunoAnalyzer() override;
 
     /// Loads every session of @p folder, shows the file tree, and runs the upgrade pass once.

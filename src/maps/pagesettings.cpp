@@ -16,12 +16,16 @@ namespace zuno {
 
 namespace {
 
-QString tr(const char *text)
+/// The texts that the map page shows.
+struct MapPage
 {
-    return QCoreApplication::translate("MapPage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MapPage)
 
-QJsonObject pageTexts()
+public:
+    static QJsonObject texts();
+};
+
+QJsonObject MapPage::texts()
 {
     return {
         {QStringLiteral("braking"), tr("braking")},
@@ -55,7 +59,7 @@ void injectPageSettings(QWebEnginePage &page)
 {
     const QJsonObject settings {
         {QStringLiteral("service"), mapServiceAddress()},
-        {QStringLiteral("texts"), pageTexts()},
+        {QStringLiteral("texts"), MapPage::texts()},
     };
     QWebEngineScript script;
     script.setName(QStringLiteral("zunoPage"));
