@@ -9,6 +9,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QScreen>
 #include <QTimer>
 
 #include <views/idealtimemodel.h>
@@ -114,9 +115,9 @@ void IdealTimeDialog::showResult()
         return;
     }
     m_model->setIdealTime(idealTime);
-    fitColumns();
     m_ui->pb_copy->show();
     m_ui->stack->setCurrentWidget(m_ui->tablePage);
+    fitColumns();
     m_ui->tw_idealTime->selectRow(0);
     m_ui->tw_idealTime->setFocus();
 }
@@ -146,6 +147,12 @@ void IdealTimeDialog::fitColumns()
         const int widest = NameWidth * table.fontMetrics().averageCharWidth();
         table.setColumnWidth(column, isName ? std::min(width, widest) : width);
     }
+    // Some languages need more than the usual width.
+    const int missing = table.horizontalHeader()->length() - table.viewport()->width();
+    const int room = screen()->availableSize().width() - width();
+    const int added = std::clamp(missing, 0, std::max(room, 0));
+    resize(width() + added, height());
+    move(std::max(x() - added / 2, 0), y());
 }
 
 void IdealTimeDialog::showLap(const QModelIndex &index)
