@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # The static checks: layout (clang-format), clang-tidy, cppcheck, shellcheck, and those of the map
-# page's scripts. All of them run; the script fails when one of them does. --fix lets clang-format
-# put the layout right first.
+# page's scripts and of the translations. All of them run; the script fails when one of them does.
+# --fix lets clang-format put the layout right first.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
@@ -75,6 +75,7 @@ check clang-tidy tidy
 check cppcheck cpp
 check shellcheck shell
 check page scripts/check-page.sh
+check translations scripts/check-translations.sh
 
 if ((${#failed[@]})); then
     echo "Static checks: FAILED: ${failed[*]}"

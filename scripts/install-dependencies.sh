@@ -10,11 +10,14 @@
 #   --fuzz    only what scripts/fuzz.sh needs
 #   --page    only what scripts/check-page.sh needs
 #   --try     only what scripts/try-package.sh needs
+#   --translations  only what scripts/check-translations.sh needs
 set -euo pipefail
 
 core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
+translations=(qt6-base-dev-tools qt6-l10n-tools)
 # The virtual display, the tools that find and photograph a window on it, and letters to draw.
 gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools libjs-leaflet
+    qt6-tools-dev "${translations[@]}" qt6-translations-l10n
     libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
 fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positioning-dev)
 # The compiler brings the sanitizers' libraries itself.
@@ -34,8 +37,10 @@ for argument in "$@"; do
     --fuzz) sort_of=fuzz ;;
     --page) sort_of=page ;;
     --try) sort_of=try ;;
+    --translations) sort_of=translations ;;
     *)
-        echo "usage: ${0##*/} [--gui|--core|--fuzz|--page|--try] [--checks] [--package]" >&2
+        echo "usage: ${0##*/} [--gui|--core|--fuzz|--page|--try|--translations] [--checks]" \
+            "[--package]" >&2
         exit 2
         ;;
     esac
@@ -45,6 +50,7 @@ core) packages+=("${core[@]}") ;;
 gui) packages+=("${core[@]}" "${gui[@]}") ;;
 try) packages+=("${try[@]}") ;;
 fuzz) packages+=("${fuzz[@]}") ;;
+translations) packages+=("${translations[@]}") ;;
 page)
     # They often come from elsewhere than from Debian, and then Debian's would be in their way.
     command -v node >/dev/null || packages+=(nodejs)

@@ -12,6 +12,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -162,6 +163,33 @@ private Q_SLOTS:
         QVERIFY(home.settings.isStored(Setting::AcquisitionFolder));
         QVERIFY(home.settings.isStored(Setting::ShowLapType));
         QVERIFY(window.state().startsWith(u"There are no sessions yet."));
+    }
+
+    void languages_data()
+    {
+        QTest::addColumn<QString>("setting");
+        QTest::addColumn<QString>("forOneRun");
+        QTest::addColumn<QStringList>("texts");
+        const QStringList german {u"Karten und Runden  "_s, u"Fahrer:"_s, u"Abbrechen"_s};
+        QTest::newRow("setting") << u"de"_s << QString() << german;
+        QTest::newRow("for one run") << u"fr"_s << u"de"_s << german;
+        QTest::newRow("unknown") << u"de"_s << u"tlh"_s
+                                 << QStringList {u"Maps and Laps  "_s, u"Driver :"_s, u"Cancel"_s};
+    }
+
+    // Texts of the code, of a form, and of Qt.
+    void languages()
+    {
+        QFETCH(QString, setting);
+        QFETCH(QString, forOneRun);
+        const Home home;
+        home.settings.setValue(Setting::Language, setting);
+        const ZunoAnalyzer window(forOneRun);
+        const QStringList texts {child<QTabWidget>(window, "tabWidget").tabText(0),
+                                 child<QLabel>(window, "l_driver").text(),
+                                 QCoreApplication::translate("QPlatformTheme", "Cancel")};
+        QTEST(texts, "texts");
+        QCOMPARE(home.settings.value(Setting::Language).toString(), setting);
     }
 
     // Damaged files beside them must not keep sessions from their information.

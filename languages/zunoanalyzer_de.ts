@@ -1,0 +1,1191 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Channel</name>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>This recording holds no speed.</source>
+        <translation>Diese Aufzeichnung enthält kein Tempo.</translation>
+    </message>
+    <message>
+        <source>Lean angle, left below 0</source>
+        <translation>Schräglage, links unter 0</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>This recording holds no lean angle.</source>
+        <translation>Diese Aufzeichnung enthält keine Schräglage.</translation>
+    </message>
+    <message>
+        <source>Acceleration, braking below 0</source>
+        <translation>Beschleunigung, Bremsen unter 0</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>This recording holds no acceleration.</source>
+        <translation>Diese Aufzeichnung enthält keine Beschleunigung.</translation>
+    </message>
+    <message>
+        <source>Front suspension, mean and range</source>
+        <translation>Federung vorn, Mittel und Bereich</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>This recording holds no front suspension.</source>
+        <translation>Diese Aufzeichnung enthält keine vordere Federung.</translation>
+    </message>
+    <message>
+        <source>Rear suspension, mean and range</source>
+        <translation>Federung hinten, Mittel und Bereich</translation>
+    </message>
+    <message>
+        <source>This recording holds no rear suspension.</source>
+        <translation>Diese Aufzeichnung enthält keine hintere Federung.</translation>
+    </message>
+    <message>
+        <source>Time gap, behind above 0</source>
+        <translation>Zeitabstand, Rückstand über 0</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+</context>
+<context>
+    <name>IdealTimeSearch</name>
+    <message>
+        <source>it has been removed</source>
+        <translation>sie wurde gelöscht</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>session: reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>no map is known for the place where it was recorded</source>
+        <translation>zum Ort ihrer Aufzeichnung ist keine Karte bekannt</translation>
+    </message>
+    <message>
+        <source>it has no laps on the map &quot;%1&quot;</source>
+        <translation>sie hat keine Runden auf der Karte „%1“</translation>
+    </message>
+    <message>
+        <source>%1: it was ridden on &quot;%2&quot;</source>
+        <translation>%1: sie wurde auf „%2“ gefahren</translation>
+    </message>
+</context>
+<context>
+    <name>ImportResult</name>
+    <message>
+        <source>Imported: %1</source>
+        <translation>Importiert: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>schon vorhanden: %1</translation>
+    </message>
+    <message>
+        <source>no session files: %1</source>
+        <translation>keine Sessiondateien: %1</translation>
+    </message>
+    <message>
+        <source>another session has the name: %1</source>
+        <translation>Name von einer anderen Session belegt: %1</translation>
+    </message>
+    <message>
+        <source>could not be copied: %1</source>
+        <translation>nicht kopierbar: %1</translation>
+    </message>
+    <message>
+        <source>Import cancelled. %1</source>
+        <translation>Import abgebrochen. %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>No session files:</source>
+        <translation>Keine Sessiondateien:</translation>
+    </message>
+    <message>
+        <source>Left out, as another session has the name:</source>
+        <translation>Ausgelassen, da eine andere Session so heißt:</translation>
+    </message>
+    <message>
+        <source>Could not be copied:</source>
+        <translation>Konnten nicht kopiert werden:</translation>
+    </message>
+</context>
+<context>
+    <name>MapPage</name>
+    <message>
+        <source>braking</source>
+        <translation>Bremsen</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>Beschleunigen</translation>
+    </message>
+    <message>
+        <source>first lap</source>
+        <translation>erste Runde</translation>
+    </message>
+    <message>
+        <source>second lap</source>
+        <translation>zweite Runde</translation>
+    </message>
+    <message>
+        <source>Loading the map...</source>
+        <translation>Karte wird geladen...</translation>
+    </message>
+    <message>
+        <source>Offline map: there is no key for the satellite map</source>
+        <translation>Offline-Karte: kein Schlüssel für die Satellitenkarte</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map cannot be reached</source>
+        <translation>Offline-Karte: die Satellitenkarte ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map does not answer</source>
+        <translation>Offline-Karte: die Satellitenkarte antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map refuses the key</source>
+        <translation>Offline-Karte: die Satellitenkarte lehnt den Schlüssel ab</translation>
+    </message>
+</context>
+<context>
+    <name>SessionFile</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>is no session file</source>
+        <translation>ist keine Sessiondatei</translation>
+    </message>
+    <message>
+        <source>has a format that is too old</source>
+        <translation>hat ein zu altes Format</translation>
+    </message>
+</context>
+<context>
+    <name>SessionSummary</name>
+    <message>
+        <source>1 sample without GPS</source>
+        <translation>1 Messpunkt ohne GPS</translation>
+    </message>
+    <message>
+        <source>%1 samples without GPS</source>
+        <translation>%1 Messpunkte ohne GPS</translation>
+    </message>
+    <message>
+        <source>No map is known for the place where this session was recorded, so it cannot be cut into laps.
+
+Choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
+%1</source>
+        <translation>Zum Ort dieser Aufzeichnung ist keine Karte bekannt, daher kann die Session nicht in Runden geteilt werden.
+
+Wählen Sie mit „Karten“ (Strg+M) eine Karte, oder kopieren Sie die Kartendatei der Strecke nach
+%1</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; has no start point, so laps cannot be cut.
+
+Choose another map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>Die Karte „%1“ hat keinen Startpunkt, daher gibt es keine Runden.
+
+Wählen Sie mit „Karten“ (Strg+M) eine andere Karte.</translation>
+    </message>
+    <message>
+        <source>This session never passes the start/finish line of the map &quot;%1&quot;.
+
+If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>Diese Session überquert nie die Start-/Ziellinie der Karte „%1“.
+
+Wurde sie auf einer anderen Strecke gefahren, so wählen Sie deren Karte mit „Karten“ (Strg+M).</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Keine Karte gefunden, bitte in der Kartenauswahl eine wählen</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Länge der Karte: %1 m</translation>
+    </message>
+    <message>
+        <source>Ideal Time : %1</source>
+        <translation>Idealzeit: %1</translation>
+    </message>
+    <message>
+        <source>Traveled distance : %1 m</source>
+        <translation>Gefahrene Strecke: %1 m</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sektor</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Bestzeit</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Runde</translation>
+    </message>
+    <message>
+        <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
+        <translation>Erste gewählte Runde: Karte: %1 --- Session: %2 --- Runde Nr.: %3 --- Rundenzeit: %4 --- Max. Tempo: %5 km/h</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AboutWidget</name>
+    <message>
+        <source>About ZUNO Analyzer</source>
+        <translation>Über ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Version 1.5.0.0</source>
+        <translation>Version 1.5.0.0</translation>
+    </message>
+    <message>
+        <source>Web site :</source>
+        <translation>Website:</translation>
+    </message>
+    <message>
+        <source>Email :</source>
+        <translation>E-Mail:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CheckableComboBox</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(leer)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ConfigurationWidget</name>
+    <message>
+        <source>ZUNO Analyzer settings</source>
+        <translation>Einstellungen von ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Display colunms</source>
+        <translation>Angezeigte Spalten</translation>
+    </message>
+    <message>
+        <source>Lap type</source>
+        <translation>Rundenart</translation>
+    </message>
+    <message>
+        <source>Cumulate time</source>
+        <translation>Gesamtzeit</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Max. Tempo</translation>
+    </message>
+    <message>
+        <source>Min Speed</source>
+        <translation>Min. Tempo</translation>
+    </message>
+    <message>
+        <source>Angle left</source>
+        <translation>Schräglage links</translation>
+    </message>
+    <message>
+        <source>Angle right</source>
+        <translation>Schräglage rechts</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Beschl.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Verzög.</translation>
+    </message>
+    <message>
+        <source>Min front suspension</source>
+        <translation>Federung vorn min.</translation>
+    </message>
+    <message>
+        <source>Max front suspension</source>
+        <translation>Federung vorn max.</translation>
+    </message>
+    <message>
+        <source>Min rear suspension</source>
+        <translation>Federung hinten min.</translation>
+    </message>
+    <message>
+        <source>Max rear suspension</source>
+        <translation>Federung hinten max.</translation>
+    </message>
+    <message>
+        <source>Sectors</source>
+        <translation>Sektoren</translation>
+    </message>
+    <message>
+        <source>Display on the map</source>
+        <translation>Anzeige auf der Karte</translation>
+    </message>
+    <message>
+        <source>Show local min/max speed</source>
+        <translation>Örtliche Min./Max. des Tempos</translation>
+    </message>
+    <message>
+        <source>Show sectors points</source>
+        <translation>Zeitnahmepunkte der Sektoren</translation>
+    </message>
+    <message>
+        <source>Use gradient lap comparison</source>
+        <translation>Rundenvergleich mit Farbverlauf</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CursorLabels</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Runde %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>%1   %2 m</source>
+        <comment>time and distance since the start of the lap</comment>
+        <translation>%1   %2 m</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>Runde %1 war nicht hier</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Rückstand auf Runde %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Vorsprung auf Runde %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::DownloadInProgress</name>
+    <message>
+        <source>Download ZUNO Analyzer update</source>
+        <translation>Update von ZUNO Analyzer laden</translation>
+    </message>
+    <message>
+        <source>Downloading the new version...</source>
+        <translation>Die neue Version wird geladen...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ExportDialogs</name>
+    <message>
+        <source>Export Session file</source>
+        <translation>Sessiondatei exportieren</translation>
+    </message>
+    <message>
+        <source>RA1 files (.ra1);</source>
+        <translation>RA1-Dateien (.ra1);</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists already; nothing was exported.</source>
+        <translation>„%1“ gibt es schon; es wurde nichts exportiert.</translation>
+    </message>
+    <message>
+        <source>Export Session Data file</source>
+        <translation>Sessiondaten exportieren</translation>
+    </message>
+    <message>
+        <source>CSV files (.csv);</source>
+        <translation>CSV-Dateien (.csv);</translation>
+    </message>
+    <message>
+        <source>the session&apos;s file has changed or is gone</source>
+        <translation>die Datei der Session hat sich geändert oder ist weg</translation>
+    </message>
+    <message>
+        <source>Export Lap file</source>
+        <translation>Runde exportieren</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;.</source>
+        <translation>Nach „%1“ exportiert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>„%1“ konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeDialog</name>
+    <message>
+        <source>Multi sessions ideal time</source>
+        <translation>Idealzeit über mehrere Sessions</translation>
+    </message>
+    <message>
+        <source>%v / %m</source>
+        <translation>%v / %m</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>Tabelle kopieren</translation>
+    </message>
+    <message>
+        <source>Enter or a double click shows the lap, Ctrl+C copies the table</source>
+        <translation>Enter oder ein Doppelklick zeigt die Runde, Strg+C kopiert die Tabelle</translation>
+    </message>
+    <message>
+        <source>Computing the ideal time...</source>
+        <translation>Idealzeit wird berechnet...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Show this lap</source>
+        <translation>Diese Runde zeigen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+    <message>
+        <source>sessions : %1 of %2</source>
+        <translation>Sessions: %1 von %2</translation>
+    </message>
+    <message>
+        <source>None of these sessions can be cut into laps, so there is no ideal time.</source>
+        <translation>Keine dieser Sessions kann in Runden geteilt werden, daher gibt es keine Idealzeit.</translation>
+    </message>
+    <message>
+        <source>These sessions have no valid lap that went through a section, so there is no ideal time.</source>
+        <translation>In diesen Sessions durchfährt keine gültige Runde einen Sektor, daher gibt es keine Idealzeit.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Ausgelassen:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeModel</name>
+    <message>
+        <source>Section %1</source>
+        <translation>Sektor %1</translation>
+    </message>
+    <message>
+        <source>Ideal time</source>
+        <translation>Idealzeit</translation>
+    </message>
+    <message>
+        <source>Best lap</source>
+        <translation>Beste Runde</translation>
+    </message>
+    <message>
+        <source>Best continuous lap</source>
+        <translation>Beste durchgehende Runde</translation>
+    </message>
+    <message>
+        <source>Best continuous lap, from the end of section %1</source>
+        <translation>Beste durchgehende Runde ab Ende von Sektor %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>laps</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>What the best lap lost in a section; what a lap lost on the ideal time (seconds)</source>
+        <translation>Was die beste Runde in einem Sektor verlor; was eine Runde auf die Idealzeit verlor (Sekunden)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sektor</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Bestzeit</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Fahrer</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Runde</translation>
+    </message>
+    <message>
+        <source>In best lap</source>
+        <translation>In bester Runde</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationWriter</name>
+    <message>
+        <source>the file ends too early</source>
+        <translation>die Datei endet zu früh</translation>
+    </message>
+    <message>
+        <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
+        <translation>%1 wurde nicht geändert: %2. Änderungen bleiben bis zum Programmende erhalten.</translation>
+    </message>
+    <message>
+        <source>the file holds another recording now</source>
+        <translation>die Datei enthält jetzt eine andere Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile; its changes were kept.</source>
+        <translation>%1 wurde inzwischen von einem anderen Programm geändert; dessen Änderungen wurden beibehalten.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapChart</name>
+    <message>
+        <source>%1 m</source>
+        <comment>metres</comment>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Sektor %1</translation>
+    </message>
+    <message>
+        <source>S%1</source>
+        <comment>section, short</comment>
+        <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsTableModel</name>
+    <message>
+        <source>Complete</source>
+        <translation>Vollständig</translation>
+    </message>
+    <message>
+        <source>Incomplete</source>
+        <translation>Unvollständig</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Runde</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Cumulated time</source>
+        <translation>Gesamtzeit</translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation>Rundenzeit</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Max. Tempo</translation>
+    </message>
+    <message>
+        <source>Min speed</source>
+        <translation>Min. Tempo</translation>
+    </message>
+    <message>
+        <source>Left Angle</source>
+        <translation>Schräglage L</translation>
+    </message>
+    <message>
+        <source>Right Angle</source>
+        <translation>Schräglage R</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Beschl.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Verzög.</translation>
+    </message>
+    <message>
+        <source>Min front susp.</source>
+        <translation>Fed. vorn min.</translation>
+    </message>
+    <message>
+        <source>Max front susp.</source>
+        <translation>Fed. vorn max.</translation>
+    </message>
+    <message>
+        <source>Min rear susp.</source>
+        <translation>Fed. hinten min.</translation>
+    </message>
+    <message>
+        <source>Max rear susp.</source>
+        <translation>Fed. hinten max.</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Sektor %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsView</name>
+    <message>
+        <source>V throws a lap out or takes it back, C compares, Ctrl+E exports; the menu key shows everything that can be done with a lap</source>
+        <translation>V verwirft eine Runde oder nimmt sie zurück, C vergleicht, Strg+E exportiert; die Menütaste zeigt alles, was mit einer Runde möglich ist</translation>
+    </message>
+    <message>
+        <source>Reselect first lap</source>
+        <translation>Erste Runde neu wählen</translation>
+    </message>
+    <message>
+        <source>Export lap</source>
+        <translation>Runde exportieren</translation>
+    </message>
+    <message>
+        <source>Invalidate lap</source>
+        <translation>Runde ungültig machen</translation>
+    </message>
+    <message>
+        <source>Validate lap</source>
+        <translation>Runde gültig machen</translation>
+    </message>
+    <message>
+        <source>Compare to this lap</source>
+        <translation>Mit dieser Runde vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare this lap with...</source>
+        <translation>Diese Runde vergleichen mit...</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryTree</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Do not use [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|] characters</source>
+        <translation>Die Zeichen [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|] sind nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Export Session</source>
+        <translation>Session exportieren</translation>
+    </message>
+    <message>
+        <source>Export Session Data (CSV)</source>
+        <translation>Sessiondaten exportieren (CSV)</translation>
+    </message>
+    <message>
+        <source>Compute multisession ideal time</source>
+        <translation>Idealzeit über mehrere Sessions berechnen</translation>
+    </message>
+    <message>
+        <source>Enter displays a session, F2 renames, Del deletes</source>
+        <translation>Enter zeigt eine Session, F2 benennt um, Entf löscht</translation>
+    </message>
+    <message>
+        <source>Rename File</source>
+        <translation>Datei umbenennen</translation>
+    </message>
+    <message>
+        <source>New name :</source>
+        <translation>Neuer Name:</translation>
+    </message>
+    <message>
+        <source>There is a &quot;%1&quot; already; nothing was renamed.</source>
+        <translation>„%1“ gibt es schon; es wurde nichts umbenannt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be renamed.</source>
+        <translation>„%1“ konnte nicht umbenannt werden.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete the selected files PERMANENTLY (not moved into the trash bin)?</source>
+        <translation>Die gewählten Dateien wirklich ENDGÜLTIG löschen (nicht in den Papierkorb verschieben)?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted.</source>
+        <translation>„%1“ konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Create new folder</source>
+        <translation>Neuen Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Folder name :</source>
+        <translation>Name des Ordners:</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; could not be created.</source>
+        <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapsWidget</name>
+    <message>
+        <source>Maps Configuration</source>
+        <translation>Kartenauswahl</translation>
+    </message>
+    <message>
+        <source>Auto detect map</source>
+        <translation>Karte automatisch finden</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose other Map for session : %1</source>
+        <translation>Andere Karte wählen für die Session: %1</translation>
+    </message>
+    <message>
+        <source>No session loaded</source>
+        <translation>Keine Session geladen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionImport</name>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Importing sessions: %1 of %2</source>
+        <translation>Sessions werden importiert: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionInfos</name>
+    <message>
+        <source>%1 / %2</source>
+        <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStats</name>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Mehrere</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Strecke:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Motorrad:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Fahrer:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Veranstaltung:</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Streckenzustand:</translation>
+    </message>
+    <message>
+        <source>Reset all filters</source>
+        <translation>Filter zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Sessions without a lap time are not listed</source>
+        <translation>Sessions ohne Rundenzeit sind nicht aufgeführt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Sessions : %1 of %2</source>
+        <translation>Sessions: %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStatsTableModel</name>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Best Lap</source>
+        <translation>Beste Runde</translation>
+    </message>
+    <message>
+        <source>Ideal Time</source>
+        <translation>Idealzeit</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Motorrad</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Fahrer</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Veranstaltung</translation>
+    </message>
+    <message>
+        <source>Track condition</source>
+        <translation>Streckenzustand</translation>
+    </message>
+    <message>
+        <source>Track temperature</source>
+        <translation>Streckentemp.</translation>
+    </message>
+    <message>
+        <source>Tires</source>
+        <translation>Reifen</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notizen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::StorableEdits</name>
+    <message>
+        <source>Replaced: %1</source>
+        <translation>Ersetzt: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>Cut at %1 characters</source>
+        <translation>Nach %1 Zeichen abgeschnitten</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::TemperatureBox</name>
+    <message>
+        <source>unknown</source>
+        <extracomment>A track temperature that nobody noted.</extracomment>
+        <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpdateApp</name>
+    <message>
+        <source>ZUNO Analyzer update</source>
+        <translation>Update von ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available. 
+Do you want to download it now?</source>
+        <translation>Eine neue Version des Programms ist verfügbar. 
+Jetzt herunterladen?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The new version could not be downloaded and started.</source>
+        <translation>Die neue Version konnte nicht geladen und gestartet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpgradePass</name>
+    <message>
+        <source>Adding additionnal infos to sessions - for version 1.4.0.0 </source>
+        <translation>Zusätzliche Angaben zu den Sessions - für Version 1.4.0.0 </translation>
+    </message>
+    <message>
+        <source> sessions to parse 
+In order to have access to all your statistics with this new version of Analyzer, let this analysis finish </source>
+        <translation> Sessions zu lesen 
+Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie diese Auswertung zu Ende laufen </translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ZunoAnalyzer</name>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Karte und Runden</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Idealzeit:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Gefahrene Strecke:</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Die Bestzeit jedes Sektors und die Runde, in der sie gefahren wurde</translation>
+    </message>
+    <message>
+        <source>Map :</source>
+        <translation>Karte:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Länge der Karte:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Beschl./Verzög.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Fed. vorn</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Fed. hinten</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Positionen vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Zeit vergleichen</translation>
+    </message>
+    <message>
+        <source>Sessions infos</source>
+        <translation>Session-Infos</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Strecke:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Beste Runde:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Veranstaltung:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Fahrer:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Motorrad:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Reifen:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Streckentemperatur:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Streckenzustand:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notizen:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Hier zum Beispiel Reifendrücke und Fahrwerkseinstellungen eintragen...</translation>
+    </message>
+    <message>
+        <source>   Import   </source>
+        <translation>   Importieren   </translation>
+    </message>
+    <message>
+        <source>   Settings   </source>
+        <translation>   Einstellungen   </translation>
+    </message>
+    <message>
+        <source>   Maps   </source>
+        <translation>   Karten   </translation>
+    </message>
+    <message>
+        <source>   Statistics   </source>
+        <translation>   Statistik   </translation>
+    </message>
+    <message>
+        <source>   Help   </source>
+        <translation>   Hilfe   </translation>
+    </message>
+    <message>
+        <source>Maps and Laps  </source>
+        <translation>Karten und Runden  </translation>
+    </message>
+    <message>
+        <source> Session infos  </source>
+        <translation> Session-Infos  </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no session that can be shown: it is damaged, empty, or was written by something else.</source>
+        <translation>„%1“ enthält keine darstellbare Session: die Datei ist beschädigt, leer oder anderer Herkunft.</translation>
+    </message>
+    <message>
+        <source>Select one or more session files to import</source>
+        <translation>Eine oder mehrere Sessiondateien zum Importieren wählen</translation>
+    </message>
+    <message>
+        <source>RA1 Files (*.ra1)</source>
+        <translation>RA1-Dateien (*.ra1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in your library. Do you want to import it?</source>
+        <translation>„%1“ ist nicht in Ihrer Bibliothek. Importieren?</translation>
+    </message>
+    <message>
+        <source>There are no sessions yet.
+
+Drop the session files (.ra1) of your logger here, choose them with &quot;Import&quot; (Ctrl+I), or copy them to
+%1</source>
+        <translation>Es gibt noch keine Sessions.
+
+Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit „Importieren“ (Strg+I), oder kopieren Sie sie nach
+%1</translation>
+    </message>
+    <message>
+        <source>Select a session in the list on the left to see its laps.</source>
+        <translation>Wählen Sie links eine Session, um ihre Runden zu sehen.</translation>
+    </message>
+    <message>
+        <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
+        <translation>Runde %1 (%2) gegen Runde %3 (%4): %5 s</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1191 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Channel</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>This recording holds no speed.</source>
+        <translation>Esta grabación no contiene la velocidad.</translation>
+    </message>
+    <message>
+        <source>Lean angle, left below 0</source>
+        <translation>Inclinación, izquierda por debajo de 0</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>This recording holds no lean angle.</source>
+        <translation>Esta grabación no contiene la inclinación.</translation>
+    </message>
+    <message>
+        <source>Acceleration, braking below 0</source>
+        <translation>Aceleración, frenada por debajo de 0</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>This recording holds no acceleration.</source>
+        <translation>Esta grabación no contiene aceleración.</translation>
+    </message>
+    <message>
+        <source>Front suspension, mean and range</source>
+        <translation>Suspensión delantera, media y rango</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>This recording holds no front suspension.</source>
+        <translation>Esta grabación no contiene la suspensión delantera.</translation>
+    </message>
+    <message>
+        <source>Rear suspension, mean and range</source>
+        <translation>Suspensión trasera, media y rango</translation>
+    </message>
+    <message>
+        <source>This recording holds no rear suspension.</source>
+        <translation>Esta grabación no contiene la suspensión trasera.</translation>
+    </message>
+    <message>
+        <source>Time gap, behind above 0</source>
+        <translation>Diferencia de tiempo, retraso por encima de 0</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+</context>
+<context>
+    <name>IdealTimeSearch</name>
+    <message>
+        <source>it has been removed</source>
+        <translation>se ha eliminado</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>session: reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>no map is known for the place where it was recorded</source>
+        <translation>no se conoce ningún mapa del lugar donde se grabó</translation>
+    </message>
+    <message>
+        <source>it has no laps on the map &quot;%1&quot;</source>
+        <translation>no tiene vueltas en el mapa «%1»</translation>
+    </message>
+    <message>
+        <source>%1: it was ridden on &quot;%2&quot;</source>
+        <translation>%1: se rodó en «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>ImportResult</name>
+    <message>
+        <source>Imported: %1</source>
+        <translation>Importadas: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>ya presentes: %1</translation>
+    </message>
+    <message>
+        <source>no session files: %1</source>
+        <translation>no son archivos de sesión: %1</translation>
+    </message>
+    <message>
+        <source>another session has the name: %1</source>
+        <translation>nombre ya usado por otra sesión: %1</translation>
+    </message>
+    <message>
+        <source>could not be copied: %1</source>
+        <translation>no se pudieron copiar: %1</translation>
+    </message>
+    <message>
+        <source>Import cancelled. %1</source>
+        <translation>Importación cancelada. %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>No session files:</source>
+        <translation>No son archivos de sesión:</translation>
+    </message>
+    <message>
+        <source>Left out, as another session has the name:</source>
+        <translation>Omitidos, porque otra sesión tiene el mismo nombre:</translation>
+    </message>
+    <message>
+        <source>Could not be copied:</source>
+        <translation>No se pudieron copiar:</translation>
+    </message>
+</context>
+<context>
+    <name>MapPage</name>
+    <message>
+        <source>braking</source>
+        <translation>frenada</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>aceleración</translation>
+    </message>
+    <message>
+        <source>first lap</source>
+        <translation>primera vuelta</translation>
+    </message>
+    <message>
+        <source>second lap</source>
+        <translation>segunda vuelta</translation>
+    </message>
+    <message>
+        <source>Loading the map...</source>
+        <translation>Cargando el mapa...</translation>
+    </message>
+    <message>
+        <source>Offline map: there is no key for the satellite map</source>
+        <translation>Mapa sin conexión: no hay clave para el mapa por satélite</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map cannot be reached</source>
+        <translation>Mapa sin conexión: no se puede acceder al mapa por satélite</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map does not answer</source>
+        <translation>Mapa sin conexión: el mapa por satélite no responde</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map refuses the key</source>
+        <translation>Mapa sin conexión: el mapa por satélite rechaza la clave</translation>
+    </message>
+</context>
+<context>
+    <name>SessionFile</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>is no session file</source>
+        <translation>no es un archivo de sesión</translation>
+    </message>
+    <message>
+        <source>has a format that is too old</source>
+        <translation>tiene un formato demasiado antiguo</translation>
+    </message>
+</context>
+<context>
+    <name>SessionSummary</name>
+    <message>
+        <source>1 sample without GPS</source>
+        <translation>1 muestra sin GPS</translation>
+    </message>
+    <message>
+        <source>%1 samples without GPS</source>
+        <translation>%1 muestras sin GPS</translation>
+    </message>
+    <message>
+        <source>No map is known for the place where this session was recorded, so it cannot be cut into laps.
+
+Choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
+%1</source>
+        <translation>No se conoce ningún mapa del lugar donde se grabó esta sesión, por lo que no se puede dividir en vueltas.
+
+Elija un mapa con «Mapas» (Ctrl+M) o copie el archivo de mapa del circuito en
+%1</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; has no start point, so laps cannot be cut.
+
+Choose another map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>El mapa «%1» no tiene punto de salida, por lo que no se pueden obtener vueltas.
+
+Elija otro mapa con «Mapas» (Ctrl+M).</translation>
+    </message>
+    <message>
+        <source>This session never passes the start/finish line of the map &quot;%1&quot;.
+
+If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>Esta sesión nunca pasa por la línea de salida/meta del mapa «%1».
+
+Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Ningún mapa encontrado, elija uno en la configuración de mapas</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mapa: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Longitud del mapa: %1 m</translation>
+    </message>
+    <message>
+        <source>Ideal Time : %1</source>
+        <translation>Tiempo ideal: %1</translation>
+    </message>
+    <message>
+        <source>Traveled distance : %1 m</source>
+        <translation>Distancia recorrida: %1 m</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sector</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Mejor tiempo</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Vuelta</translation>
+    </message>
+    <message>
+        <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
+        <translation>Primera vuelta elegida: Mapa: %1 --- Sesión: %2 --- Vuelta n.º: %3 --- Tiempo: %4 --- Velocidad máx.: %5 km/h</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AboutWidget</name>
+    <message>
+        <source>About ZUNO Analyzer</source>
+        <translation>Acerca de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Version 1.5.0.0</source>
+        <translation>Versión 1.5.0.0</translation>
+    </message>
+    <message>
+        <source>Web site :</source>
+        <translation>Sitio web:</translation>
+    </message>
+    <message>
+        <source>Email :</source>
+        <translation>Correo:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CheckableComboBox</name>
+    <message>
+        <source>All</source>
+        <translation>Todos</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vacío)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ConfigurationWidget</name>
+    <message>
+        <source>ZUNO Analyzer settings</source>
+        <translation>Ajustes de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Display colunms</source>
+        <translation>Columnas visibles</translation>
+    </message>
+    <message>
+        <source>Lap type</source>
+        <translation>Tipo de vuelta</translation>
+    </message>
+    <message>
+        <source>Cumulate time</source>
+        <translation>Tiempo acumulado</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Velocidad máx.</translation>
+    </message>
+    <message>
+        <source>Min Speed</source>
+        <translation>Velocidad mín.</translation>
+    </message>
+    <message>
+        <source>Angle left</source>
+        <translation>Inclinación izquierda</translation>
+    </message>
+    <message>
+        <source>Angle right</source>
+        <translation>Inclinación derecha</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Acel.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Decel.</translation>
+    </message>
+    <message>
+        <source>Min front suspension</source>
+        <translation>Suspensión delantera mín.</translation>
+    </message>
+    <message>
+        <source>Max front suspension</source>
+        <translation>Suspensión delantera máx.</translation>
+    </message>
+    <message>
+        <source>Min rear suspension</source>
+        <translation>Suspensión trasera mín.</translation>
+    </message>
+    <message>
+        <source>Max rear suspension</source>
+        <translation>Suspensión trasera máx.</translation>
+    </message>
+    <message>
+        <source>Sectors</source>
+        <translation>Sectores</translation>
+    </message>
+    <message>
+        <source>Display on the map</source>
+        <translation>Mostrar en el mapa</translation>
+    </message>
+    <message>
+        <source>Show local min/max speed</source>
+        <translation>Velocidades mín./máx. locales</translation>
+    </message>
+    <message>
+        <source>Show sectors points</source>
+        <translation>Puntos de los sectores</translation>
+    </message>
+    <message>
+        <source>Use gradient lap comparison</source>
+        <translation>Comparar vueltas con degradado</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CursorLabels</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Vuelta %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>%1   %2 m</source>
+        <comment>time and distance since the start of the lap</comment>
+        <translation>%1   %2 m</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>La vuelta %1 no pasó por aquí</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Retraso sobre la vuelta %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Ventaja sobre la vuelta %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::DownloadInProgress</name>
+    <message>
+        <source>Download ZUNO Analyzer update</source>
+        <translation>Descargar la actualización de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Downloading the new version...</source>
+        <translation>Descargando la nueva versión...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ExportDialogs</name>
+    <message>
+        <source>Export Session file</source>
+        <translation>Exportar el archivo de la sesión</translation>
+    </message>
+    <message>
+        <source>RA1 files (.ra1);</source>
+        <translation>Archivos RA1 (.ra1);</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists already; nothing was exported.</source>
+        <translation>«%1» ya existe; no se ha exportado nada.</translation>
+    </message>
+    <message>
+        <source>Export Session Data file</source>
+        <translation>Exportar los datos de la sesión</translation>
+    </message>
+    <message>
+        <source>CSV files (.csv);</source>
+        <translation>Archivos CSV (.csv);</translation>
+    </message>
+    <message>
+        <source>the session&apos;s file has changed or is gone</source>
+        <translation>el archivo de la sesión ha cambiado o ya no existe</translation>
+    </message>
+    <message>
+        <source>Export Lap file</source>
+        <translation>Exportar la vuelta</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;.</source>
+        <translation>Exportado a «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>No se pudo escribir «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeDialog</name>
+    <message>
+        <source>Multi sessions ideal time</source>
+        <translation>Tiempo ideal de varias sesiones</translation>
+    </message>
+    <message>
+        <source>%v / %m</source>
+        <translation>%v / %m</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>Copiar la tabla</translation>
+    </message>
+    <message>
+        <source>Enter or a double click shows the lap, Ctrl+C copies the table</source>
+        <translation>Intro o un doble clic muestra la vuelta, Ctrl+C copia la tabla</translation>
+    </message>
+    <message>
+        <source>Computing the ideal time...</source>
+        <translation>Calculando el tiempo ideal...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Show this lap</source>
+        <translation>Mostrar esta vuelta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mapa: %1</translation>
+    </message>
+    <message>
+        <source>sessions : %1 of %2</source>
+        <translation>sesiones: %1 de %2</translation>
+    </message>
+    <message>
+        <source>None of these sessions can be cut into laps, so there is no ideal time.</source>
+        <translation>Ninguna de estas sesiones se puede dividir en vueltas, por lo que no hay tiempo ideal.</translation>
+    </message>
+    <message>
+        <source>These sessions have no valid lap that went through a section, so there is no ideal time.</source>
+        <translation>En estas sesiones ninguna vuelta válida recorre un sector, por lo que no hay tiempo ideal.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Omitidas:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeModel</name>
+    <message>
+        <source>Section %1</source>
+        <translation>Sector %1</translation>
+    </message>
+    <message>
+        <source>Ideal time</source>
+        <translation>Tiempo ideal</translation>
+    </message>
+    <message>
+        <source>Best lap</source>
+        <translation>Mejor vuelta</translation>
+    </message>
+    <message>
+        <source>Best continuous lap</source>
+        <translation>Mejor vuelta continua</translation>
+    </message>
+    <message>
+        <source>Best continuous lap, from the end of section %1</source>
+        <translation>Mejor vuelta continua, desde fin de sector %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>laps</comment>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>What the best lap lost in a section; what a lap lost on the ideal time (seconds)</source>
+        <translation>Lo que la mejor vuelta perdió en un sector; lo que una vuelta perdió respecto al tiempo ideal (segundos)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sector</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Mejor tiempo</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sesión</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Piloto</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Vuelta</translation>
+    </message>
+    <message>
+        <source>In best lap</source>
+        <translation>Mejor vuelta</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationWriter</name>
+    <message>
+        <source>the file ends too early</source>
+        <translation>el archivo termina antes de tiempo</translation>
+    </message>
+    <message>
+        <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
+        <translation>%1 no se ha modificado: %2. Los cambios se conservan hasta cerrar el programa.</translation>
+    </message>
+    <message>
+        <source>the file holds another recording now</source>
+        <translation>el archivo contiene ahora otra grabación</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile; its changes were kept.</source>
+        <translation>Otro programa modificó %1 entretanto; se conservaron sus cambios.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapChart</name>
+    <message>
+        <source>%1 m</source>
+        <comment>metres</comment>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Sector %1</translation>
+    </message>
+    <message>
+        <source>S%1</source>
+        <comment>section, short</comment>
+        <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsTableModel</name>
+    <message>
+        <source>Complete</source>
+        <translation>Completa</translation>
+    </message>
+    <message>
+        <source>Incomplete</source>
+        <translation>Incompleta</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Vuelta</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Cumulated time</source>
+        <translation>Acumulado</translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation>Tiempo vuelta</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Vel. máx.</translation>
+    </message>
+    <message>
+        <source>Min speed</source>
+        <translation>Vel. mín.</translation>
+    </message>
+    <message>
+        <source>Left Angle</source>
+        <translation>Inclin. izq.</translation>
+    </message>
+    <message>
+        <source>Right Angle</source>
+        <translation>Inclin. der.</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Acel.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Decel.</translation>
+    </message>
+    <message>
+        <source>Min front susp.</source>
+        <translation>Susp. del. mín.</translation>
+    </message>
+    <message>
+        <source>Max front susp.</source>
+        <translation>Susp. del. máx.</translation>
+    </message>
+    <message>
+        <source>Min rear susp.</source>
+        <translation>Susp. tras. mín.</translation>
+    </message>
+    <message>
+        <source>Max rear susp.</source>
+        <translation>Susp. tras. máx.</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Sector %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsView</name>
+    <message>
+        <source>V throws a lap out or takes it back, C compares, Ctrl+E exports; the menu key shows everything that can be done with a lap</source>
+        <translation>V descarta una vuelta o la recupera, C compara, Ctrl+E exporta; la tecla Menú muestra todo lo que se puede hacer con una vuelta</translation>
+    </message>
+    <message>
+        <source>Reselect first lap</source>
+        <translation>Elegir otra primera vuelta</translation>
+    </message>
+    <message>
+        <source>Export lap</source>
+        <translation>Exportar la vuelta</translation>
+    </message>
+    <message>
+        <source>Invalidate lap</source>
+        <translation>Invalidar la vuelta</translation>
+    </message>
+    <message>
+        <source>Validate lap</source>
+        <translation>Validar la vuelta</translation>
+    </message>
+    <message>
+        <source>Compare to this lap</source>
+        <translation>Comparar con esta vuelta</translation>
+    </message>
+    <message>
+        <source>Compare this lap with...</source>
+        <translation>Comparar esta vuelta con...</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryTree</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Do not use [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|] characters</source>
+        <translation>No use los caracteres [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|]</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nueva carpeta</translation>
+    </message>
+    <message>
+        <source>Export Session</source>
+        <translation>Exportar la sesión</translation>
+    </message>
+    <message>
+        <source>Export Session Data (CSV)</source>
+        <translation>Exportar los datos de la sesión (CSV)</translation>
+    </message>
+    <message>
+        <source>Compute multisession ideal time</source>
+        <translation>Calcular el tiempo ideal de varias sesiones</translation>
+    </message>
+    <message>
+        <source>Enter displays a session, F2 renames, Del deletes</source>
+        <translation>Intro muestra una sesión, F2 cambia el nombre, Supr elimina</translation>
+    </message>
+    <message>
+        <source>Rename File</source>
+        <translation>Cambiar el nombre del archivo</translation>
+    </message>
+    <message>
+        <source>New name :</source>
+        <translation>Nuevo nombre:</translation>
+    </message>
+    <message>
+        <source>There is a &quot;%1&quot; already; nothing was renamed.</source>
+        <translation>«%1» ya existe; no se ha cambiado ningún nombre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be renamed.</source>
+        <translation>No se pudo cambiar el nombre de «%1».</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete the selected files PERMANENTLY (not moved into the trash bin)?</source>
+        <translation>¿Seguro que desea eliminar PERMANENTEMENTE los archivos seleccionados (sin moverlos a la papelera)?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted.</source>
+        <translation>No se pudo eliminar «%1».</translation>
+    </message>
+    <message>
+        <source>Create new folder</source>
+        <translation>Crear una carpeta</translation>
+    </message>
+    <message>
+        <source>Folder name :</source>
+        <translation>Nombre de la carpeta:</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; could not be created.</source>
+        <translation>No se pudo crear la carpeta «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapsWidget</name>
+    <message>
+        <source>Maps Configuration</source>
+        <translation>Configuración de mapas</translation>
+    </message>
+    <message>
+        <source>Auto detect map</source>
+        <translation>Detectar el mapa</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Choose other Map for session : %1</source>
+        <translation>Elegir otro mapa para la sesión: %1</translation>
+    </message>
+    <message>
+        <source>No session loaded</source>
+        <translation>Ninguna sesión cargada</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionImport</name>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Importing sessions: %1 of %2</source>
+        <translation>Importando sesiones: %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionInfos</name>
+    <message>
+        <source>%1 / %2</source>
+        <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStats</name>
+    <message>
+        <source>Statistics</source>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Varios</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Piloto:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Estado de la pista:</translation>
+    </message>
+    <message>
+        <source>Reset all filters</source>
+        <translation>Quitar los filtros</translation>
+    </message>
+    <message>
+        <source>Sessions without a lap time are not listed</source>
+        <translation>Las sesiones sin tiempo de vuelta no aparecen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Sessions : %1 of %2</source>
+        <translation>Sesiones: %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStatsTableModel</name>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Circuito</translation>
+    </message>
+    <message>
+        <source>Best Lap</source>
+        <translation>Mejor vuelta</translation>
+    </message>
+    <message>
+        <source>Ideal Time</source>
+        <translation>Tiempo ideal</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Moto</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Piloto</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Track condition</source>
+        <translation>Estado de la pista</translation>
+    </message>
+    <message>
+        <source>Track temperature</source>
+        <translation>Temp. pista</translation>
+    </message>
+    <message>
+        <source>Tires</source>
+        <translation>Neumáticos</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notas</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::StorableEdits</name>
+    <message>
+        <source>Replaced: %1</source>
+        <translation>Reemplazados: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Omitidos: %1</translation>
+    </message>
+    <message>
+        <source>Cut at %1 characters</source>
+        <translation>Cortado a %1 caracteres</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::TemperatureBox</name>
+    <message>
+        <source>unknown</source>
+        <extracomment>A track temperature that nobody noted.</extracomment>
+        <translation>desconocida</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpdateApp</name>
+    <message>
+        <source>ZUNO Analyzer update</source>
+        <translation>Actualización de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available. 
+Do you want to download it now?</source>
+        <translation>Hay una nueva versión de la aplicación. 
+¿Desea descargarla ahora?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The new version could not be downloaded and started.</source>
+        <translation>No se pudo descargar e iniciar la nueva versión.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpgradePass</name>
+    <message>
+        <source>Adding additionnal infos to sessions - for version 1.4.0.0 </source>
+        <translation>Añadiendo información a las sesiones - para la versión 1.4.0.0 </translation>
+    </message>
+    <message>
+        <source> sessions to parse 
+In order to have access to all your statistics with this new version of Analyzer, let this analysis finish </source>
+        <translation> sesiones por analizar 
+Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje terminar este análisis </translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ZunoAnalyzer</name>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Mapa y vueltas</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tiempo ideal:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distancia recorrida:</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>El mejor tiempo de cada sector y la vuelta en que se hizo</translation>
+    </message>
+    <message>
+        <source>Map :</source>
+        <translation>Mapa:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Longitud del mapa:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Acel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. del.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. tras.</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Comparar posiciones</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Comparar tiempo</translation>
+    </message>
+    <message>
+        <source>Sessions infos</source>
+        <translation>Datos de sesiones</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Mejor vuelta:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Piloto:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Neumáticos:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. de la pista:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>grados</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Estado de la pista:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notas:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Anote aquí, por ejemplo, las presiones de los neumáticos, los reglajes de suspensión...</translation>
+    </message>
+    <message>
+        <source>   Import   </source>
+        <translation>   Importar   </translation>
+    </message>
+    <message>
+        <source>   Settings   </source>
+        <translation>   Ajustes   </translation>
+    </message>
+    <message>
+        <source>   Maps   </source>
+        <translation>   Mapas   </translation>
+    </message>
+    <message>
+        <source>   Statistics   </source>
+        <translation>   Estadísticas   </translation>
+    </message>
+    <message>
+        <source>   Help   </source>
+        <translation>   Ayuda   </translation>
+    </message>
+    <message>
+        <source>Maps and Laps  </source>
+        <translation>Mapas y vueltas  </translation>
+    </message>
+    <message>
+        <source> Session infos  </source>
+        <translation> Datos de la sesión  </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no session that can be shown: it is damaged, empty, or was written by something else.</source>
+        <translation>«%1» no contiene ninguna sesión que se pueda mostrar: el archivo está dañado, vacío o es de otro origen.</translation>
+    </message>
+    <message>
+        <source>Select one or more session files to import</source>
+        <translation>Elija uno o más archivos de sesión para importar</translation>
+    </message>
+    <message>
+        <source>RA1 Files (*.ra1)</source>
+        <translation>Archivos RA1 (*.ra1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in your library. Do you want to import it?</source>
+        <translation>«%1» no está en su biblioteca. ¿Desea importarlo?</translation>
+    </message>
+    <message>
+        <source>There are no sessions yet.
+
+Drop the session files (.ra1) of your logger here, choose them with &quot;Import&quot; (Ctrl+I), or copy them to
+%1</source>
+        <translation>Todavía no hay sesiones.
+
+Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con «Importar» (Ctrl+I) o cópielos en
+%1</translation>
+    </message>
+    <message>
+        <source>Select a session in the list on the left to see its laps.</source>
+        <translation>Elija una sesión en la lista de la izquierda para ver sus vueltas.</translation>
+    </message>
+    <message>
+        <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
+        <translation>Vuelta %1 (%2) frente a vuelta %3 (%4): %5 s</translation>
+    </message>
+</context>
+</TS>

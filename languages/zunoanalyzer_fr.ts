@@ -1,0 +1,1191 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Channel</name>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>This recording holds no speed.</source>
+        <translation>Cet enregistrement ne contient pas de vitesse.</translation>
+    </message>
+    <message>
+        <source>Lean angle, left below 0</source>
+        <translation>Angle d&apos;inclinaison, gauche sous 0</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>This recording holds no lean angle.</source>
+        <translation>Cet enregistrement ne contient pas d&apos;angle d&apos;inclinaison.</translation>
+    </message>
+    <message>
+        <source>Acceleration, braking below 0</source>
+        <translation>Accélération, freinage sous 0</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>This recording holds no acceleration.</source>
+        <translation>Cet enregistrement ne contient pas d&apos;accélération.</translation>
+    </message>
+    <message>
+        <source>Front suspension, mean and range</source>
+        <translation>Suspension avant, moyenne et plage</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>This recording holds no front suspension.</source>
+        <translation>Cet enregistrement ne contient pas de suspension avant.</translation>
+    </message>
+    <message>
+        <source>Rear suspension, mean and range</source>
+        <translation>Suspension arrière, moyenne et plage</translation>
+    </message>
+    <message>
+        <source>This recording holds no rear suspension.</source>
+        <translation>Cet enregistrement ne contient pas de suspension arrière.</translation>
+    </message>
+    <message>
+        <source>Time gap, behind above 0</source>
+        <translation>Écart de temps, retard au-dessus de 0</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+</context>
+<context>
+    <name>IdealTimeSearch</name>
+    <message>
+        <source>it has been removed</source>
+        <translation>elle a été supprimée</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>session: reason</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>no map is known for the place where it was recorded</source>
+        <translation>aucune carte n&apos;est connue pour le lieu de son enregistrement</translation>
+    </message>
+    <message>
+        <source>it has no laps on the map &quot;%1&quot;</source>
+        <translation>elle ne contient aucun tour sur la carte «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1: it was ridden on &quot;%2&quot;</source>
+        <translation>%1&#xa0;: elle a été roulée sur «&#xa0;%2&#xa0;»</translation>
+    </message>
+</context>
+<context>
+    <name>ImportResult</name>
+    <message>
+        <source>Imported: %1</source>
+        <translation>Importées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>déjà présentes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>no session files: %1</source>
+        <translation>pas des fichiers de session&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>another session has the name: %1</source>
+        <translation>nom déjà pris par une autre session&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>could not be copied: %1</source>
+        <translation>copie impossible&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Import cancelled. %1</source>
+        <translation>Importation annulée. %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>No session files:</source>
+        <translation>Pas des fichiers de session&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Left out, as another session has the name:</source>
+        <translation>Ignorés, car une autre session porte ce nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Could not be copied:</source>
+        <translation>N&apos;ont pas pu être copiés&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>MapPage</name>
+    <message>
+        <source>braking</source>
+        <translation>freinage</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>accélération</translation>
+    </message>
+    <message>
+        <source>first lap</source>
+        <translation>premier tour</translation>
+    </message>
+    <message>
+        <source>second lap</source>
+        <translation>second tour</translation>
+    </message>
+    <message>
+        <source>Loading the map...</source>
+        <translation>Chargement de la carte...</translation>
+    </message>
+    <message>
+        <source>Offline map: there is no key for the satellite map</source>
+        <translation>Carte hors ligne&#xa0;: aucune clé pour la carte satellite</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map cannot be reached</source>
+        <translation>Carte hors ligne&#xa0;: la carte satellite est inaccessible</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map does not answer</source>
+        <translation>Carte hors ligne&#xa0;: la carte satellite ne répond pas</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map refuses the key</source>
+        <translation>Carte hors ligne&#xa0;: la carte satellite refuse la clé</translation>
+    </message>
+</context>
+<context>
+    <name>SessionFile</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>is no session file</source>
+        <translation>n&apos;est pas un fichier de session</translation>
+    </message>
+    <message>
+        <source>has a format that is too old</source>
+        <translation>est d&apos;un format trop ancien</translation>
+    </message>
+</context>
+<context>
+    <name>SessionSummary</name>
+    <message>
+        <source>1 sample without GPS</source>
+        <translation>1 point sans GPS</translation>
+    </message>
+    <message>
+        <source>%1 samples without GPS</source>
+        <translation>%1 points sans GPS</translation>
+    </message>
+    <message>
+        <source>No map is known for the place where this session was recorded, so it cannot be cut into laps.
+
+Choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
+%1</source>
+        <translation>Aucune carte n&apos;est connue pour le lieu où cette session a été enregistrée&#xa0;: elle ne peut pas être découpée en tours.
+
+Choisissez une carte avec «&#xa0;Cartes&#xa0;» (Ctrl+M) ou copiez le fichier de carte du circuit dans
+%1</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; has no start point, so laps cannot be cut.
+
+Choose another map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>La carte «&#xa0;%1&#xa0;» n&apos;a pas de point de départ&#xa0;: les tours ne peuvent pas être découpés.
+
+Choisissez une autre carte avec «&#xa0;Cartes&#xa0;» (Ctrl+M).</translation>
+    </message>
+    <message>
+        <source>This session never passes the start/finish line of the map &quot;%1&quot;.
+
+If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>Cette session ne franchit jamais la ligne de départ/arrivée de la carte «&#xa0;%1&#xa0;».
+
+Si elle a été roulée sur un autre circuit, choisissez la carte de ce circuit avec «&#xa0;Cartes&#xa0;» (Ctrl+M).</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Aucune carte trouvée, choisissez-en une dans la configuration des cartes</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Longueur de la carte&#xa0;: %1 m</translation>
+    </message>
+    <message>
+        <source>Ideal Time : %1</source>
+        <translation>Temps idéal&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Traveled distance : %1 m</source>
+        <translation>Distance parcourue&#xa0;: %1 m</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Secteur</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Meilleur temps</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Tour</translation>
+    </message>
+    <message>
+        <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
+        <translation>Infos du premier tour choisi&#xa0;: Carte&#xa0;: %1 --- Session&#xa0;: %2 --- Tour n°&#xa0;: %3 --- Temps&#xa0;: %4 --- Vitesse max.&#xa0;: %5 km/h</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AboutWidget</name>
+    <message>
+        <source>About ZUNO Analyzer</source>
+        <translation>À propos de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Version 1.5.0.0</source>
+        <translation>Version 1.5.0.0</translation>
+    </message>
+    <message>
+        <source>Web site :</source>
+        <translation>Site web&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Email :</source>
+        <translation>E-mail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CheckableComboBox</name>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vide)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ConfigurationWidget</name>
+    <message>
+        <source>ZUNO Analyzer settings</source>
+        <translation>Paramètres de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Display colunms</source>
+        <translation>Colonnes à afficher</translation>
+    </message>
+    <message>
+        <source>Lap type</source>
+        <translation>Type de tour</translation>
+    </message>
+    <message>
+        <source>Cumulate time</source>
+        <translation>Temps cumulé</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Vitesse max.</translation>
+    </message>
+    <message>
+        <source>Min Speed</source>
+        <translation>Vitesse min.</translation>
+    </message>
+    <message>
+        <source>Angle left</source>
+        <translation>Angle gauche</translation>
+    </message>
+    <message>
+        <source>Angle right</source>
+        <translation>Angle droit</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Accél.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Décél.</translation>
+    </message>
+    <message>
+        <source>Min front suspension</source>
+        <translation>Suspension avant min.</translation>
+    </message>
+    <message>
+        <source>Max front suspension</source>
+        <translation>Suspension avant max.</translation>
+    </message>
+    <message>
+        <source>Min rear suspension</source>
+        <translation>Suspension arrière min.</translation>
+    </message>
+    <message>
+        <source>Max rear suspension</source>
+        <translation>Suspension arrière max.</translation>
+    </message>
+    <message>
+        <source>Sectors</source>
+        <translation>Secteurs</translation>
+    </message>
+    <message>
+        <source>Display on the map</source>
+        <translation>Affichage sur la carte</translation>
+    </message>
+    <message>
+        <source>Show local min/max speed</source>
+        <translation>Vitesses min./max. locales</translation>
+    </message>
+    <message>
+        <source>Show sectors points</source>
+        <translation>Points des secteurs</translation>
+    </message>
+    <message>
+        <source>Use gradient lap comparison</source>
+        <translation>Dégradé pour comparer les tours</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CursorLabels</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Tour %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Écart</translation>
+    </message>
+    <message>
+        <source>%1   %2 m</source>
+        <comment>time and distance since the start of the lap</comment>
+        <translation>%1   %2 m</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>Le tour %1 n&apos;est pas passé ici</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Retard sur le tour %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Avance sur le tour %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::DownloadInProgress</name>
+    <message>
+        <source>Download ZUNO Analyzer update</source>
+        <translation>Télécharger la mise à jour de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Downloading the new version...</source>
+        <translation>Téléchargement de la nouvelle version...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ExportDialogs</name>
+    <message>
+        <source>Export Session file</source>
+        <translation>Exporter le fichier de session</translation>
+    </message>
+    <message>
+        <source>RA1 files (.ra1);</source>
+        <translation>Fichiers RA1 (.ra1);</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists already; nothing was exported.</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà&#xa0;; rien n&apos;a été exporté.</translation>
+    </message>
+    <message>
+        <source>Export Session Data file</source>
+        <translation>Exporter les données de la session</translation>
+    </message>
+    <message>
+        <source>CSV files (.csv);</source>
+        <translation>Fichiers CSV (.csv);</translation>
+    </message>
+    <message>
+        <source>the session&apos;s file has changed or is gone</source>
+        <translation>le fichier de la session a changé ou disparu</translation>
+    </message>
+    <message>
+        <source>Export Lap file</source>
+        <translation>Exporter le tour</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;.</source>
+        <translation>Exporté vers «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être écrit&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeDialog</name>
+    <message>
+        <source>Multi sessions ideal time</source>
+        <translation>Temps idéal sur plusieurs sessions</translation>
+    </message>
+    <message>
+        <source>%v / %m</source>
+        <translation>%v / %m</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>Copier le tableau</translation>
+    </message>
+    <message>
+        <source>Enter or a double click shows the lap, Ctrl+C copies the table</source>
+        <translation>Entrée ou un double-clic affiche le tour, Ctrl+C copie le tableau</translation>
+    </message>
+    <message>
+        <source>Computing the ideal time...</source>
+        <translation>Calcul du temps idéal...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Show this lap</source>
+        <translation>Afficher ce tour</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>sessions : %1 of %2</source>
+        <translation>sessions&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>None of these sessions can be cut into laps, so there is no ideal time.</source>
+        <translation>Aucune de ces sessions ne peut être découpée en tours&#xa0;: il n&apos;y a pas de temps idéal.</translation>
+    </message>
+    <message>
+        <source>These sessions have no valid lap that went through a section, so there is no ideal time.</source>
+        <translation>Ces sessions n&apos;ont aucun tour valide qui traverse un secteur&#xa0;: il n&apos;y a pas de temps idéal.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Ignorées&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeModel</name>
+    <message>
+        <source>Section %1</source>
+        <translation>Secteur %1</translation>
+    </message>
+    <message>
+        <source>Ideal time</source>
+        <translation>Temps idéal</translation>
+    </message>
+    <message>
+        <source>Best lap</source>
+        <translation>Meilleur tour</translation>
+    </message>
+    <message>
+        <source>Best continuous lap</source>
+        <translation>Meilleur tour continu</translation>
+    </message>
+    <message>
+        <source>Best continuous lap, from the end of section %1</source>
+        <translation>Meilleur tour continu, dès la fin du secteur %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>laps</comment>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>What the best lap lost in a section; what a lap lost on the ideal time (seconds)</source>
+        <translation>Ce que le meilleur tour a perdu dans un secteur&#xa0;; ce qu&apos;un tour a perdu sur le temps idéal (secondes)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Secteur</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Meilleur temps</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Pilote</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Tour</translation>
+    </message>
+    <message>
+        <source>In best lap</source>
+        <translation>Meill. tour</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Écart</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationWriter</name>
+    <message>
+        <source>the file ends too early</source>
+        <translation>le fichier est tronqué</translation>
+    </message>
+    <message>
+        <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
+        <translation>%1 n&apos;a pas été modifié&#xa0;: %2. Les modifications sont conservées jusqu&apos;à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>the file holds another recording now</source>
+        <translation>le fichier contient maintenant un autre enregistrement</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile; its changes were kept.</source>
+        <translation>%1 a été modifié entre-temps par un autre programme&#xa0;; ses modifications ont été conservées.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapChart</name>
+    <message>
+        <source>%1 m</source>
+        <comment>metres</comment>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Secteur %1</translation>
+    </message>
+    <message>
+        <source>S%1</source>
+        <comment>section, short</comment>
+        <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsTableModel</name>
+    <message>
+        <source>Complete</source>
+        <translation>Complet</translation>
+    </message>
+    <message>
+        <source>Incomplete</source>
+        <translation>Incomplet</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Tour</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Cumulated time</source>
+        <translation>Temps cumulé</translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation>Temps au tour</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Vit. max.</translation>
+    </message>
+    <message>
+        <source>Min speed</source>
+        <translation>Vit. min.</translation>
+    </message>
+    <message>
+        <source>Left Angle</source>
+        <translation>Angle gauche</translation>
+    </message>
+    <message>
+        <source>Right Angle</source>
+        <translation>Angle droit</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Accél.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Décél.</translation>
+    </message>
+    <message>
+        <source>Min front susp.</source>
+        <translation>Susp. avant min.</translation>
+    </message>
+    <message>
+        <source>Max front susp.</source>
+        <translation>Susp. avant max.</translation>
+    </message>
+    <message>
+        <source>Min rear susp.</source>
+        <translation>Susp. arr. min.</translation>
+    </message>
+    <message>
+        <source>Max rear susp.</source>
+        <translation>Susp. arr. max.</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Secteur %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsView</name>
+    <message>
+        <source>V throws a lap out or takes it back, C compares, Ctrl+E exports; the menu key shows everything that can be done with a lap</source>
+        <translation>V écarte un tour ou le reprend, C compare, Ctrl+E exporte&#xa0;; la touche Menu montre tout ce que l&apos;on peut faire d&apos;un tour</translation>
+    </message>
+    <message>
+        <source>Reselect first lap</source>
+        <translation>Choisir un autre premier tour</translation>
+    </message>
+    <message>
+        <source>Export lap</source>
+        <translation>Exporter le tour</translation>
+    </message>
+    <message>
+        <source>Invalidate lap</source>
+        <translation>Invalider le tour</translation>
+    </message>
+    <message>
+        <source>Validate lap</source>
+        <translation>Valider le tour</translation>
+    </message>
+    <message>
+        <source>Compare to this lap</source>
+        <translation>Comparer à ce tour</translation>
+    </message>
+    <message>
+        <source>Compare this lap with...</source>
+        <translation>Comparer ce tour avec...</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryTree</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Do not use [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|] characters</source>
+        <translation>N&apos;utilisez pas les caractères [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|]</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Export Session</source>
+        <translation>Exporter la session</translation>
+    </message>
+    <message>
+        <source>Export Session Data (CSV)</source>
+        <translation>Exporter les données de la session (CSV)</translation>
+    </message>
+    <message>
+        <source>Compute multisession ideal time</source>
+        <translation>Calculer le temps idéal sur plusieurs sessions</translation>
+    </message>
+    <message>
+        <source>Enter displays a session, F2 renames, Del deletes</source>
+        <translation>Entrée affiche une session, F2 renomme, Suppr supprime</translation>
+    </message>
+    <message>
+        <source>Rename File</source>
+        <translation>Renommer le fichier</translation>
+    </message>
+    <message>
+        <source>New name :</source>
+        <translation>Nouveau nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>There is a &quot;%1&quot; already; nothing was renamed.</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà&#xa0;; rien n&apos;a été renommé.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be renamed.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être renommé.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete the selected files PERMANENTLY (not moved into the trash bin)?</source>
+        <translation>Voulez-vous vraiment supprimer DÉFINITIVEMENT les fichiers sélectionnés (sans les mettre à la corbeille)&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être supprimé.</translation>
+    </message>
+    <message>
+        <source>Create new folder</source>
+        <translation>Créer un dossier</translation>
+    </message>
+    <message>
+        <source>Folder name :</source>
+        <translation>Nom du dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; could not be created.</source>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;a pas pu être créé.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapsWidget</name>
+    <message>
+        <source>Maps Configuration</source>
+        <translation>Configuration des cartes</translation>
+    </message>
+    <message>
+        <source>Auto detect map</source>
+        <translation>Détecter la carte</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose other Map for session : %1</source>
+        <translation>Choisir une autre carte pour la session&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No session loaded</source>
+        <translation>Aucune session chargée</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionImport</name>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Importing sessions: %1 of %2</source>
+        <translation>Importation des sessions&#xa0;: %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionInfos</name>
+    <message>
+        <source>%1 / %2</source>
+        <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStats</name>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistiques</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Plusieurs</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuit&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilote&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Événement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>État de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Reset all filters</source>
+        <translation>Effacer les filtres</translation>
+    </message>
+    <message>
+        <source>Sessions without a lap time are not listed</source>
+        <translation>Les sessions sans temps au tour ne sont pas listées</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Sessions : %1 of %2</source>
+        <translation>Sessions&#xa0;: %1 sur %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStatsTableModel</name>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Circuit</translation>
+    </message>
+    <message>
+        <source>Best Lap</source>
+        <translation>Meilleur tour</translation>
+    </message>
+    <message>
+        <source>Ideal Time</source>
+        <translation>Temps idéal</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Moto</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Pilote</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>Track condition</source>
+        <translation>État de la piste</translation>
+    </message>
+    <message>
+        <source>Track temperature</source>
+        <translation>Temp. piste</translation>
+    </message>
+    <message>
+        <source>Tires</source>
+        <translation>Pneus</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::StorableEdits</name>
+    <message>
+        <source>Replaced: %1</source>
+        <translation>Remplacés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Ignorés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Cut at %1 characters</source>
+        <translation>Coupé à %1 caractères</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::TemperatureBox</name>
+    <message>
+        <source>unknown</source>
+        <extracomment>A track temperature that nobody noted.</extracomment>
+        <translation>inconnue</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpdateApp</name>
+    <message>
+        <source>ZUNO Analyzer update</source>
+        <translation>Mise à jour de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available. 
+Do you want to download it now?</source>
+        <translation>Une nouvelle version de l&apos;application est disponible. 
+Voulez-vous la télécharger maintenant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The new version could not be downloaded and started.</source>
+        <translation>La nouvelle version n&apos;a pas pu être téléchargée et lancée.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpgradePass</name>
+    <message>
+        <source>Adding additionnal infos to sessions - for version 1.4.0.0 </source>
+        <translation>Ajout d&apos;informations aux sessions - pour la version 1.4.0.0 </translation>
+    </message>
+    <message>
+        <source> sessions to parse 
+In order to have access to all your statistics with this new version of Analyzer, let this analysis finish </source>
+        <translation> sessions à analyser 
+Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Analyzer, laissez cette analyse se terminer </translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ZunoAnalyzer</name>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Carte et tours</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Temps idéal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distance parcourue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Le meilleur temps de chaque secteur et le tour qui le détient</translation>
+    </message>
+    <message>
+        <source>Map :</source>
+        <translation>Carte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Longueur de la carte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accél./Décél.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. avant</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. arrière</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Comparer les positions</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Comparer le temps</translation>
+    </message>
+    <message>
+        <source>Sessions infos</source>
+        <translation>Infos des sessions</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuit&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Meilleur tour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Événement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilote&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Pneus&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>degrés</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>État de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Notez ici, par exemple, vos pressions de pneus, vos réglages de suspension...</translation>
+    </message>
+    <message>
+        <source>   Import   </source>
+        <translation>   Importer   </translation>
+    </message>
+    <message>
+        <source>   Settings   </source>
+        <translation>   Paramètres   </translation>
+    </message>
+    <message>
+        <source>   Maps   </source>
+        <translation>   Cartes   </translation>
+    </message>
+    <message>
+        <source>   Statistics   </source>
+        <translation>   Statistiques   </translation>
+    </message>
+    <message>
+        <source>   Help   </source>
+        <translation>   Aide   </translation>
+    </message>
+    <message>
+        <source>Maps and Laps  </source>
+        <translation>Cartes et tours  </translation>
+    </message>
+    <message>
+        <source> Session infos  </source>
+        <translation> Infos de la session  </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no session that can be shown: it is damaged, empty, or was written by something else.</source>
+        <translation>«&#xa0;%1&#xa0;» ne contient aucune session affichable&#xa0;: le fichier est endommagé, vide ou d&apos;une autre origine.</translation>
+    </message>
+    <message>
+        <source>Select one or more session files to import</source>
+        <translation>Choisir un ou plusieurs fichiers de session à importer</translation>
+    </message>
+    <message>
+        <source>RA1 Files (*.ra1)</source>
+        <translation>Fichiers RA1 (*.ra1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in your library. Do you want to import it?</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas dans votre bibliothèque. Voulez-vous l&apos;importer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>There are no sessions yet.
+
+Drop the session files (.ra1) of your logger here, choose them with &quot;Import&quot; (Ctrl+I), or copy them to
+%1</source>
+        <translation>Il n&apos;y a pas encore de session.
+
+Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les avec «&#xa0;Importer&#xa0;» (Ctrl+I) ou copiez-les dans
+%1</translation>
+    </message>
+    <message>
+        <source>Select a session in the list on the left to see its laps.</source>
+        <translation>Choisissez une session dans la liste à gauche pour voir ses tours.</translation>
+    </message>
+    <message>
+        <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
+        <translation>Tour %1 (%2) contre tour %3 (%4)&#xa0;: %5 s</translation>
+    </message>
+</context>
+</TS>

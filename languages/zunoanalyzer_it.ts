@@ -1,0 +1,1191 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>Channel</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>This recording holds no speed.</source>
+        <translation>Questa registrazione non contiene la velocità.</translation>
+    </message>
+    <message>
+        <source>Lean angle, left below 0</source>
+        <translation>Angolo di piega, sinistra sotto 0</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>This recording holds no lean angle.</source>
+        <translation>Questa registrazione non contiene l&apos;angolo di piega.</translation>
+    </message>
+    <message>
+        <source>Acceleration, braking below 0</source>
+        <translation>Accelerazione, frenata sotto 0</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>This recording holds no acceleration.</source>
+        <translation>Questa registrazione non contiene accelerazioni.</translation>
+    </message>
+    <message>
+        <source>Front suspension, mean and range</source>
+        <translation>Sospensione anteriore, media e intervallo</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>This recording holds no front suspension.</source>
+        <translation>Questa registrazione non contiene la sospensione anteriore.</translation>
+    </message>
+    <message>
+        <source>Rear suspension, mean and range</source>
+        <translation>Sospensione posteriore, media e intervallo</translation>
+    </message>
+    <message>
+        <source>This recording holds no rear suspension.</source>
+        <translation>Questa registrazione non contiene la sospensione posteriore.</translation>
+    </message>
+    <message>
+        <source>Time gap, behind above 0</source>
+        <translation>Distacco, ritardo sopra 0</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+</context>
+<context>
+    <name>IdealTimeSearch</name>
+    <message>
+        <source>it has been removed</source>
+        <translation>è stata rimossa</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>session: reason</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>no map is known for the place where it was recorded</source>
+        <translation>nessuna mappa è nota per il luogo in cui è stata registrata</translation>
+    </message>
+    <message>
+        <source>it has no laps on the map &quot;%1&quot;</source>
+        <translation>non contiene giri sulla mappa «%1»</translation>
+    </message>
+    <message>
+        <source>%1: it was ridden on &quot;%2&quot;</source>
+        <translation>%1: è stata percorsa su «%2»</translation>
+    </message>
+</context>
+<context>
+    <name>ImportResult</name>
+    <message>
+        <source>Imported: %1</source>
+        <translation>Importate: %1</translation>
+    </message>
+    <message>
+        <source>already there: %1</source>
+        <translation>già presenti: %1</translation>
+    </message>
+    <message>
+        <source>no session files: %1</source>
+        <translation>non file di sessione: %1</translation>
+    </message>
+    <message>
+        <source>another session has the name: %1</source>
+        <translation>nome già di un&apos;altra sessione: %1</translation>
+    </message>
+    <message>
+        <source>could not be copied: %1</source>
+        <translation>copia non riuscita: %1</translation>
+    </message>
+    <message>
+        <source>Import cancelled. %1</source>
+        <translation>Importazione annullata. %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>No session files:</source>
+        <translation>Non sono file di sessione:</translation>
+    </message>
+    <message>
+        <source>Left out, as another session has the name:</source>
+        <translation>Esclusi perché un&apos;altra sessione ha lo stesso nome:</translation>
+    </message>
+    <message>
+        <source>Could not be copied:</source>
+        <translation>Non è stato possibile copiarli:</translation>
+    </message>
+</context>
+<context>
+    <name>MapPage</name>
+    <message>
+        <source>braking</source>
+        <translation>frenata</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>accelerazione</translation>
+    </message>
+    <message>
+        <source>first lap</source>
+        <translation>primo giro</translation>
+    </message>
+    <message>
+        <source>second lap</source>
+        <translation>secondo giro</translation>
+    </message>
+    <message>
+        <source>Loading the map...</source>
+        <translation>Caricamento della mappa...</translation>
+    </message>
+    <message>
+        <source>Offline map: there is no key for the satellite map</source>
+        <translation>Mappa offline: nessuna chiave per la mappa satellitare</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map cannot be reached</source>
+        <translation>Mappa offline: la mappa satellitare non è raggiungibile</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map does not answer</source>
+        <translation>Mappa offline: la mappa satellitare non risponde</translation>
+    </message>
+    <message>
+        <source>Offline map: the satellite map refuses the key</source>
+        <translation>Mappa offline: la mappa satellitare rifiuta la chiave</translation>
+    </message>
+</context>
+<context>
+    <name>SessionFile</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>non si può leggere</translation>
+    </message>
+    <message>
+        <source>is no session file</source>
+        <translation>non è un file di sessione</translation>
+    </message>
+    <message>
+        <source>has a format that is too old</source>
+        <translation>ha un formato troppo vecchio</translation>
+    </message>
+</context>
+<context>
+    <name>SessionSummary</name>
+    <message>
+        <source>1 sample without GPS</source>
+        <translation>1 campione senza GPS</translation>
+    </message>
+    <message>
+        <source>%1 samples without GPS</source>
+        <translation>%1 campioni senza GPS</translation>
+    </message>
+    <message>
+        <source>No map is known for the place where this session was recorded, so it cannot be cut into laps.
+
+Choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
+%1</source>
+        <translation>Nessuna mappa è nota per il luogo in cui è stata registrata questa sessione, perciò non si può dividere in giri.
+
+Scegli una mappa con «Mappe» (Ctrl+M) o copia il file di mappa del circuito in
+%1</translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; has no start point, so laps cannot be cut.
+
+Choose another map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>La mappa «%1» non ha un punto di partenza, perciò i giri non si possono dividere.
+
+Scegli un&apos;altra mappa con «Mappe» (Ctrl+M).</translation>
+    </message>
+    <message>
+        <source>This session never passes the start/finish line of the map &quot;%1&quot;.
+
+If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
+        <translation>Questa sessione non passa mai la linea di partenza/arrivo della mappa «%1».
+
+Se è stata percorsa su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Nessuna mappa trovata, scegline una nella configurazione delle mappe</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mappa: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Lunghezza della mappa: %1 m</translation>
+    </message>
+    <message>
+        <source>Ideal Time : %1</source>
+        <translation>Tempo ideale: %1</translation>
+    </message>
+    <message>
+        <source>Traveled distance : %1 m</source>
+        <translation>Distanza percorsa: %1 m</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Settore</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Miglior tempo</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
+        <translation>Primo giro scelto: Mappa: %1 --- Sessione: %2 --- Giro n.: %3 --- Tempo: %4 --- Velocità max: %5 km/h</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AboutWidget</name>
+    <message>
+        <source>About ZUNO Analyzer</source>
+        <translation>Informazioni su ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Version 1.5.0.0</source>
+        <translation>Versione 1.5.0.0</translation>
+    </message>
+    <message>
+        <source>Web site :</source>
+        <translation>Sito web:</translation>
+    </message>
+    <message>
+        <source>Email :</source>
+        <translation>E-mail:</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CheckableComboBox</name>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>(empty)</source>
+        <translation>(vuoto)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ConfigurationWidget</name>
+    <message>
+        <source>ZUNO Analyzer settings</source>
+        <translation>Impostazioni di ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Display colunms</source>
+        <translation>Colonne da mostrare</translation>
+    </message>
+    <message>
+        <source>Lap type</source>
+        <translation>Tipo di giro</translation>
+    </message>
+    <message>
+        <source>Cumulate time</source>
+        <translation>Tempo cumulato</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Velocità max</translation>
+    </message>
+    <message>
+        <source>Min Speed</source>
+        <translation>Velocità min</translation>
+    </message>
+    <message>
+        <source>Angle left</source>
+        <translation>Piega a sinistra</translation>
+    </message>
+    <message>
+        <source>Angle right</source>
+        <translation>Piega a destra</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Accel.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Decel.</translation>
+    </message>
+    <message>
+        <source>Min front suspension</source>
+        <translation>Sospensione anteriore min</translation>
+    </message>
+    <message>
+        <source>Max front suspension</source>
+        <translation>Sospensione anteriore max</translation>
+    </message>
+    <message>
+        <source>Min rear suspension</source>
+        <translation>Sospensione posteriore min</translation>
+    </message>
+    <message>
+        <source>Max rear suspension</source>
+        <translation>Sospensione posteriore max</translation>
+    </message>
+    <message>
+        <source>Sectors</source>
+        <translation>Settori</translation>
+    </message>
+    <message>
+        <source>Display on the map</source>
+        <translation>Da mostrare sulla mappa</translation>
+    </message>
+    <message>
+        <source>Show local min/max speed</source>
+        <translation>Velocità min/max locali</translation>
+    </message>
+    <message>
+        <source>Show sectors points</source>
+        <translation>Punti dei settori</translation>
+    </message>
+    <message>
+        <source>Use gradient lap comparison</source>
+        <translation>Confronto dei giri con sfumatura</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CursorLabels</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Giro %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>%1   %2 m</source>
+        <comment>time and distance since the start of the lap</comment>
+        <translation>%1   %2 m</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>Il giro %1 non è passato di qui</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Ritardo sul giro %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Vantaggio sul giro %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::DownloadInProgress</name>
+    <message>
+        <source>Download ZUNO Analyzer update</source>
+        <translation>Scarica l&apos;aggiornamento di ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Downloading the new version...</source>
+        <translation>Scaricamento della nuova versione...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ExportDialogs</name>
+    <message>
+        <source>Export Session file</source>
+        <translation>Esporta il file della sessione</translation>
+    </message>
+    <message>
+        <source>RA1 files (.ra1);</source>
+        <translation>File RA1 (.ra1);</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists already; nothing was exported.</source>
+        <translation>«%1» esiste già; non è stato esportato nulla.</translation>
+    </message>
+    <message>
+        <source>Export Session Data file</source>
+        <translation>Esporta i dati della sessione</translation>
+    </message>
+    <message>
+        <source>CSV files (.csv);</source>
+        <translation>File CSV (.csv);</translation>
+    </message>
+    <message>
+        <source>the session&apos;s file has changed or is gone</source>
+        <translation>il file della sessione è cambiato o non c&apos;è più</translation>
+    </message>
+    <message>
+        <source>Export Lap file</source>
+        <translation>Esporta il giro</translation>
+    </message>
+    <message>
+        <source>Exported to &quot;%1&quot;.</source>
+        <translation>Esportato in «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Non è stato possibile scrivere «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeDialog</name>
+    <message>
+        <source>Multi sessions ideal time</source>
+        <translation>Tempo ideale su più sessioni</translation>
+    </message>
+    <message>
+        <source>%v / %m</source>
+        <translation>%v / %m</translation>
+    </message>
+    <message>
+        <source>Copy table</source>
+        <translation>Copia la tabella</translation>
+    </message>
+    <message>
+        <source>Enter or a double click shows the lap, Ctrl+C copies the table</source>
+        <translation>Invio o un doppio clic mostra il giro, Ctrl+C copia la tabella</translation>
+    </message>
+    <message>
+        <source>Computing the ideal time...</source>
+        <translation>Calcolo del tempo ideale...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Show this lap</source>
+        <translation>Mostra questo giro</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mappa: %1</translation>
+    </message>
+    <message>
+        <source>sessions : %1 of %2</source>
+        <translation>sessioni: %1 di %2</translation>
+    </message>
+    <message>
+        <source>None of these sessions can be cut into laps, so there is no ideal time.</source>
+        <translation>Nessuna di queste sessioni si può dividere in giri, perciò non c&apos;è un tempo ideale.</translation>
+    </message>
+    <message>
+        <source>These sessions have no valid lap that went through a section, so there is no ideal time.</source>
+        <translation>In queste sessioni nessun giro valido attraversa un settore, perciò non c&apos;è un tempo ideale.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e altri %1</translation>
+    </message>
+    <message>
+        <source>Left out:</source>
+        <translation>Escluse:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::IdealTimeModel</name>
+    <message>
+        <source>Section %1</source>
+        <translation>Settore %1</translation>
+    </message>
+    <message>
+        <source>Ideal time</source>
+        <translation>Tempo ideale</translation>
+    </message>
+    <message>
+        <source>Best lap</source>
+        <translation>Giro migliore</translation>
+    </message>
+    <message>
+        <source>Best continuous lap</source>
+        <translation>Miglior giro continuo</translation>
+    </message>
+    <message>
+        <source>Best continuous lap, from the end of section %1</source>
+        <translation>Miglior giro continuo, da fine settore %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>laps</comment>
+        <translation>da %1 a %2</translation>
+    </message>
+    <message>
+        <source>What the best lap lost in a section; what a lap lost on the ideal time (seconds)</source>
+        <translation>Quanto il giro migliore ha perso in un settore; quanto un giro ha perso sul tempo ideale (secondi)</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Settore</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Miglior tempo</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sessione</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Pilota</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>In best lap</source>
+        <translation>Giro migliore</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationWriter</name>
+    <message>
+        <source>the file ends too early</source>
+        <translation>il file finisce troppo presto</translation>
+    </message>
+    <message>
+        <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
+        <translation>%1 non è stato modificato: %2. Le modifiche restano fino alla chiusura del programma.</translation>
+    </message>
+    <message>
+        <source>the file holds another recording now</source>
+        <translation>il file contiene ora un&apos;altra registrazione</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile; its changes were kept.</source>
+        <translation>%1 è stato modificato nel frattempo da un altro programma; le sue modifiche sono state mantenute.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapChart</name>
+    <message>
+        <source>%1 m</source>
+        <comment>metres</comment>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Settore %1</translation>
+    </message>
+    <message>
+        <source>S%1</source>
+        <comment>section, short</comment>
+        <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsTableModel</name>
+    <message>
+        <source>Complete</source>
+        <translation>Completo</translation>
+    </message>
+    <message>
+        <source>Incomplete</source>
+        <translation>Incompleto</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Cumulated time</source>
+        <translation>Cumulato</translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation>Tempo giro</translation>
+    </message>
+    <message>
+        <source>Max speed</source>
+        <translation>Vel. max</translation>
+    </message>
+    <message>
+        <source>Min speed</source>
+        <translation>Vel. min</translation>
+    </message>
+    <message>
+        <source>Left Angle</source>
+        <translation>Piega sin.</translation>
+    </message>
+    <message>
+        <source>Right Angle</source>
+        <translation>Piega des.</translation>
+    </message>
+    <message>
+        <source>Accel</source>
+        <translation>Accel.</translation>
+    </message>
+    <message>
+        <source>Decel</source>
+        <translation>Decel.</translation>
+    </message>
+    <message>
+        <source>Min front susp.</source>
+        <translation>Sosp. ant. min</translation>
+    </message>
+    <message>
+        <source>Max front susp.</source>
+        <translation>Sosp. ant. max</translation>
+    </message>
+    <message>
+        <source>Min rear susp.</source>
+        <translation>Sosp. post. min</translation>
+    </message>
+    <message>
+        <source>Max rear susp.</source>
+        <translation>Sosp. post. max</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation>Settore %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsView</name>
+    <message>
+        <source>V throws a lap out or takes it back, C compares, Ctrl+E exports; the menu key shows everything that can be done with a lap</source>
+        <translation>V scarta un giro o lo riprende, C confronta, Ctrl+E esporta; il tasto Menu mostra tutto ciò che si può fare con un giro</translation>
+    </message>
+    <message>
+        <source>Reselect first lap</source>
+        <translation>Scegli un altro primo giro</translation>
+    </message>
+    <message>
+        <source>Export lap</source>
+        <translation>Esporta il giro</translation>
+    </message>
+    <message>
+        <source>Invalidate lap</source>
+        <translation>Invalida il giro</translation>
+    </message>
+    <message>
+        <source>Validate lap</source>
+        <translation>Convalida il giro</translation>
+    </message>
+    <message>
+        <source>Compare to this lap</source>
+        <translation>Confronta con questo giro</translation>
+    </message>
+    <message>
+        <source>Compare this lap with...</source>
+        <translation>Confronta questo giro con...</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryTree</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Do not use [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|] characters</source>
+        <translation>Non usare i caratteri [^\/`~@#$%^&amp;*:?&quot;&lt;&gt;|]</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>New folder</source>
+        <translation>Nuova cartella</translation>
+    </message>
+    <message>
+        <source>Export Session</source>
+        <translation>Esporta la sessione</translation>
+    </message>
+    <message>
+        <source>Export Session Data (CSV)</source>
+        <translation>Esporta i dati della sessione (CSV)</translation>
+    </message>
+    <message>
+        <source>Compute multisession ideal time</source>
+        <translation>Calcola il tempo ideale su più sessioni</translation>
+    </message>
+    <message>
+        <source>Enter displays a session, F2 renames, Del deletes</source>
+        <translation>Invio mostra una sessione, F2 rinomina, Canc elimina</translation>
+    </message>
+    <message>
+        <source>Rename File</source>
+        <translation>Rinomina il file</translation>
+    </message>
+    <message>
+        <source>New name :</source>
+        <translation>Nuovo nome:</translation>
+    </message>
+    <message>
+        <source>There is a &quot;%1&quot; already; nothing was renamed.</source>
+        <translation>«%1» esiste già; non è stato rinominato nulla.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be renamed.</source>
+        <translation>Non è stato possibile rinominare «%1».</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete the selected files PERMANENTLY (not moved into the trash bin)?</source>
+        <translation>Eliminare DEFINITIVAMENTE i file selezionati (senza spostarli nel cestino)?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be deleted.</source>
+        <translation>Non è stato possibile eliminare «%1».</translation>
+    </message>
+    <message>
+        <source>Create new folder</source>
+        <translation>Crea una cartella</translation>
+    </message>
+    <message>
+        <source>Folder name :</source>
+        <translation>Nome della cartella:</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; could not be created.</source>
+        <translation>Non è stato possibile creare la cartella «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapsWidget</name>
+    <message>
+        <source>Maps Configuration</source>
+        <translation>Configurazione delle mappe</translation>
+    </message>
+    <message>
+        <source>Auto detect map</source>
+        <translation>Rileva la mappa</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Choose other Map for session : %1</source>
+        <translation>Scegli un&apos;altra mappa per la sessione: %1</translation>
+    </message>
+    <message>
+        <source>No session loaded</source>
+        <translation>Nessuna sessione caricata</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionImport</name>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>Importing sessions: %1 of %2</source>
+        <translation>Importazione delle sessioni: %1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionInfos</name>
+    <message>
+        <source>%1 / %2</source>
+        <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStats</name>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistiche</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation>Più valori</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilota:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Stato della pista:</translation>
+    </message>
+    <message>
+        <source>Reset all filters</source>
+        <translation>Azzera i filtri</translation>
+    </message>
+    <message>
+        <source>Sessions without a lap time are not listed</source>
+        <translation>Le sessioni senza un tempo sul giro non sono elencate</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Sessions : %1 of %2</source>
+        <translation>Sessioni: %1 di %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionsStatsTableModel</name>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Circuito</translation>
+    </message>
+    <message>
+        <source>Best Lap</source>
+        <translation>Giro migliore</translation>
+    </message>
+    <message>
+        <source>Ideal Time</source>
+        <translation>Tempo ideale</translation>
+    </message>
+    <message>
+        <source>Vehicle</source>
+        <translation>Moto</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Pilota</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Track condition</source>
+        <translation>Stato della pista</translation>
+    </message>
+    <message>
+        <source>Track temperature</source>
+        <translation>Temp. pista</translation>
+    </message>
+    <message>
+        <source>Tires</source>
+        <translation>Pneumatici</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::StorableEdits</name>
+    <message>
+        <source>Replaced: %1</source>
+        <translation>Sostituiti: %1</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Esclusi: %1</translation>
+    </message>
+    <message>
+        <source>Cut at %1 characters</source>
+        <translation>Tagliato a %1 caratteri</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::TemperatureBox</name>
+    <message>
+        <source>unknown</source>
+        <extracomment>A track temperature that nobody noted.</extracomment>
+        <translation>sconosciuta</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpdateApp</name>
+    <message>
+        <source>ZUNO Analyzer update</source>
+        <translation>Aggiornamento di ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available. 
+Do you want to download it now?</source>
+        <translation>È disponibile una nuova versione del programma. 
+Scaricarla adesso?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>The new version could not be downloaded and started.</source>
+        <translation>Non è stato possibile scaricare e avviare la nuova versione.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UpgradePass</name>
+    <message>
+        <source>Adding additionnal infos to sessions - for version 1.4.0.0 </source>
+        <translation>Aggiunta di informazioni alle sessioni - per la versione 1.4.0.0 </translation>
+    </message>
+    <message>
+        <source> sessions to parse 
+In order to have access to all your statistics with this new version of Analyzer, let this analysis finish </source>
+        <translation> sessioni da analizzare 
+Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia terminare l&apos;analisi </translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ZunoAnalyzer</name>
+    <message>
+        <source>ZUNO Analyzer</source>
+        <translation>ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Mappa e giri</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tempo ideale:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distanza percorsa:</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Il miglior tempo di ogni settore e il giro in cui è stato fatto</translation>
+    </message>
+    <message>
+        <source>Map :</source>
+        <translation>Mappa:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Lunghezza della mappa:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Sosp. ant.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Sosp. post.</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Confronta le posizioni</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Confronta il tempo</translation>
+    </message>
+    <message>
+        <source>Sessions infos</source>
+        <translation>Info sessioni</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Giro migliore:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilota:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Pneumatici:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. della pista:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>gradi</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Stato della pista:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Note:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Inserisci qui, per esempio, le pressioni delle gomme, le regolazioni delle sospensioni...</translation>
+    </message>
+    <message>
+        <source>   Import   </source>
+        <translation>   Importa   </translation>
+    </message>
+    <message>
+        <source>   Settings   </source>
+        <translation>   Impostazioni   </translation>
+    </message>
+    <message>
+        <source>   Maps   </source>
+        <translation>   Mappe   </translation>
+    </message>
+    <message>
+        <source>   Statistics   </source>
+        <translation>   Statistiche   </translation>
+    </message>
+    <message>
+        <source>   Help   </source>
+        <translation>   Aiuto   </translation>
+    </message>
+    <message>
+        <source>Maps and Laps  </source>
+        <translation>Mappe e giri  </translation>
+    </message>
+    <message>
+        <source> Session infos  </source>
+        <translation> Info sessione  </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no session that can be shown: it is damaged, empty, or was written by something else.</source>
+        <translation>«%1» non contiene una sessione che si possa mostrare: il file è danneggiato, vuoto o di altra origine.</translation>
+    </message>
+    <message>
+        <source>Select one or more session files to import</source>
+        <translation>Scegli uno o più file di sessione da importare</translation>
+    </message>
+    <message>
+        <source>RA1 Files (*.ra1)</source>
+        <translation>File RA1 (*.ra1)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not in your library. Do you want to import it?</source>
+        <translation>«%1» non è nella tua libreria. Importarlo?</translation>
+    </message>
+    <message>
+        <source>There are no sessions yet.
+
+Drop the session files (.ra1) of your logger here, choose them with &quot;Import&quot; (Ctrl+I), or copy them to
+%1</source>
+        <translation>Non ci sono ancora sessioni.
+
+Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» (Ctrl+I) o copiali in
+%1</translation>
+    </message>
+    <message>
+        <source>Select a session in the list on the left to see its laps.</source>
+        <translation>Scegli una sessione nell&apos;elenco a sinistra per vedere i suoi giri.</translation>
+    </message>
+    <message>
+        <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
+        <translation>Giro %1 (%2) contro giro %3 (%4): %5 s</translation>
+    </message>
+</context>
+</TS>
