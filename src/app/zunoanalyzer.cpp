@@ -222,8 +222,14 @@ void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
     UpgradePass upgrade({m_library, *m_tree, m_display, m_writer, m_settings});
     // The tree lists files that were selected before their folder was loaded in the order of their
     // selection, so it starts anew.
-    if (upgrade.runOnce())
+    m_isUpgrading = true;
+    const bool hasRun = upgrade.runOnce();
+    m_isUpgrading = false;
+    if (hasRun) {
         m_tree->setFolder(folder);
+        if (m_display.session() != nullptr)
+            showSession(m_display.session());
+    }
     if (m_display.session() == nullptr)
         showNothing();
 }
@@ -432,6 +438,9 @@ bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
 
 void ZunoAnalyzer::showSession(Session *session)
 {
+    // The pass displays every session; the last one is shown when it is over.
+    if (m_isUpgrading)
+        return;
     m_mapView->centerMap(session->map());
     m_selection.setSession(session);
     m_lapsView->showLaps();

@@ -114,6 +114,7 @@ private:
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
     SessionImport *m_import = nullptr;
+    bool m_isUpgrading = false;
     std::array<QSplitter *, 4> m_splitters {};
 };
 
