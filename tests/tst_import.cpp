@@ -88,96 +88,95 @@ class TestImport final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void drops();
-    void cancels();
-    void exports();
-};
 
-void TestImport::drops()
-{
-    Outfit outfit;
-    const QByteArray present = recorded("08:00:00", "Bob");
-    outfit.folder.mkpath(u"."_s);
-    putFile(outfit.folder.filePath(u"there.ra1"_s), present);
-    putFile(outfit.folder.filePath(u"taken.ra1"_s), present);
-    QFile::setPermissions(outfit.put(u"first.ra1"_s, recorded("10:11:12")), QFile::ReadOwner);
-    outfit.put(u"all/UPPER.RA1"_s, recorded("10:11:12"));
-    outfit.put(u"all/there.ra1"_s, recorded("08:00:00"));
-    outfit.put(u"all/deep/taken.ra1"_s, recorded("09:00:00"));
-    outfit.put(u"all/deep/<b>.ra1"_s, "no session");
-    outfit.put(u"all/photo.jpg"_s, "photo");
-    outfit.put(u"a.txt"_s, "text");
-    QCOMPARE(outfit.drop(outfit.field, {u"a.txt"_s}), u"nothing"_s);
-    QCOMPARE(outfit.drop(outfit.field, {u"all"_s}, Qt::MoveAction), u"nothing"_s);
-    QCOMPARE(outfit.drop(outfit.field, {u"first.ra1"_s, u"all"_s, u"a.txt"_s, u"none.ra1"_s}),
-             u"Imported: 2, already there: 1, no session files: 2, "
-             "another session has the name: 1, could not be copied: 1"_s);
-    QCOMPARE(outfit.field.text(), QString());
-    for (const auto *name : {u"&lt;b&gt;.ra1", u"a.txt", u"taken.ra1", u"none.ra1"})
-        QVERIFY(outfit.result.details().contains(name));
-    QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '),
-             u"<b>.ra1 UPPER.ra1 first.ra1 taken.ra1 there.ra1"_s);
-    QCOMPARE(contents(outfit.folder.filePath(u"there.ra1"_s)), present);
-    QCOMPARE(contents(outfit.folder.filePath(u"taken.ra1"_s)), present);
-    const QString first = outfit.library.at(0)->filePath();
-    QCOMPARE(first, outfit.folder.filePath(u"first.ra1"_s));
-    QCOMPARE(contents(first), recorded("10:11:12"));
-    QVERIFY(QFile::permissions(first).testFlag(QFile::WriteOwner));
-}
-
-void TestImport::cancels()
-{
-    Outfit outfit;
-    for (int i = 0; i < 99; ++i)
-        outfit.put(u"%1.ra1"_s.arg(i), recorded("10:11:12"));
-    // As slow as a card.
-    connect(&outfit.library, &AcquisitionLibrary::sessionsChanged, this, [&outfit] {
-        QTest::qSleep(20);
-        if (outfit.library.size() == 40)
-            outfit.window.findChild<DownloadInProgress *>()->close();
-    });
-    QCOMPARE(outfit.drop(outfit.window, {QString()}),
-             u"Import cancelled. Imported: 40, already there: 0, no session files: 0"_s);
-    QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden).size(), 40);
-}
-
-void TestImport::exports()
-{
-    Outfit outfit;
-    const QString path = outfit.put(u"Run.ra1"_s, recorded("10:11:12"));
-    Session *session = outfit.library.add(path, "");
-    ExportDialogs exports(&outfit.window);
-    const QSignalSpy done(&exports, &ExportDialogs::done);
-    // Chooses a file; gives what the dialog proposed and what was told.
-    const auto choose = [&](auto run, const QString &name) -> QString {
-        QString proposed;
-        QTimer::singleShot(0, this, [&] {
-            auto *dialog = outfit.window.findChild<QFileDialog *>();
-            auto *field = dialog->findChild<QLineEdit *>();
-            proposed = dialog->windowTitle() + u'|' + field->text() + u'|';
-            field->setText(outfit.card.filePath(name));
-            static_cast<QDialog *>(dialog)->accept();
-        });
-        (exports.*run)(session);
-        return proposed + done.last()[0].toString().remove(outfit.card.path() + u'/');
-    };
-    for (const QString &locale : {u"C"_s, u"en"_s, u"fr"_s}) {
-        QLocale::setDefault(QLocale(locale));
-        QCOMPARE(choose(&ExportDialogs::exportSessionData, locale),
-                 u"Export Session Data file|Run.ra1.csv|Exported to \"%1\"."_s.arg(locale));
-        QProcess tool;
-        tool.start(QStringLiteral(ZUNO_TOOL), {u"csv"_s, path, u"--locale"_s, locale});
-        QVERIFY(tool.waitForFinished());
-        QCOMPARE(contents(outfit.card.filePath(locale)), tool.readAllStandardOutput());
-        QCOMPARE(contents(outfit.card.filePath(locale)).count('\n'), 2);
+    void drops()
+    {
+        Outfit outfit;
+        const QByteArray present = recorded("08:00:00", "Bob");
+        outfit.folder.mkpath(u"."_s);
+        putFile(outfit.folder.filePath(u"there.ra1"_s), present);
+        putFile(outfit.folder.filePath(u"taken.ra1"_s), present);
+        QFile::setPermissions(outfit.put(u"first.ra1"_s, recorded("10:11:12")), QFile::ReadOwner);
+        outfit.put(u"all/UPPER.RA1"_s, recorded("10:11:12"));
+        outfit.put(u"all/there.ra1"_s, recorded("08:00:00"));
+        outfit.put(u"all/deep/taken.ra1"_s, recorded("09:00:00"));
+        outfit.put(u"all/deep/<b>.ra1"_s, "no session");
+        outfit.put(u"all/photo.jpg"_s, "photo");
+        outfit.put(u"a.txt"_s, "text");
+        QCOMPARE(outfit.drop(outfit.field, {u"a.txt"_s}), u"nothing"_s);
+        QCOMPARE(outfit.drop(outfit.field, {u"all"_s}, Qt::MoveAction), u"nothing"_s);
+        QCOMPARE(outfit.drop(outfit.field, {u"first.ra1"_s, u"all"_s, u"a.txt"_s, u"none.ra1"_s}),
+                 u"Imported: 2, already there: 1, no session files: 2, "
+                 "another session has the name: 1, could not be copied: 1"_s);
+        QCOMPARE(outfit.field.text(), QString());
+        for (const auto *name : {u"&lt;b&gt;.ra1", u"a.txt", u"taken.ra1", u"none.ra1"})
+            QVERIFY(outfit.result.details().contains(name));
+        QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '),
+                 u"<b>.ra1 UPPER.ra1 first.ra1 taken.ra1 there.ra1"_s);
+        QCOMPARE(contents(outfit.folder.filePath(u"there.ra1"_s)), present);
+        QCOMPARE(contents(outfit.folder.filePath(u"taken.ra1"_s)), present);
+        const QString first = outfit.library.at(0)->filePath();
+        QCOMPARE(first, outfit.folder.filePath(u"first.ra1"_s));
+        QCOMPARE(contents(first), recorded("10:11:12"));
+        QVERIFY(QFile::permissions(first).testFlag(QFile::WriteOwner));
     }
-    QCOMPARE(choose(&ExportDialogs::exportSession, u"copy"_s),
-             u"Export Session file|Run.ra1|Exported to \"copy\"."_s);
-    QCOMPARE(contents(outfit.card.filePath(u"copy"_s)), recorded("10:11:12"));
-    QVERIFY(choose(&ExportDialogs::exportSession, u"fr"_s).contains(u"\"fr\" exists already"));
-    QVERIFY(choose(&ExportDialogs::exportSession, u"fr/x"_s).contains(u"not be written: Cannot"));
-    QVERIFY(choose(&ExportDialogs::exportSessionData, u"fr/x"_s).contains(u"could not be written"));
-}
+
+    void cancels()
+    {
+        Outfit outfit;
+        for (int i = 0; i < 99; ++i)
+            outfit.put(u"%1.ra1"_s.arg(i), recorded("10:11:12"));
+        // As slow as a card.
+        connect(&outfit.library, &AcquisitionLibrary::sessionsChanged, this, [&outfit] {
+            QTest::qSleep(20);
+            if (outfit.library.size() == 40)
+                outfit.window.findChild<DownloadInProgress *>()->close();
+        });
+        QCOMPARE(outfit.drop(outfit.window, {QString()}),
+                 u"Import cancelled. Imported: 40, already there: 0, no session files: 0"_s);
+        QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden).size(), 40);
+    }
+
+    void exports()
+    {
+        Outfit outfit;
+        const QString path = outfit.put(u"Run.ra1"_s, recorded("10:11:12"));
+        Session *session = outfit.library.add(path, "");
+        ExportDialogs exports(&outfit.window);
+        const QSignalSpy done(&exports, &ExportDialogs::done);
+        // Chooses a file; gives what the dialog proposed and what was told.
+        const auto choose = [&](auto run, const QString &name) -> QString {
+            QString proposed;
+            QTimer::singleShot(0, this, [&] {
+                auto *dialog = outfit.window.findChild<QFileDialog *>();
+                auto *field = dialog->findChild<QLineEdit *>();
+                proposed = dialog->windowTitle() + u'|' + field->text() + u'|';
+                field->setText(outfit.card.filePath(name));
+                static_cast<QDialog *>(dialog)->accept();
+            });
+            (exports.*run)(session);
+            return proposed + done.last()[0].toString().remove(outfit.card.path() + u'/');
+        };
+        for (const QString &locale : {u"C"_s, u"en"_s, u"fr"_s}) {
+            QLocale::setDefault(QLocale(locale));
+            QCOMPARE(choose(&ExportDialogs::exportSessionData, locale),
+                     u"Export Session Data file|Run.ra1.csv|Exported to \"%1\"."_s.arg(locale));
+            QProcess tool;
+            tool.start(QStringLiteral(ZUNO_TOOL), {u"csv"_s, path, u"--locale"_s, locale});
+            QVERIFY(tool.waitForFinished());
+            QCOMPARE(contents(outfit.card.filePath(locale)), tool.readAllStandardOutput());
+            QCOMPARE(contents(outfit.card.filePath(locale)).count('\n'), 2);
+        }
+        QCOMPARE(choose(&ExportDialogs::exportSession, u"copy"_s),
+                 u"Export Session file|Run.ra1|Exported to \"copy\"."_s);
+        QCOMPARE(contents(outfit.card.filePath(u"copy"_s)), recorded("10:11:12"));
+        QVERIFY(choose(&ExportDialogs::exportSession, u"fr"_s).contains(u"\"fr\" exists already"));
+        QVERIFY(
+            choose(&ExportDialogs::exportSession, u"fr/x"_s).contains(u"not be written: Cannot"));
+        QVERIFY(
+            choose(&ExportDialogs::exportSessionData, u"fr/x"_s).contains(u"could not be written"));
+    }
+};
 
 QTEST_MAIN(TestImport)
 #include "tst_import.moc"

@@ -113,140 +113,135 @@ class TestUpdate final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void document();
-    void check_data();
-    void check();
-    void download_data();
-    void download();
+
+    void initTestCase()
+    {
+        QNetworkProxyFactory::setUseSystemConfiguration(false);
+        QApplication::setQuitOnLastWindowClosed(false);
+        QCoreApplication::setApplicationVersion(u"1.5.0.0"_s);
+    }
+
+    void document()
+    {
+        const auto read = [](const QByteArray &xml) -> QString {
+            const UpdateDocument document(xml);
+            return document.name() + u' ' + document.version() + u' ' + document.url();
+        };
+        const QByteArray good = release("1.6", "u", "n");
+        QCOMPARE(read(documentOf("<x><url>no</url></x><version> 1.6\n</version><name>n</name>"
+                                 "<url>u</url><version>2</version>")),
+                 u"n 1.6 u"_s);
+        QCOMPARE(read(documentOf("<url>u</url><name>n</name><version>1.6</version>")), u"  u"_s);
+        QCOMPARE(read("<a>" + good + release("2.0", "v", "m") + "</a>"), u"m 2.0 v"_s);
+        for (const QByteArray &bad : {good.chopped(3), QByteArray(good + "<b/>"), QByteArray("1.6"),
+                                      QByteArray(good).replace("ZUNO", "Zuno")})
+            QCOMPARE(read(bad), u"  "_s);
+    }
+
+    void check_data()
+    {
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<bool>("isOffered");
+        for (const char *version : {"1.6", "2.0.0.0", "0.10", "beta.6", " 1.6 "})
+            QTest::newRow(version) << ok(release(version)) << true;
+        for (const char *version : {"1.5.9", "1.5.0.0", "1.4", "0.4", "2", "beta.5", ""})
+            QTest::newRow(version) << ok(release(version)) << false;
+        const QByteArray newer = release("1.6");
+        const QByteArray huge = newer + QByteArray(2 << 20, ' ');
+        QTest::newRow("empty") << ok({}) << false;
+        QTest::newRow("malformed") << ok(newer.chopped(1)) << false;
+        QTest::newRow("huge") << ok(huge) << false;
+        QTest::newRow("endless") << "HTTP/1.1 200 OK\r\n\r\n" + huge << false;
+        QTest::newRow("error") << ok(newer).replace("200 OK", "500 Error") << false;
+        QTest::newRow("choices") << ok(newer).replace("200 OK", "300 Choose") << false;
+        QTest::newRow("dropped") << ok(newer, 1) << false;
+        QTest::newRow("slow") << ok(QByteArray(newer).replace("<list>", "~<list>~")) << true;
+        QTest::newRow("silent") << QByteArray() << false;
+        QTest::newRow("moved") << movedTo("/moved") << true;
+        QTest::newRow("moved in circles") << movedTo(InfosPath) << false;
+        QTest::newRow("moved away from HTTPS") << movedTo(Away + "/moved") << false;
+        QTest::newRow("unsafe installer") << ok(release("1.6", Away + "/moved")) << false;
+    }
+
+    void check()
+    {
+        QFETCH(QByteArray, answer);
+        Server server;
+        server.answers["/moved"] = ok(release("1.6"));
+        if (!answer.isEmpty())
+            server.answers[InfosPath] = answer;
+        UpdateApp app(server.url());
+        app.setTimeout(500ms);
+        const QSignalSpy finished(app.findChild<QNetworkAccessManager *>(),
+                                  &QNetworkAccessManager::finished);
+        app.checkForUpdates();
+        QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 2000);
+        auto *box = topLevel<QMessageBox>();
+        QTEST(box != nullptr, "isOffered");
+        // Enter, of a rider who was typing, downloads nothing.
+        if (box != nullptr)
+            QTest::keyClick(box, Qt::Key_Return);
+        QTRY_VERIFY(topLevel<QMessageBox>() == nullptr);
+        QVERIFY(topLevel<DownloadInProgress>() == nullptr);
+    }
+
+    void download_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("answer");
+        QTest::addColumn<QString>("saved");
+        QTest::addColumn<int>("end");
+        const QByteArray good = ok(Installer);
+        const QByteArray name = "Setup.sh";
+        QTest::newRow("whole") << name << good << u"Setup.sh"_s << Quit;
+        QTest::newRow("moved") << name << movedTo("/moved") << u"Setup.sh"_s << Quit;
+        QTest::newRow("path") << QByteArray("../../up.sh") << good << u"up.sh"_s << Quit;
+        QTest::newRow("foreign path")
+            << QByteArray("C:\\Temp\\up.sh") << good << u"up.sh"_s << Quit;
+        QTest::newRow("no name") << QByteArray() << good << QString() << Told;
+        QTest::newRow("dropped") << name << ok(Installer, 1) << QString() << Told;
+        QTest::newRow("not found")
+            << name << QByteArray(good).replace("200 OK", "404 No") << QString() << Told;
+        QTest::newRow("moved away") << name << movedTo(Away + "/moved") << QString() << Told;
+        QTest::newRow("cancelled")
+            << name << ok(QByteArray(2000, 'x') + "~x~~~~~~~", 1999) << QString() << Cancelled;
+    }
+
+    void download()
+    {
+        QFETCH(QByteArray, name);
+        QFETCH(QByteArray, answer);
+        QFETCH(QString, saved);
+        const QTemporaryDir root;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(root.path()));
+        Server server;
+        server.answers[InfosPath] = ok(release("1.6", Here + "/setup", name));
+        server.answers["/setup"] = answer;
+        server.answers["/moved"] = ok(Installer);
+        UpdateApp app(server.url());
+        connect(&app, &UpdateApp::failed, &app, [] { QCoreApplication::exit(Told); });
+        QTimer::singleShot(5s, &app, [] { QCoreApplication::exit(TooLate); });
+        QTimer hand;
+        connect(&hand, &QTimer::timeout, &app, [] {
+            const auto *window = topLevel<DownloadInProgress>();
+            if (auto *box = topLevel<QMessageBox>()) {
+                box->button(QMessageBox::Yes)->click();
+            } else if (window != nullptr && window->findChild<QProgressBar *>()->value() == 50) {
+                window->findChild<QPushButton *>()->click();
+                QTimer::singleShot(50ms, [] { QCoreApplication::exit(Cancelled); });
+            }
+        });
+        hand.start(10ms);
+        app.checkForUpdates();
+        QTEST(QCoreApplication::exec(), "end");
+        QVERIFY(!topLevel<DownloadInProgress>()->isVisible());
+        // The installer was started: it leaves a file behind.
+        const QDir temp(root.filePath(u"Temp"_s));
+        const QString left = saved.isEmpty() ? QString() : QString(saved + u' ' + saved + u".ran");
+        QTRY_COMPARE(temp.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '), left);
+        QCOMPARE(QDir(root.path()).entryList(QDir::Files), QStringList());
+    }
 };
-
-void TestUpdate::initTestCase()
-{
-    QNetworkProxyFactory::setUseSystemConfiguration(false);
-    QApplication::setQuitOnLastWindowClosed(false);
-    QCoreApplication::setApplicationVersion(u"1.5.0.0"_s);
-}
-
-void TestUpdate::document()
-{
-    const auto read = [](const QByteArray &xml) -> QString {
-        const UpdateDocument document(xml);
-        return document.name() + u' ' + document.version() + u' ' + document.url();
-    };
-    const QByteArray good = release("1.6", "u", "n");
-    QCOMPARE(read(documentOf("<x><url>no</url></x><version> 1.6\n</version><name>n</name>"
-                             "<url>u</url><version>2</version>")),
-             u"n 1.6 u"_s);
-    QCOMPARE(read(documentOf("<url>u</url><name>n</name><version>1.6</version>")), u"  u"_s);
-    QCOMPARE(read("<a>" + good + release("2.0", "v", "m") + "</a>"), u"m 2.0 v"_s);
-    for (const QByteArray &bad : {good.chopped(3), QByteArray(good + "<b/>"), QByteArray("1.6"),
-                                  QByteArray(good).replace("ZUNO", "Zuno")})
-        QCOMPARE(read(bad), u"  "_s);
-}
-
-void TestUpdate::check_data()
-{
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<bool>("isOffered");
-    for (const char *version : {"1.6", "2.0.0.0", "0.10", "beta.6", " 1.6 "})
-        QTest::newRow(version) << ok(release(version)) << true;
-    for (const char *version : {"1.5.9", "1.5.0.0", "1.4", "0.4", "2", "beta.5", ""})
-        QTest::newRow(version) << ok(release(version)) << false;
-    const QByteArray newer = release("1.6");
-    const QByteArray huge = newer + QByteArray(2 << 20, ' ');
-    QTest::newRow("empty") << ok({}) << false;
-    QTest::newRow("malformed") << ok(newer.chopped(1)) << false;
-    QTest::newRow("huge") << ok(huge) << false;
-    QTest::newRow("endless") << "HTTP/1.1 200 OK\r\n\r\n" + huge << false;
-    QTest::newRow("error") << ok(newer).replace("200 OK", "500 Error") << false;
-    QTest::newRow("choices") << ok(newer).replace("200 OK", "300 Choose") << false;
-    QTest::newRow("dropped") << ok(newer, 1) << false;
-    QTest::newRow("slow") << ok(QByteArray(newer).replace("<list>", "~<list>~")) << true;
-    QTest::newRow("silent") << QByteArray() << false;
-    QTest::newRow("moved") << movedTo("/moved") << true;
-    QTest::newRow("moved in circles") << movedTo(InfosPath) << false;
-    QTest::newRow("moved away from HTTPS") << movedTo(Away + "/moved") << false;
-    QTest::newRow("unsafe installer") << ok(release("1.6", Away + "/moved")) << false;
-}
-
-void TestUpdate::check()
-{
-    QFETCH(QByteArray, answer);
-    Server server;
-    server.answers["/moved"] = ok(release("1.6"));
-    if (!answer.isEmpty())
-        server.answers[InfosPath] = answer;
-    UpdateApp app(server.url());
-    app.setTimeout(500ms);
-    const QSignalSpy finished(app.findChild<QNetworkAccessManager *>(),
-                              &QNetworkAccessManager::finished);
-    app.checkForUpdates();
-    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 2000);
-    auto *box = topLevel<QMessageBox>();
-    QTEST(box != nullptr, "isOffered");
-    // Enter, of a rider who was typing, downloads nothing.
-    if (box != nullptr)
-        QTest::keyClick(box, Qt::Key_Return);
-    QTRY_VERIFY(topLevel<QMessageBox>() == nullptr);
-    QVERIFY(topLevel<DownloadInProgress>() == nullptr);
-}
-
-void TestUpdate::download_data()
-{
-    QTest::addColumn<QByteArray>("name");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<QString>("saved");
-    QTest::addColumn<int>("end");
-    const QByteArray good = ok(Installer);
-    const QByteArray name = "Setup.sh";
-    QTest::newRow("whole") << name << good << u"Setup.sh"_s << Quit;
-    QTest::newRow("moved") << name << movedTo("/moved") << u"Setup.sh"_s << Quit;
-    QTest::newRow("path") << QByteArray("../../up.sh") << good << u"up.sh"_s << Quit;
-    QTest::newRow("foreign path") << QByteArray("C:\\Temp\\up.sh") << good << u"up.sh"_s << Quit;
-    QTest::newRow("no name") << QByteArray() << good << QString() << Told;
-    QTest::newRow("dropped") << name << ok(Installer, 1) << QString() << Told;
-    QTest::newRow("not found") << name << QByteArray(good).replace("200 OK", "404 No") << QString()
-                               << Told;
-    QTest::newRow("moved away") << name << movedTo(Away + "/moved") << QString() << Told;
-    QTest::newRow("cancelled") << name << ok(QByteArray(2000, 'x') + "~x~~~~~~~", 1999) << QString()
-                               << Cancelled;
-}
-
-void TestUpdate::download()
-{
-    QFETCH(QByteArray, name);
-    QFETCH(QByteArray, answer);
-    QFETCH(QString, saved);
-    const QTemporaryDir root;
-    qputenv("XDG_DATA_HOME", QFile::encodeName(root.path()));
-    Server server;
-    server.answers[InfosPath] = ok(release("1.6", Here + "/setup", name));
-    server.answers["/setup"] = answer;
-    server.answers["/moved"] = ok(Installer);
-    UpdateApp app(server.url());
-    connect(&app, &UpdateApp::failed, &app, [] { QCoreApplication::exit(Told); });
-    QTimer::singleShot(5s, &app, [] { QCoreApplication::exit(TooLate); });
-    QTimer hand;
-    connect(&hand, &QTimer::timeout, &app, [] {
-        const auto *window = topLevel<DownloadInProgress>();
-        if (auto *box = topLevel<QMessageBox>()) {
-            box->button(QMessageBox::Yes)->click();
-        } else if (window != nullptr && window->findChild<QProgressBar *>()->value() == 50) {
-            window->findChild<QPushButton *>()->click();
-            QTimer::singleShot(50ms, [] { QCoreApplication::exit(Cancelled); });
-        }
-    });
-    hand.start(10ms);
-    app.checkForUpdates();
-    QTEST(QCoreApplication::exec(), "end");
-    QVERIFY(!topLevel<DownloadInProgress>()->isVisible());
-    // The installer was started: it leaves a file behind.
-    const QDir temp(root.filePath(u"Temp"_s));
-    const QString left = saved.isEmpty() ? QString() : QString(saved + u' ' + saved + u".ran");
-    QTRY_COMPARE(temp.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '), left);
-    QCOMPARE(QDir(root.path()).entryList(QDir::Files), QStringList());
-}
 
 QTEST_MAIN(TestUpdate)
 #include "tst_update.moc"
