@@ -25,6 +25,7 @@
 #include <views/idealtimemodel.h>
 
 #include "builders.h"
+#include "widgets.h"
 
 using namespace zuno;
 using namespace zuno::test;
@@ -53,10 +54,9 @@ QByteArrayList filesIn(const QString &folder)
 {
     QByteArrayList files;
     for (QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        QFile file(it.next());
-        if (file.open(QIODevice::ReadOnly))
-            files << file.fileName().toUtf8() + file.readAll()
-                         + it.fileInfo().lastModified().toString(Qt::ISODateWithMs).toUtf8();
+        const QString path = it.next();
+        files << path.toUtf8() + contents(path)
+                     + it.fileInfo().lastModified().toString(Qt::ISODateWithMs).toUtf8();
     }
     std::sort(files.begin(), files.end());
     return files;
@@ -134,14 +134,13 @@ private Q_SLOTS:
         IdealTimeDialog dialog({maps, settings}, sessions);
         const QSignalSpy spy(&dialog, &IdealTimeDialog::lapRequested);
         dialog.show();
-        auto *close = dialog.findChild<QPushButton *>(u"pb_close"_s);
-        QCOMPARE(close->text(), u"Cancel"_s);
-        QTRY_COMPARE(close->text(), u"Close"_s);
-        const QString leftOut = dialog.findChild<QLabel *>(u"lb_leftOut"_s)->text();
+        const auto &close = child<QPushButton>(dialog, "pb_close");
+        QCOMPARE(close.text(), u"Cancel"_s);
+        QTRY_COMPARE(close.text(), u"Close"_s);
+        const QString leftOut = child<QLabel>(dialog, "lb_leftOut").text();
         QVERIFY2(leftOut.contains(u"Hill road: no map") && leftOut.contains(u"on \"Haidemoor\""),
                  qPrintable(leftOut));
-        QCOMPARE(dialog.findChild<QLabel *>(u"lb_map"_s)->text(),
-                 u"Map : Valmora, sessions : 4 of 6"_s);
+        QCOMPARE(child<QLabel>(dialog, "lb_map").text(), u"Map : Valmora, sessions : 4 of 6"_s);
 
         auto *table = dialog.findChild<QTableView *>(u"tw_idealTime"_s);
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
@@ -166,8 +165,7 @@ private Q_SLOTS:
         const MapLibrary noMaps;
         IdealTimeDialog empty({noMaps, settings}, sessions.first(2));
         empty.show();
-        QTRY_VERIFY(empty.findChild<QLabel *>(u"lb_state"_s)->isVisible());
-        QVERIFY(empty.findChild<QLabel *>(u"lb_state"_s)->text().startsWith(u"None of these"));
+        QTRY_VERIFY(child<QLabel>(empty, "lb_state").text().startsWith(u"None of these"));
     }
 };
 

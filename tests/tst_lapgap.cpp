@@ -144,17 +144,13 @@ private Q_SLOTS:
             Ride second;
             double tolerance; // milliseconds
         } rows[] = {
-            {u"outside"_s, Circuit, {-3.0}, middle, 20},
-            {u"inside"_s, Circuit, middle, {-3.0}, 20},
             {u"slower"_s, Circuit, slower, middle, 20},
-            {u"25 Hz"_s, Circuit, {-3.0, 0.0005, 40}, middle, 20},
             {u"1 Hz to 10 Hz"_s, Circuit, {-3.0, 0.0005, 1000}, middle, 20},
             {u"10 Hz to 1 Hz"_s, Circuit, slower, {0.0, 0.0, 1000}, 60},
             {u"first lost in the turn"_s, Circuit, {-3.0, 0.0005, 100, 17000, 24000}, middle, 60},
             {u"second lost in the turn"_s, Circuit, slower, {0.0, 0.0, 100, 17000, 24000}, 60},
             {u"eight"_s, Eight, slower, middle, 20},
             {u"lost at the crossing"_s, Eight, slower, {0.0, 0.0, 100, 6000, 9000}, 60},
-            {u"hairpins"_s, Hairpins, slower, middle, 80},
             {u"hairpins, lines crossing"_s, Hairpins, {3.0, 0.0005}, {-3.0}, 200},
             {u"lost in a hairpin"_s, Hairpins, {-3.0, 0.0005, 100, 11000, 15000}, middle, 80},
         };
