@@ -11,6 +11,7 @@
 #include <QByteArray>
 #include <QGeoCoordinate>
 #include <QList>
+#include <QMap>
 #include <QString>
 
 #include <session/pointacquisition.h>
@@ -128,6 +129,8 @@ void addReadings(PointAcquisition &point, int channel, const QList<float> &value
 void putFile(const QString &path, const QByteArray &bytes);
 /// What the file holds; nothing if it cannot be read.
 [[nodiscard]] QByteArray contents(const QString &path);
+/// What all files of a folder and those below it hold, by their relative paths.
+[[nodiscard]] QMap<QString, QByteArray> filesIn(const QString &folder);
 /// Moves the file's time into the past, so that any writing shows in isOld().
 void makeOld(const QString &path);
 [[nodiscard]] bool isOld(const QString &path);

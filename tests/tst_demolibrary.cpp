@@ -1,32 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QDir>
-#include <QDirIterator>
 #include <QFile>
-#include <QMap>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <cli/demolibrary.h>
 
+#include "builders.h"
+
 using namespace zuno;
-
-namespace {
-
-QMap<QString, QByteArray> filesOf(const QString &folder)
-{
-    QMap<QString, QByteArray> files;
-    QDirIterator iterator(folder, QDir::Files, QDirIterator::Subdirectories);
-    while (iterator.hasNext()) {
-        QFile file(iterator.next());
-        if (file.open(QIODevice::ReadOnly))
-            files.insert(QDir(folder).relativeFilePath(file.fileName()), file.readAll());
-    }
-    return files;
-}
-
-} // namespace
+using namespace zuno::test;
 
 class TestDemoLibrary final : public QObject
 {
@@ -40,9 +24,9 @@ private Q_SLOTS:
             const QTemporaryDir second;
             QVERIFY(writeDemoLibrary(first.path(), options).ok());
             const DemoResult result = writeDemoLibrary(second.path(), options);
-            const auto files = filesOf(first.path());
+            const auto files = filesIn(first.path());
             QCOMPARE(files.size(), result.mapFiles.size() + result.sessionFiles.size());
-            QVERIFY(files.size() >= 10 && files == filesOf(second.path()));
+            QVERIFY(files.size() >= 10 && files == filesIn(second.path()));
         }
     }
 
@@ -56,10 +40,10 @@ private Q_SLOTS:
             const QByteArray before = file.readAll();
             QVERIFY(file.seek(20) && file.putChar('\x7f'));
             file.close();
-            const auto files = filesOf(folder.path());
+            const auto files = filesIn(folder.path());
             const DemoResult result = writeDemoLibrary(folder.path(), {2, 10});
             QVERIFY2(result.error.contains(path), qPrintable(result.error));
-            QVERIFY(filesOf(folder.path()) == files);
+            QVERIFY(filesIn(folder.path()) == files);
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(before) == before.size());
         }
     }

@@ -5,7 +5,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
-#include <QDirIterator>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLocale>
@@ -47,19 +46,6 @@ std::unique_ptr<Session> sessionOfLaps(const QString &laps, const Map &map, cons
     session->setDriver(name.toLower());
     session->setMap(&map);
     return session;
-}
-
-// Path, size, time and content of every file.
-QByteArrayList filesIn(const QString &folder)
-{
-    QByteArrayList files;
-    for (QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {
-        const QString path = it.next();
-        files << path.toUtf8() + contents(path)
-                     + it.fileInfo().lastModified().toString(Qt::ISODateWithMs).toUtf8();
-    }
-    std::sort(files.begin(), files.end());
-    return files;
 }
 
 } // namespace
@@ -128,7 +114,8 @@ private Q_SLOTS:
         released->smooth();
         chooseMapByLength(*released, findCandidates(*released, maps.maps()));
         released->release();
-        const QByteArrayList before = filesIn(folder.path());
+        makeOld(released->filePath());
+        const auto before = filesIn(folder.path());
         const QMap<QString, bool> states = library.viewedStateMap();
 
         IdealTimeDialog dialog({maps, settings}, sessions);
@@ -157,6 +144,7 @@ private Q_SLOTS:
 
         // What is left of the sessions is new and not displayed.
         QCOMPARE(filesIn(folder.path()), before);
+        QVERIFY(isOld(released->filePath()));
         QCOMPARE(library.viewedStateMap(), states);
         for (const Session *session : std::as_const(sessions))
             QVERIFY(session->laps().empty() && (session->map() == nullptr || session == released));

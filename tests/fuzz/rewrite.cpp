@@ -54,15 +54,14 @@ void edit(FuzzedDataProvider &source, Session &session)
         session.setCircuitName(text());
     if ((fields & 2) != 0)
         session.setNotes(text());
-    if ((fields & 8) != 0)
+    if ((fields & 4) != 0) {
         session.setTemperature(source.ConsumeIntegral<qint32>());
-    if ((fields & 16) != 0)
         session.setInvalidLaps({source.ConsumeIntegral<quint8>(), 3});
-    if ((fields & 32) != 0)
         session.setNewSession(source.ConsumeIntegral<quint8>());
+    }
     // As a session with laps does.
     SessionInformation information = session.information();
-    if ((fields & 64) != 0)
+    if ((fields & 8) != 0)
         information.bestLapText = StoredText(QStringLiteral("01:02.003"));
     session.setInformation(information);
 }

@@ -30,13 +30,12 @@ QByteArray rideSession(const Points &points)
     return file.u32(0).text("03/05/2026").u8(0).text("10:11").f64(0).u8(1).u8(0);
 }
 
-QByteArray map(const QList<QByteArray> &names)
+QByteArray map()
 {
     Bytes file;
-    file.text("MAP").text("1.0").f64(45).f64(45.1).f64(9).f64(9.1).u32(7);
-    file.u32(static_cast<quint32>(names.size()));
-    for (qsizetype i = 0; i < names.size(); ++i)
-        file.text(names[i]).f64(9).f64(place(100.0 * static_cast<double>(i)).latitude());
+    file.text("MAP").text("1.0").f64(45).f64(45.1).f64(9).f64(9.1).u32(7).u32(3);
+    for (const double north : {0.0, 100.0, 200.0})
+        file.text(north > 0 ? "Time 0" : "Start/Time 1").f64(9).f64(place(north).latitude());
     file.f64(10).u32(35);
     for (int i = 0; i < 35; ++i)
         file.f64(9).f64(place(20.0 * i).latitude());
@@ -49,20 +48,16 @@ int main(int count, char **arguments)
 {
     const QCoreApplication application(count, arguments);
     const QString folder = QCoreApplication::arguments().value(1, u"."_s);
-    QList<QByteArray> sessions {
+    const QList<QByteArray> sessions {
         fullSession().bytes(),
         SessionBytes {.information = InformationBytes().bytes()}.bytes(),
-        SessionBytes {.samples = 0, .words = {}, .date = "", .time = "", .listsFlag = 0}.bytes(),
-        rideSession(ride(u"-50..50/10 20*3 -*2"_s)),
         rideSession(ride(lapRide({0, 0, 1}))),
     };
     for (qsizetype i = 0; i < sessions.size(); ++i) {
         putFile(u"%1/session/%2.ra1"_s.arg(folder).arg(i), sessions[i]);
         putFile(u"%1/rewrite/%2.ra1"_s.arg(folder).arg(i), sessions[i]);
     }
-    putFile(folder + u"/map/sectors.map", map({"Start", "Time 0", "Time 1"}));
-    putFile(folder + u"/map/both.map", map({"Start/Time 1", "Pit"}));
-    putFile(folder + u"/map/none.map", map({}));
+    putFile(folder + u"/map/sectors.map", map());
     putFile(folder + u"/update/one.xml",
             R"(<list><item name="ZUNO Analyzer"><version>1.6.0.0</version><name>setup.exe</name>)"
             R"(<url>https://www.example.com/setup.exe</url></item><item name="Other"/></list>)");
