@@ -125,11 +125,10 @@ private Q_SLOTS:
         QCOMPARE(close.text(), u"Cancel"_s);
         QTRY_COMPARE(close.text(), u"Close"_s);
         const QString leftOut = child<QLabel>(dialog, "lb_leftOut").text();
-        QVERIFY2(leftOut.contains(u"Hill road: no map") && leftOut.contains(u"on \"Haidemoor\""),
-                 qPrintable(leftOut));
+        QVERIFY(leftOut.contains(u"Hill road: no map") && leftOut.contains(u"on \"Haidemoor\""));
         QCOMPARE(child<QLabel>(dialog, "lb_map").text(), u"Map : Valmora, sessions : 4 of 6"_s);
 
-        auto *table = dialog.findChild<QTableView *>(u"tw_idealTime"_s);
+        auto *table = &child<QTableView>(dialog, "tw_idealTime");
         QTest::keyClick(table, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text().count(u'\n'), table->model()->rowCount() + 1);
         const QModelIndex first = table->model()->index(0, IdealTimeModel::SessionName);
