@@ -135,7 +135,7 @@ private Q_SLOTS:
         QTest::newRow("another program") << ok(QByteArray(newer).replace("ZUNO", "Zuno")) << false;
         QTest::newRow("nested") << ok(documentOf("<x><version>0.1</version></x><version>1.6"
                                                  "</version><url>"
-                                                 + Here + "</url>"))
+                                                 + Here + "</url><version>1</version>"))
                                 << true;
         QTest::newRow("the last") << ok("<a>" + release("1.4") + newer + "</a>") << true;
         QTest::newRow("huge") << ok(huge) << false;

@@ -7,7 +7,6 @@
 #include <cmath>
 
 #include <QCoreApplication>
-#include <QDir>
 
 #include "../builders.h"
 
