@@ -142,10 +142,14 @@ private Q_SLOTS:
         Outfit outfit;
         const QString path = outfit.put(u"Run.ra1"_s, recorded("10:11:12"));
         Session *session = outfit.library.add(path, "");
+        Points points(1);
+        points[0].dataTimeSec = 2000; // Written in groups, which tells the locale.
+        const auto late = sessionOf(points);
+        late->setFilePath(path);
         ExportDialogs exports(&outfit.window);
         const QSignalSpy done(&exports, &ExportDialogs::done);
         // Chooses a file; gives what the dialog proposed and what was told.
-        const auto choose = [&](auto run, const QString &name) -> QString {
+        const auto choose = [&](auto run, Session *exported, const QString &name) -> QString {
             QString proposed;
             QTimer::singleShot(0, this, [&] {
                 auto *dialog = outfit.window.findChild<QFileDialog *>();
@@ -154,21 +158,21 @@ private Q_SLOTS:
                 field->setText(outfit.card.filePath(name));
                 static_cast<QDialog *>(dialog)->accept();
             });
-            (exports.*run)(session);
+            (exports.*run)(exported);
             return proposed + done.last()[0].toString().remove(outfit.card.path() + u'/');
         };
-        QLocale::setDefault(QLocale(u"fr"_s));
-        QCOMPARE(choose(&ExportDialogs::exportSessionData, u"csv"_s),
+        QLocale::setDefault(QLocale(u"en"_s));
+        QCOMPARE(choose(&ExportDialogs::exportSessionData, late.get(), u"csv"_s),
                  u"Export Session Data file|Run.ra1.csv|Exported to \"csv\"."_s);
-        QCOMPARE(contents(outfit.card.filePath(u"csv"_s)), sessionCsv(*session, QLocale()));
-        QCOMPARE(choose(&ExportDialogs::exportSession, u"copy"_s),
+        QCOMPARE(contents(outfit.card.filePath(u"csv"_s)), sessionCsv(*late, QLocale()));
+        QCOMPARE(choose(&ExportDialogs::exportSession, session, u"copy"_s),
                  u"Export Session file|Run.ra1|Exported to \"copy\"."_s);
         QCOMPARE(contents(outfit.card.filePath(u"copy"_s)), recorded("10:11:12"));
-        QVERIFY(
-            choose(&ExportDialogs::exportSession, u"csv"_s).contains(u"\"csv\" exists already"));
-        QVERIFY(
-            choose(&ExportDialogs::exportSession, u"csv/x"_s).contains(u"not be written: Cannot"));
-        QVERIFY(choose(&ExportDialogs::exportSessionData, u"csv/x"_s)
+        QVERIFY(choose(&ExportDialogs::exportSession, session, u"csv"_s)
+                    .contains(u"\"csv\" exists already"));
+        QVERIFY(choose(&ExportDialogs::exportSession, session, u"csv/x"_s)
+                    .contains(u"not be written: Cannot"));
+        QVERIFY(choose(&ExportDialogs::exportSessionData, session, u"csv/x"_s)
                     .contains(u"could not be written"));
     }
 };
