@@ -177,7 +177,8 @@ private Q_SLOTS:
 
     void sector()
     {
-        const auto map = lineMap(10, 680, {{u"Start"_s, 0}, {u"Time 0"_s, 100}, {u"Time 1"_s, 200}});
+        const auto map
+            = lineMap(10, 680, {{u"Start"_s, 0}, {u"Time 0"_s, 100}, {u"Time 1"_s, 200}});
         const auto session = sessionOf(ride(lapRide({0, 0})));
         session->setMap(map.get());
         Charts view;
