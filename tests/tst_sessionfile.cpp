@@ -243,7 +243,8 @@ private:
     {
         OpenedSession decoded = decodeSession(bytes, m_path);
         if (everything(opened(bytes)) != everything(decoded))
-            qFatal("a file of %lld bytes reads differently", qlonglong(bytes.size()));
+            qFatal("a file of %s bytes reads differently",
+                   QByteArray::number(bytes.size()).constData());
         return decoded;
     }
 
