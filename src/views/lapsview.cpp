@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMetaMethod>
 #include <QTableView>
+#include <QTimer>
 
 #include <app/settings.h>
 #include <maps/map.h>
@@ -95,6 +96,8 @@ void LapsView::showLaps()
     applyColumns();
     selectCurrentRow();
     updateActions();
+    // With the first lap the charts appear and take room from the table.
+    QTimer::singleShot(0, &m_table, [this] { m_table.scrollTo(m_table.currentIndex()); });
 }
 
 void LapsView::applyColumns()
