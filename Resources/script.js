@@ -9,8 +9,8 @@ const FirstColour = "#00FF00";
 const SecondColour = "#FF0000";
 /** How far from the line a click still means it, in pixels. */
 const ClickReach = 25;
-/** Pixels around what is shown whole: signs stand above their place. */
-const FitPadding = { top: 56, right: 30, bottom: 30, left: 30 };
+/** Pixels around what is shown whole: signs stand above their place, the legend at the lower edge. */
+const FitPadding = { top: 56, right: 30, bottom: 72, left: 30 };
 
 /** @type {google.maps.Map | null} */
 let map = null;
