@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <maps/mapdraft.h>
 #include <maps/mapfile.h>
 #include <session/bytereader.h>
 #include <session/session.h>
@@ -142,6 +143,28 @@ private Q_SLOTS:
             QCOMPARE(names.join(u' '), u"/a/z.bin /b.map /c/deep/er/a"_s);
         }
         QCOMPARE(library.find(u"/b.map"_s), library.maps().at(1));
+    }
+
+    // What is written is read as it was; what the format has no room for is left out.
+    void draftRoundTrip()
+    {
+        const QTemporaryDir folder;
+        MapDraft draft {u"/new/x.map"_s, {{1, 2}, {1, 2.5}, {1.5, 2}}, {1, 2}, {}, 7.5};
+        for (int i = 0; i < MaximumSectors; ++i)
+            draft.timingPoints.append({1.25, 2.0 + 0.1 * i});
+        MapDraft crowded = draft;
+        crowded.timingPoints.append({9, 9});
+        crowded.outline.append(QGeoCoordinate());
+        const QString path = folder.filePath(u"new/x.map"_s);
+        QCOMPARE(writeMapFile(crowded, path), QString());
+        const auto map = readMapFile(path, folder.path());
+        QVERIFY(map);
+        QCOMPARE(MapDraft::of(*map), draft);
+        QCOMPARE(MapDraft::of(*crowded.toMap()), draft);
+        QCOMPARE(map->cornerA(), QGeoCoordinate(1, 2));
+        QCOMPARE(map->cornerB(), QGeoCoordinate(1.5, 2.7));
+        QVERIFY(!writeMapFile(draft, path + u"/below/a/file.map"_s).isEmpty());
+        QCOMPARE(MapDraft().toMap()->isUsable(), false);
     }
 
     // The name goes into the session's file, which holds nothing but ASCII without harm.
