@@ -5,9 +5,10 @@
 # Installs the Debian packages that building and starting needs, and that are not there yet.
 #   --core    what the core, the command line tool and their tests need
 #   --gui     that, and what the desktop program needs (this is the default)
-#   --checks  additionally the tools of scripts/check.sh
+#   --checks  additionally the tools of scripts/check-static.sh
 #   --package additionally the tools of scripts/package.sh
 #   --fuzz    only what scripts/fuzz.sh needs
+#   --format  only what scripts/check-format.sh needs
 #   --page    only what scripts/check-page.sh needs
 #   --try     only what scripts/try-package.sh needs
 #   --translations  only what scripts/check-translations.sh needs
@@ -21,7 +22,8 @@ gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools
     libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
 fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positioning-dev)
 # The compiler brings the sanitizers' libraries itself.
-checks=(git clang-format clang-tidy cppcheck shellcheck)
+format=(git clang-format)
+checks=(git clang-tidy clazy cppcheck shellcheck)
 package=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libfile-mimeinfo-perl)
 try=(xvfb x11-utils imagemagick fonts-dejavu-core xdg-utils desktop-file-utils shared-mime-info
     libfile-mimeinfo-perl)
@@ -35,12 +37,13 @@ for argument in "$@"; do
     --checks) packages+=("${checks[@]}") ;;
     --package) packages+=("${package[@]}") ;;
     --fuzz) sort_of=fuzz ;;
+    --format) sort_of=format ;;
     --page) sort_of=page ;;
     --try) sort_of=try ;;
     --translations) sort_of=translations ;;
     *)
-        echo "usage: ${0##*/} [--gui|--core|--fuzz|--page|--try|--translations] [--checks]" \
-            "[--package]" >&2
+        echo "usage: ${0##*/} [--gui|--core|--format|--fuzz|--page|--try|--translations]" \
+            "[--checks] [--package]" >&2
         exit 2
         ;;
     esac
@@ -49,6 +52,7 @@ case $sort_of in
 core) packages+=("${core[@]}") ;;
 gui) packages+=("${core[@]}" "${gui[@]}") ;;
 try) packages+=("${try[@]}") ;;
+format) packages+=("${format[@]}") ;;
 fuzz) packages+=("${fuzz[@]}") ;;
 translations) packages+=("${translations[@]}") ;;
 page)

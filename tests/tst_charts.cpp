@@ -64,7 +64,7 @@ struct Charts
     {
         return {qRound(state.visible().from), qRound(state.visible().to)};
     }
-    [[nodiscard]] LapChart &chart() const { return *pane.findChildren<LapChart *>()[1]; }
+    [[nodiscard]] LapChart &chart() const { return *pane.findChildren<LapChart *>().at(1); }
     void mouse(QEvent::Type type, double place, bool down = false) const
     {
         const QPointF pixel(chart().horizontalScale().pixelOf(place), 40);

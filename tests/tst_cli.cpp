@@ -83,8 +83,8 @@ private Q_SLOTS:
         for (const char *const wrong :
              {"event", "weather=fine", "temperature=256", "newSession=2", "invalid=1;2"})
             row(WrongUse, QByteArray("set good.ra1 driver=X ") + wrong, wrong);
-        for (const QByteArray command :
-             {"decode", "laps", "csv", "payload --lap 1", "set", "map"}) {
+        for (const QByteArray &command :
+             QByteArrayList {"decode", "laps", "csv", "payload --lap 1", "set", "map"}) {
             const QByteArray change = command == "set" ? "event=Cup" : "";
             row(WrongUse, command.split(' ').first(), "missing");
             row(FileFailed, command + " pipe.ra1 " + change, "pipe.ra1: cannot be read");

@@ -197,7 +197,7 @@ private Q_SLOTS:
                 QVERIFY(outfit.display.display(path));
             QCOMPARE(isOld(path), !isWritten);
             QCOMPARE(openSession(path).session->newSession(), 0);
-            QCOMPARE(outfit.library.viewedStateMap()[name], false);
+            QCOMPARE(outfit.library.viewedStateMap().value(name), false);
         }
         QCOMPARE(viewed.count(), 1);
         // The program's own writing is no change from outside.

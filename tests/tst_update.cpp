@@ -214,7 +214,7 @@ private Q_SLOTS:
                 box->button(QMessageBox::Yes)->click();
             } else if (window != nullptr && window->findChild<QProgressBar *>()->value() == 50) {
                 window->findChild<QPushButton *>()->click();
-                QTimer::singleShot(50ms, [] { QCoreApplication::exit(Cancelled); });
+                QTimer::singleShot(50ms, window, [] { QCoreApplication::exit(Cancelled); });
             }
         });
         hand.start(10ms);

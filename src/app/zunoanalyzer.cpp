@@ -36,15 +36,14 @@ namespace zuno {
 
 namespace {
 
-const QString VerticalHandle
-    = QStringLiteral("QSplitter::handle { image: url(:/Resources/split_v.png); }"
-                     "QSplitter::handle:vertical { height: 8px;}");
-const QString HorizontalHandle = QStringLiteral(
-    "QSplitter::handle { image: url(:/Resources/split_h.png); }"
-    "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }");
-const QString TabHandle = QStringLiteral(
-    "QSplitter::handle { image: url(:/Resources/split_v.png); }"
-    "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }");
+constexpr QStringView VerticalHandle = u"QSplitter::handle { image: url(:/Resources/split_v.png); }"
+                                       "QSplitter::handle:vertical { height: 8px;}";
+constexpr QStringView HorizontalHandle
+    = u"QSplitter::handle { image: url(:/Resources/split_h.png); }"
+      "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }";
+constexpr QStringView TabHandle
+    = u"QSplitter::handle { image: url(:/Resources/split_v.png); }"
+      "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }";
 
 constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitter1Sizes,
                                        Setting::Splitter2Sizes, Setting::Splitter3Sizes};
@@ -125,11 +124,11 @@ void ZunoAnalyzer::createInfosPage()
 void ZunoAnalyzer::createSplitters()
 {
     const auto make
-        = [](Qt::Orientation orientation, const QString &style, const QList<QWidget *> &contents) {
+        = [](Qt::Orientation orientation, QStringView style, const QList<QWidget *> &contents) {
               auto *splitter = new QSplitter(orientation);
               for (QWidget *widget : contents)
                   splitter->addWidget(widget);
-              splitter->setStyleSheet(style);
+              splitter->setStyleSheet(style.toString());
               return splitter;
           };
     QTabWidget *tabs = m_ui->tabWidget;

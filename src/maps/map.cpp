@@ -68,7 +68,7 @@ void Map::computeGeometry()
         return;
     NearestSegment start(m_startPoint);
     QList<NearestSegment> timing;
-    for (const QGeoCoordinate &point : m_timingPoints)
+    for (const QGeoCoordinate &point : std::as_const(m_timingPoints))
         timing.append(NearestSegment(point));
     for (qsizetype i = 0; i + 1 < m_trackPoints.size(); ++i) {
         const QGeoCoordinate &from = m_trackPoints.at(i);
@@ -79,7 +79,7 @@ void Map::computeGeometry()
             segment.offer(from, to);
     }
     m_startDirection = start.direction();
-    for (const NearestSegment &segment : timing)
+    for (const NearestSegment &segment : std::as_const(timing))
         m_timingDirections.append(segment.direction());
 }
 

@@ -9,7 +9,12 @@ namespace zuno {
 
 namespace {
 
-const SuspensionChannel NoReadings;
+// Not before somebody asks for it.
+const SuspensionChannel &noReadings()
+{
+    static const SuspensionChannel none;
+    return none;
+}
 
 } // namespace
 
@@ -41,12 +46,12 @@ qint32 PointAcquisition::roundedAngle() const
 
 const SuspensionChannel &PointAcquisition::suspension1() const
 {
-    return hasReadings() ? m_suspension->channel1 : NoReadings;
+    return hasReadings() ? m_suspension->channel1 : noReadings();
 }
 
 const SuspensionChannel &PointAcquisition::suspension2() const
 {
-    return hasReadings() ? m_suspension->channel2 : NoReadings;
+    return hasReadings() ? m_suspension->channel2 : noReadings();
 }
 
 PointAcquisition::Suspension &PointAcquisition::ownSuspension()

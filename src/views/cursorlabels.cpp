@@ -19,7 +19,7 @@ namespace zuno {
 namespace {
 
 // No value is longer.
-const QString LongestValue = QStringLiteral("+000.0 km/h");
+constexpr QLatin1String LongestValue("+000.0 km/h");
 // The room of the text about the gap, as wide as so many values.
 constexpr int GapColumns = 4;
 constexpr int GapLines = 3;

@@ -96,8 +96,10 @@ void IdealTimeSearch::add(const Session &session, bool isDisplayed)
     }
     auto group = std::find_if(m_groups.begin(), m_groups.end(),
                               [map](const Group &known) { return known.mapName == map->name(); });
-    if (group == m_groups.end())
-        group = m_groups.insert(group, {map->name(), map->displayName(), {}, {}, false});
+    if (group == m_groups.end()) {
+        m_groups.append({map->name(), map->displayName(), {}, {}, false});
+        group = std::prev(m_groups.end());
+    }
     group->sessions.append(nameOf(session));
     group->isDisplayed = group->isDisplayed || isDisplayed;
     group->idealTime.add(session);

@@ -86,7 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Cut short before its information, or a name of one character: the format takes its length
     // for the flag of lists.
     const bool hasLists = session.recording().listsFlag == 1;
-    if (after.isEmpty() || (!hasLists && session.information().circuitName.encoded()[0] == '\1'))
+    if (after.isEmpty() || (!hasLists && session.information().circuitName.encoded().at(0) == '\1'))
         return 0;
     const OpenedSession again = decodeSession(after, path());
     check(again.session != nullptr, "a rewritten file decodes");
