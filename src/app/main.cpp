@@ -1,6 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QScreen>
@@ -19,7 +23,7 @@ struct Arguments
 };
 
 /// What the program was started with. Ends the program after --help and after what nobody knows.
-Arguments readArguments(const QApplication &application)
+Arguments readArguments()
 {
     // It speaks before any language is loaded, as do all programs of a command line.
     const QCommandLineOption language(
@@ -37,20 +41,35 @@ Arguments readArguments(const QApplication &application)
                                  QStringLiteral("A session file (*.ra1): one of the library is "
                                                 "selected, any other is offered for import."),
                                  QStringLiteral("[file]"));
-    parser.process(application);
+    parser.process(*QCoreApplication::instance());
     return {parser.value(language), parser.positionalArguments().value(0)};
+}
+
+/// Whether the program is asked for its words only. It answers where there is no display, too.
+bool wantsText(int argc, char *argv[])
+{
+    static constexpr std::array Options {"-h", "--help", "--help-all", "-v", "--version"};
+    return std::any_of(argv + 1, argv + argc, [](const char *word) {
+        return std::any_of(Options.begin(), Options.end(),
+                           [word](const char *option) { return qstrcmp(word, option) == 0; });
+    });
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZUNO_VERSION));
+    if (wantsText(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        readArguments();
+        return EXIT_SUCCESS;
+    }
     zuno::startLog();
     const QApplication application(argc, argv);
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
     // By this name a desktop finds the window's icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("com.example.ZunoAnalyzer"));
-    const Arguments arguments = readArguments(application);
+    const Arguments arguments = readArguments();
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window(arguments.language);

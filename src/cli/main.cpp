@@ -68,6 +68,6 @@ int run(const QStringList &arguments)
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZUNO_VERSION));
     return zuno::cli::run(QCoreApplication::arguments());
 }
