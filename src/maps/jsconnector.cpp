@@ -3,6 +3,8 @@
 
 #include <maps/jsconnector.h>
 
+#include <cmath>
+
 #include <QDesktopServices>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,11 +12,29 @@
 #include <QWebChannel>
 #include <QWebEngineSettings>
 
+#include <maps/draftpayload.h>
+
 namespace zuno {
 
 namespace {
 
 Q_LOGGING_CATEGORY(category, "zuno.mapview")
+
+// Wider than any gate or any map on a screen; what is more is an error of the page.
+constexpr double LargestGate = 1000.0;
+constexpr double LargestPixel = 100000.0;
+
+// Invalid unless both numbers are there and in range.
+QGeoCoordinate placeOf(const QJsonObject &message)
+{
+    return QGeoCoordinate(message.value(u"lat").toDouble(qQNaN()),
+                          message.value(u"lng").toDouble(qQNaN()));
+}
+
+bool isUpTo(double value, double largest)
+{
+    return std::isfinite(value) && value > 0.0 && value <= largest;
+}
 
 // Only addresses that a browser or a mail program opens; no page starts other programs.
 void openOutside(const QUrl &url)
@@ -70,6 +90,30 @@ void JSConnector::textFromJs(const QString &text)
         Q_EMIT drawn();
     else if (event == u"picked")
         Q_EMIT samplePicked(message.value(u"index").toInt(-1));
+    else
+        handleEditing(event, message);
+}
+
+void JSConnector::handleEditing(const QString &event, const QJsonObject &message)
+{
+    const int point = message.value(u"point").toInt(NoPointNumber);
+    const QGeoCoordinate place = placeOf(message);
+    const bool done = message.value(u"done").toBool();
+    if (event == u"pointMoved") {
+        if (point >= StartPointNumber && place.isValid())
+            Q_EMIT pointMoved(point, place, done);
+    } else if (event == u"pointSelected") {
+        if (point >= StartPointNumber)
+            Q_EMIT pointSelected(point);
+    } else if (event == u"gateResized") {
+        const double metres = message.value(u"metres").toDouble();
+        if (isUpTo(metres, LargestGate))
+            Q_EMIT gateResized(metres, done);
+    } else if (event == u"trackClicked") {
+        const double metresPerPixel = message.value(u"metresPerPixel").toDouble();
+        if (place.isValid() && isUpTo(metresPerPixel, LargestPixel))
+            Q_EMIT trackClicked(place, metresPerPixel);
+    }
 }
 
 bool JSConnector::acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame)

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <QGeoCoordinate>
 #include <QWebEnginePage>
 
+class QJsonObject;
 class QWebChannel;
 
 namespace zuno {
@@ -28,8 +30,10 @@ public Q_SLOTS:
     void connected();
     /// Sends @p text back to the page.
     void receiveData(const QString &text);
-    /// A message of the page: a JSON object whose "event" is "drawn" (laps stand on the screen) or
-    /// "picked" (the sample "index" of the first lap was clicked). Anything else is ignored.
+    /// A message of the page: a JSON object whose "event" is "drawn" (laps stand on the screen),
+    /// "picked" (the sample "index" of the first lap was clicked), or one of the four of the
+    /// editing signals below. Anything else is ignored, and so is an event with a value that
+    /// cannot be, such as a place that is not on the globe.
     void textFromJs(const QString &text);
 
 Q_SIGNALS:
@@ -49,6 +53,20 @@ Q_SIGNALS:
     /// The rider clicked the first lap's line next to this sample.
     void samplePicked(int index);
 
+    // These three are the page's again; the texts are JSON.
+    void editPath(const QString &path);
+    void editDraft(const QString &draft);
+    void endEditing();
+
+    /// The rider drags a draft's point, -1 for the start point, or has @p done so.
+    void pointMoved(int point, const QGeoCoordinate &place, bool done);
+    /// The rider drags a gate's circle, or has @p done so; metres as a map's gate size.
+    void gateResized(double metres, bool done);
+    /// The rider clicked a draft's point or took hold of it.
+    void pointSelected(int point);
+    /// The rider clicked the map beside the draft's points.
+    void trackClicked(const QGeoCoordinate &place, double metresPerPixel);
+
 protected:
     bool acceptNavigationRequest(const QUrl &url, NavigationType type, bool isMainFrame) override;
     QWebEnginePage *createWindow(WebWindowType type) override;
@@ -56,6 +74,8 @@ protected:
                                   int lineNumber, const QString &sourceId) override;
 
 private:
+    void handleEditing(const QString &event, const QJsonObject &message);
+
     QWebChannel *m_channel;
     bool m_isConnected = false;
 };

@@ -7,7 +7,6 @@
 #include <QGeoRectangle>
 #include <QLayout>
 #include <QLoggingCategory>
-#include <QMainWindow>
 #include <QSettings>
 #include <QVariant>
 #include <QWebEngineView>
@@ -37,16 +36,21 @@ void run(QWebEnginePage &page, const QString &function, const QString &text)
                        [](const QVariant &result) { qCDebug(category) << result; });
 }
 
+// (0, 0) stands for a place that is not known.
+QString textOf(const QGeoCoordinate &centre)
+{
+    const QGeoCoordinate place = centre.isValid() ? centre : QGeoCoordinate(0.0, 0.0);
+    return place.toString(QGeoCoordinate::Degrees);
+}
+
 } // namespace
 
 QString centreText(const Map *map)
 {
-    const bool hasPlace = map != nullptr && map->startPoint().isValid();
-    const QGeoCoordinate centre = hasPlace ? map->startPoint() : QGeoCoordinate(0.0, 0.0);
-    return centre.toString(QGeoCoordinate::Degrees);
+    return textOf(map != nullptr ? map->startPoint() : QGeoCoordinate());
 }
 
-void MapViewController::init(QMainWindow *window, QLayout *layout)
+void MapViewController::init(QWidget *window, QLayout *layout)
 {
     if (m_view != nullptr)
         return;
@@ -59,10 +63,11 @@ void MapViewController::init(QMainWindow *window, QLayout *layout)
     m_view->setAcceptDrops(false);
     layout->addWidget(m_view);
     m_page = new JSConnector(m_view);
-    connect(m_page, &JSConnector::loadFinished, this, &MapViewController::mapReady);
+    connect(m_page, &JSConnector::loadFinished, this, &MapViewController::onPageConnected);
     connect(m_page, &JSConnector::drawn, this, &MapViewController::lapDrawn);
     connect(m_page, &JSConnector::samplePicked, this, &MapViewController::samplePicked);
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::restart);
+    connectEditing();
     injectPageSettings(*m_page);
     m_view->setPage(m_page);
     m_page->setBackgroundColor(QColor(0x14, 0x18, 0x1d));
@@ -77,6 +82,15 @@ void MapViewController::restart()
     if (m_restarts++ < MostRestarts)
         QMetaObject::invokeMethod(
             m_view, [view = m_view] { view->reload(); }, Qt::QueuedConnection);
+}
+
+// A page that has just been loaded has no map yet, even when the one before it had.
+void MapViewController::onPageConnected()
+{
+    m_isReady = false;
+    Q_EMIT mapReady();
+    sendPath();
+    sendDraft(OutlineForm::Sent);
 }
 
 void MapViewController::initOnlineMap(const QList<Session *> &sessions, int index)
@@ -158,6 +172,86 @@ void MapViewController::setOptions(const QString &settingsPath)
     const PageOptions options {text(Setting::ShowLocalMinMax), text(Setting::ShowPartielsPoints),
                                text(Setting::UseGradientCompare)};
     Q_EMIT m_page->setOptions(QString::fromUtf8(optionsPayload(options)));
+}
+
+void MapViewController::editPath(std::span<const PointAcquisition> samples)
+{
+    m_editing.emplace();
+    m_editing->path = QString::fromUtf8(pathPayload(samples));
+    for (const PointAcquisition &sample : samples) {
+        m_editing->centre = positionOf(sample);
+        if (m_editing->centre.isValid())
+            break;
+    }
+    sendPath();
+}
+
+void MapViewController::editDraft(const MapDraft &draft, int selected, const QList<int> &warned)
+{
+    if (!m_editing)
+        return;
+    const bool sameOutline = m_editing->draft && m_editing->draft->outline == draft.outline;
+    m_editing->draft = draft;
+    m_editing->selected = selected;
+    m_editing->warned = warned;
+    sendDraft(sameOutline ? OutlineForm::AsBefore : OutlineForm::Sent);
+}
+
+void MapViewController::endEditing()
+{
+    m_editing.reset();
+    if (m_view != nullptr)
+        Q_EMIT m_page->endEditing();
+}
+
+void MapViewController::sendPath()
+{
+    if (!m_editing || m_view == nullptr || !m_page->isConnected())
+        return;
+    if (!m_isReady) {
+        m_isReady = true;
+        run(*m_page, QStringLiteral("initMap"), textOf(m_editing->centre));
+    }
+    Q_EMIT m_page->editPath(m_editing->path);
+}
+
+void MapViewController::sendDraft(OutlineForm outline)
+{
+    if (!m_editing || !m_editing->draft || m_view == nullptr || !m_page->isConnected())
+        return;
+    Q_EMIT m_page->editDraft(QString::fromUtf8(
+        draftPayload(*m_editing->draft, m_editing->selected, m_editing->warned, outline)));
+}
+
+// The page may be late, and it is not trusted with numbers.
+bool MapViewController::isKnownPoint(int point) const
+{
+    if (!m_editing || !m_editing->draft)
+        return false;
+    return point == StartPointNumber ? m_editing->draft->start.isValid()
+                                     : point >= 0 && point < m_editing->draft->timingPoints.size();
+}
+
+void MapViewController::connectEditing()
+{
+    connect(m_page, &JSConnector::pointMoved, this,
+            [this](int point, const QGeoCoordinate &place, bool done) {
+                if (isKnownPoint(point))
+                    Q_EMIT pointMoved(point, place, done);
+            });
+    connect(m_page, &JSConnector::pointSelected, this, [this](int point) {
+        if (isKnownPoint(point))
+            Q_EMIT pointSelected(point);
+    });
+    connect(m_page, &JSConnector::gateResized, this, [this](double metres, bool done) {
+        if (m_editing)
+            Q_EMIT gateResized(metres, done);
+    });
+    connect(m_page, &JSConnector::trackClicked, this,
+            [this](const QGeoCoordinate &place, double metresPerPixel) {
+                if (m_editing)
+                    Q_EMIT trackClicked(place, metresPerPixel);
+            });
 }
 
 } // namespace zuno

@@ -3,14 +3,20 @@
 
 #pragma once
 
+#include <optional>
+#include <span>
+
+#include <QGeoCoordinate>
 #include <QList>
 #include <QObject>
 
+#include <maps/draftpayload.h>
+#include <maps/mapdraft.h>
 #include <session/pointacquisition.h>
 
 class QLayout;
-class QMainWindow;
 class QWebEngineView;
+class QWidget;
 
 namespace zuno {
 
@@ -24,7 +30,8 @@ class Session;
 [[nodiscard]] QString centreText(const Map *map);
 
 /// The map view: owns the web view and its page, and tells the page what to draw. What is sent
-/// before the page listens is lost; whoever sent it does so again on mapReady().
+/// before the page listens is lost; whoever sent it does so again on mapReady(). Only what is
+/// edited is kept here: a page that starts, or starts again, gets it without anybody's help.
 class MapViewController final : public QObject
 {
     Q_OBJECT
@@ -32,8 +39,9 @@ class MapViewController final : public QObject
 public:
     using QObject::QObject;
 
-    /// Creates the view in @p layout and loads the page; the first call only.
-    void init(QMainWindow *window, QLayout *layout);
+    /// Creates the view in @p layout of @p window, be it the main window or a dialog, and loads the
+    /// page; the first call only.
+    void init(QWidget *window, QLayout *layout);
     /// Creates the page's map, centred on the map of the session at @p index; an index outside of
     /// the list means no session.
     void initOnlineMap(const QList<Session *> &sessions, int index);
@@ -57,6 +65,19 @@ public:
     /// not hold is sent as an empty text.
     void setOptions(const QString &settingsPath);
 
+    /// Takes everything else off the map, draws the way of a session as a thin line and shows it
+    /// whole: a draft can be edited on it. May be called at any time after init(); neither
+    /// mapReady() nor initOnlineMap() has to come first.
+    void editPath(std::span<const PointAcquisition> samples);
+    /// Draws a draft: its outline, its points with their gates, one point @p selected and others
+    /// @p warned of. Points are numbered as in pointMoved(), NoPointNumber means none. Only what
+    /// has changed is sent, so that every move of a drag can be answered. Nothing before
+    /// editPath().
+    void editDraft(const MapDraft &draft, int selected = NoPointNumber,
+                   const QList<int> &warned = {});
+    /// Takes the draft and the session's way off the map; laps are drawn again.
+    void endEditing();
+
     /// The view and its page; nullptr before init().
     [[nodiscard]] QWebEngineView *view() const { return m_view; }
     [[nodiscard]] JSConnector *page() const { return m_page; }
@@ -69,12 +90,39 @@ Q_SIGNALS:
     /// The rider clicked the first lap's line next to this sample.
     void samplePicked(int index);
 
-private:
-    void restart();
+    /// The rider drags a point of the draft, StartPointNumber or a timing point's index, and lets
+    /// it go with @p done. The place is where the mouse is: whoever listens moves the point to the
+    /// outline and answers with editDraft(); until it is done the point must keep its number.
+    void pointMoved(int point, const QGeoCoordinate &place, bool done);
+    /// The rider drags the circle of a gate; @p metres is the gate size that it would be.
+    void gateResized(double metres, bool done);
+    /// The rider clicked a point of the draft or begins to drag it.
+    void pointSelected(int point);
+    /// The rider clicked the map beside the draft's points, where a pixel is so many metres wide.
+    void trackClicked(const QGeoCoordinate &place, double metresPerPixel);
 
-    QMainWindow *m_window = nullptr;
+private:
+    // What the page shows while a draft is edited.
+    struct Editing
+    {
+        QString path;
+        QGeoCoordinate centre;
+        std::optional<MapDraft> draft;
+        int selected = NoPointNumber;
+        QList<int> warned;
+    };
+
+    void connectEditing();
+    void restart();
+    void onPageConnected();
+    void sendPath();
+    void sendDraft(OutlineForm outline);
+    [[nodiscard]] bool isKnownPoint(int point) const;
+
+    QWidget *m_window = nullptr;
     QWebEngineView *m_view = nullptr;
     JSConnector *m_page = nullptr;
+    std::optional<Editing> m_editing;
     bool m_isReady = false;
     int m_restarts = 0;
 };
