@@ -18,6 +18,9 @@
         lng() { return this.place.lng; }
     }
 
+    /** @param {L.LatLng} place */
+    const eventAt = (place) => ({ latLng: new LatLng(place.lat, place.lng) });
+
     class Point {
         /** @param {number} x @param {number} y */
         constructor(x, y) {
@@ -63,6 +66,8 @@
                 minZoom: 3,
                 maxZoom: 21,
             });
+            // Beside the canvas, which would draw all its lines again for each change of a circle.
+            this.circles = L.svg({ padding: 0.5 });
             L.control.scale({ imperial: false }).addTo(this.leaflet);
             const centre = /** @type {google.maps.LatLngLiteral} */ (options.center);
             this.leaflet.setView(toLeaflet(centre), options.zoom ?? undefined);
@@ -72,6 +77,13 @@
             this.leaflet.panTo(toLeaflet(place), { animate: false });
         }
         getZoom() { return this.leaflet.getZoom(); }
+        /** @param {{ disableDoubleClickZoom: boolean }} options */
+        setOptions(options) {
+            if (options.disableDoubleClickZoom)
+                this.leaflet.doubleClickZoom.disable();
+            else
+                this.leaflet.doubleClickZoom.enable();
+        }
         getBounds() { return new LatLngBounds(this.leaflet.getBounds()); }
         /** @param {LatLngBounds} bounds @param {Required<google.maps.Padding>} padding */
         fitBounds(bounds, padding) {
@@ -83,7 +95,7 @@
         }
         /** @param {"click"} event @param {(event: { latLng: LatLng }) => void} slot */
         addListener(event, slot) {
-            this.leaflet.on(event, (e) => slot({ latLng: new LatLng(e.latlng.lat, e.latlng.lng) }));
+            this.leaflet.on(event, (e) => slot(eventAt(e.latlng)));
         }
     }
 
@@ -122,48 +134,121 @@
         }
     }
 
-    /** @param {google.maps.Icon} icon @param {google.maps.MarkerLabel | undefined} label */
-    function pictureOf(icon, label) {
-        const element = document.createElement("div");
+    class Circle extends Shape {
+        /** @param {google.maps.CircleOptions} options */
+        constructor(options) {
+            const centre = /** @type {google.maps.LatLngLiteral} */ (options.center);
+            const map = options.map instanceof Map ? options.map : null;
+            const circle = L.circle(toLeaflet(centre), {
+                radius: options.radius ?? 0,
+                interactive: false,
+                renderer: map?.circles,
+            });
+            super(circle, options.map);
+            this.circle = circle;
+        }
+        /** @param {google.maps.LatLngLiteral} place */
+        setCenter(place) { this.circle.setLatLng(toLeaflet(place)); }
+        /** @param {number} metres */
+        setRadius(metres) { this.circle.setRadius(metres); }
+        /** @param {google.maps.CircleOptions} options */
+        setOptions(options) {
+            this.circle.setStyle({
+                color: options.strokeColor ?? undefined,
+                opacity: options.strokeOpacity ?? undefined,
+                weight: options.strokeWeight ?? undefined,
+                fillColor: options.fillColor ?? undefined,
+                fillOpacity: options.fillOpacity ?? undefined,
+            });
+        }
+    }
+
+    /** @param {google.maps.Icon} icon */
+    function imageOf(icon) {
         const image = document.createElement("img");
         image.src = icon.url;
-        element.append(image);
         if (icon.scaledSize)
             [image.width, image.height] = [icon.scaledSize.width, icon.scaledSize.height];
-        if (label && icon.labelOrigin) {
-            const text = document.createElement("span");
-            text.textContent = label.text;
-            // Keeps the style sheet's black for a colour that does not exist.
-            text.style.color = label.color ?? "";
-            text.style.left = `${icon.labelOrigin.x}px`;
-            text.style.top = `${icon.labelOrigin.y}px`;
-            element.append(text);
-        }
-        const anchor = icon.anchor ?? new Point(0, 0);
-        return L.divIcon({
-            className: "place", html: element, iconSize: [0, 0], iconAnchor: [anchor.x, anchor.y],
-        });
+        return image;
+    }
+
+    /** @param {google.maps.Symbol} symbol */
+    function drawingOf(symbol) {
+        const space = "http://www.w3.org/2000/svg";
+        const path = document.createElementNS(space, "path");
+        for (const [name, value] of Object.entries({
+            "d": symbol.path,
+            "transform": `rotate(${symbol.rotation ?? 0})`,
+            "fill": symbol.fillColor,
+            "fill-opacity": symbol.fillOpacity,
+            "stroke": symbol.strokeColor,
+            "stroke-width": symbol.strokeWeight,
+        }))
+            path.setAttribute(name, String(value));
+        const drawing = document.createElementNS(space, "svg");
+        drawing.append(path);
+        return drawing;
+    }
+
+    /** What a marker shows. @param {google.maps.MarkerOptions} options */
+    function pictureOf(options) {
+        const icon = /** @type {google.maps.Icon | google.maps.Symbol} */ (options.icon);
+        const label = /** @type {google.maps.MarkerLabel | undefined} */ (options.label);
+        const picture = "url" in icon ? imageOf(icon) : drawingOf(icon);
+        if (!label || !icon.labelOrigin)
+            return [picture];
+        const text = document.createElement("span");
+        text.textContent = label.text;
+        // Keeps the style sheet's black for a colour that does not exist.
+        text.style.color = label.color ?? "";
+        text.style.fontSize = label.fontSize ?? "";
+        text.style.fontWeight = label.fontWeight ?? "";
+        text.style.left = `${icon.labelOrigin.x}px`;
+        text.style.top = `${icon.labelOrigin.y}px`;
+        return [picture, text];
     }
 
     class Marker extends Shape {
         /** @param {google.maps.MarkerOptions} options */
         constructor(options) {
             const place = /** @type {google.maps.LatLngLiteral} */ (options.position);
-            const label = /** @type {google.maps.MarkerLabel | undefined} */ (options.label);
+            const anchor = /** @type {google.maps.Icon} */ (options.icon).anchor ?? new Point(0, 0);
+            const element = document.createElement("div");
+            element.append(...pictureOf(options));
+            element.style.cursor = options.cursor ?? "";
             const marker = L.marker(toLeaflet(place), {
-                icon: pictureOf(/** @type {google.maps.Icon} */ (options.icon), label),
-                interactive: false,
+                icon: L.divIcon({
+                    className: "place",
+                    html: element,
+                    iconSize: [0, 0],
+                    iconAnchor: [anchor.x, anchor.y],
+                }),
+                interactive: options.draggable === true,
+                draggable: options.draggable === true,
+                autoPan: true,
                 keyboard: false,
                 zIndexOffset: options.zIndex ?? 0,
             });
             super(marker, options.map);
             this.marker = marker;
+            this.element = element;
         }
         /** @param {google.maps.LatLngLiteral} place */
         setPosition(place) { this.marker.setLatLng(toLeaflet(place)); }
         /** @param {boolean} visible */
         setVisible(visible) { this.show(visible); }
+        /** Leaves the marker's own element alone: a new one would end a drag.
+         *  @param {google.maps.MarkerOptions} options */
+        setOptions(options) {
+            this.element.replaceChildren(...pictureOf(options));
+            this.marker.setZIndexOffset(options.zIndex ?? 0);
+        }
+        /** @param {"click" | "dragstart" | "drag" | "dragend"} event
+         *  @param {(event: { latLng: LatLng }) => void} slot */
+        addListener(event, slot) {
+            this.marker.on(event, () => slot(eventAt(this.marker.getLatLng())));
+        }
     }
 
-    keepMap({ LatLng, LatLngBounds, Map, Marker, Point, Polyline, Size });
+    keepMap({ Circle, LatLng, LatLngBounds, Map, Marker, Point, Polyline, Size });
 })();

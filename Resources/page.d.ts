@@ -30,6 +30,33 @@ interface LapPayload {
     isComplete: boolean;
 }
 
+/** [latitude, longitude], degrees; null without a position. */
+type PlacePair = [number, number] | null;
+
+/** A map that is being made, as it is sent. */
+interface DraftPayload {
+    /** Left out when it is the one before. */
+    outline?: PlacePair[];
+    start: PlacePair;
+    timingPoints: PlacePair[];
+    /** Metres. */
+    gateSize: number;
+    /** The number of a point: -1 the start, from 0 the timing points, -2 none. */
+    selected: number;
+    warned: number[];
+}
+
+/** What of it the page keeps, with the session's way behind it. */
+interface Draft {
+    path: google.maps.LatLngLiteral[];
+    outline: google.maps.LatLngLiteral[];
+    start: google.maps.LatLngLiteral | null;
+    timingPoints: (google.maps.LatLngLiteral | null)[];
+    gateSize: number;
+    selected: number;
+    warned: number[];
+}
+
 /** Everything is text once it has come from the program; absent settings are empty. */
 interface PageOptions {
     minMax: string | boolean;
@@ -56,6 +83,9 @@ interface JsConnector {
     drawCursor: Signal<[string]>;
     drawSecondCursor: Signal<[string]>;
     setOptions: Signal<[string]>;
+    editPath: Signal<[string]>;
+    editDraft: Signal<[string]>;
+    endEditing: Signal<[]>;
     connected(): void;
     textFromJs(text: string): void;
 }

@@ -142,10 +142,10 @@ function drawPlain(lap, strokeColor, strokeWeight) {
 
 // Markers
 
-/** @param {(google.maps.Polyline | google.maps.Marker)[]} things */
+/** @param {({ setMap(map: null): void } | null)[]} things */
 function remove(things) {
     for (const thing of things)
-        thing.setMap(null);
+        thing?.setMap(null);
 }
 
 /** @param {(google.maps.Marker | null)[]} markers @param {boolean} visible */
@@ -248,9 +248,9 @@ function showTwoLaps(first, second) {
     setVisible([rabbitCursor], true);
 }
 
-/** Draws the stored laps; without a map they wait for it. */
+/** Draws the stored laps; they wait for a map, and for the end of the editing of one. */
 function redraw() {
-    if (map === null || firstLap === null)
+    if (map === null || firstLap === null || isEditing())
         return;
     if (secondLap === null)
         showOneLap(firstLap);
@@ -262,12 +262,26 @@ function redraw() {
     requestAnimationFrame(() => requestAnimationFrame(() => tell({ event: "drawn" })));
 }
 
+/** Takes the laps and everything that belongs to them off the map; they stay stored. */
+function clearLaps() {
+    remove([...firstLines, ...secondLines, ...speedMarkers, ...landmarkMarkers]);
+    remove([targetCursor, rabbitCursor, secondCursor]);
+    forgetShapes();
+    showLegend();
+}
+
+function forgetShapes() {
+    [firstLines, secondLines, speedMarkers, landmarkMarkers] = [[], [], [], []];
+    targetCursor = rabbitCursor = secondCursor = null;
+}
+
 /**
  * Lets the built-in map show the whole lap when another place is looked at; the rider's own zoom
  * on the same track stays. A view without a size is fitted when it gets one.
  */
 function fitLap() {
-    if (!isOffline() || map === null || firstLap === null || window.innerWidth === 0)
+    if (!isOffline() || map === null || firstLap === null || window.innerWidth === 0
+        || isEditing())
         return;
     const lap = boundsOf(firstLap);
     if (lap.isEmpty() || (!fitWanted && map.getBounds()?.intersects(lap)))
@@ -313,7 +327,7 @@ function drawCursorIcon(position, url, anchor) {
 /** @param {string} text a point */
 function drawCursor(text) {
     const place = positionOf(JSON.parse(text));
-    if (map === null || place === null)
+    if (map === null || place === null || isEditing())
         return;
     targetCursor ??= drawCursorIcon(place, "target.png", 12);
     rabbitCursor ??= drawCursorIcon(place, "rabbit.png", 16);
@@ -327,7 +341,7 @@ function drawCursor(text) {
 /** @param {string} text a point */
 function drawSecondCursor(text) {
     const place = positionOf(JSON.parse(text));
-    if (map === null || place === null)
+    if (map === null || place === null || isEditing())
         return;
     secondCursor ??= drawCursorIcon(place, "turtle.png", 16);
     secondCursor.setPosition(place);
@@ -368,11 +382,14 @@ function initMap(text) {
         streetViewControl: false,
     });
     map.addListener("click", (/** @type {google.maps.MapMouseEvent} */ event) => {
-        if (event.latLng)
+        if (event.latLng && isEditing())
+            clickTrack(event.latLng);
+        else if (event.latLng)
             pickSample(event.latLng);
     });
     fitWanted = true;
     redraw();
+    showEditing();
 }
 
 /** Moves the map's centre. @param {string} text the centre, "latitude°, longitude°" */
@@ -414,7 +431,7 @@ function drawTwoLaps(first, second) {
     redraw();
 }
 
-/** Tells the program something. @param {{ event: string, index?: number }} message */
+/** Tells the program something. @param {object} message with the "event" that it is */
 function tell(message) {
     connector?.textFromJs(JSON.stringify(message));
 }
@@ -424,8 +441,8 @@ function tell(message) {
 /** Draws everything again on another map: what stood on the old one went with it. */
 function startMapAnew() {
     document.getElementById("map")?.replaceChildren();
-    [firstLines, secondLines, speedMarkers, landmarkMarkers] = [[], [], [], []];
-    targetCursor = rabbitCursor = secondCursor = null;
+    forgetShapes();
+    clearEditing();
     if (map !== null)
         initMap(centreText);
 }
@@ -457,6 +474,9 @@ async function start() {
         connector.drawCursor.connect(drawCursor);
         connector.drawSecondCursor.connect(drawSecondCursor);
         connector.setOptions.connect(setOptions);
+        connector.editPath.connect(editPath);
+        connector.editDraft.connect(editDraft);
+        connector.endEditing.connect(endEditing);
         options = { minMax: true, landmarks: true };
         connector.connected();
     });

@@ -32,6 +32,8 @@ QJsonObject MapPage::texts()
         {QStringLiteral("accelerating"), tr("accelerating")},
         {QStringLiteral("firstLap"), tr("first lap")},
         {QStringLiteral("secondLap"), tr("second lap")},
+        //: On the sign of the start/finish line.
+        {QStringLiteral("start"), tr("Start")},
         {QStringLiteral("loading"), tr("Loading the map...")},
         {QStringLiteral("noKey"), tr("Offline map: there is no key for the satellite map")},
         {QStringLiteral("notLoaded"), tr("Offline map: the satellite map cannot be reached")},
