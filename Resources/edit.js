@@ -135,7 +135,7 @@ function signOf(number, warned, selected) {
         label: { text, color: "white", fontSize: "12px", fontWeight: "bold" },
         zIndex: selected ? Layers.selected : isStart ? Layers.start : Layers.point,
         icon: {
-            path: isStart ? flag(width) : disc(11),
+            path: isStart ? flag(width) : disc(10),
             fillColor: warned ? EditColours.warned
                 : isStart ? EditColours.start : EditColours.point,
             fillOpacity: 1,
@@ -226,7 +226,7 @@ function makeHandle(position) {
             path: `M 0 0 L ${12 * x} ${12 * y} ${disc(6, 18 * x, 18 * y)}`,
             fillColor: EditColours.selected,
             fillOpacity: 1,
-            strokeColor: "#14181d",
+            strokeColor: "#ffffff",
             strokeWeight: 1.5,
         },
     });
