@@ -10,6 +10,8 @@ const StartPoint = -1;
 /** The line is met within so many gate sizes. */
 const LineGates = 2;
 const MetresPerDegree = 111195.08;
+/** As FitPadding, with the scale at the lower edge but no legend. */
+const EditPadding = { top: 56, right: 30, bottom: 40, left: 30 };
 /** Where around a gate the handle stands, clear of the start's sign: radians from north. */
 const HandleBearing = 2.1;
 
@@ -299,7 +301,7 @@ function showPath() {
     if (map === null || edited === null)
         return;
     pathLine = drawLine(edited.path, {
-        strokeColor: EditColours.path, strokeOpacity: 0.6, strokeWeight: 1,
+        strokeColor: EditColours.path, strokeOpacity: 0.7, strokeWeight: 1,
     });
     map.setOptions({ disableDoubleClickZoom: true });
     fitPath();
@@ -313,7 +315,7 @@ function fitPath() {
     for (const place of edited.path.length > 0 ? edited.path : edited.outline)
         bounds.extend(place);
     if (!bounds.isEmpty())
-        map.fitBounds(bounds, FitPadding);
+        map.fitBounds(bounds, EditPadding);
 }
 
 function showOutline() {

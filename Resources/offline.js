@@ -87,6 +87,8 @@
         getBounds() { return new LatLngBounds(this.leaflet.getBounds()); }
         /** @param {LatLngBounds} bounds @param {Required<google.maps.Padding>} padding */
         fitBounds(bounds, padding) {
+            // In the moment of a resize the library still has the old size.
+            this.leaflet.invalidateSize({ pan: false });
             this.leaflet.fitBounds(bounds.bounds, {
                 animate: false,
                 paddingTopLeft: [padding.left, padding.top],
@@ -226,6 +228,8 @@
                 interactive: options.draggable === true,
                 draggable: options.draggable === true,
                 autoPan: true,
+                // Nearer to the edge than what has just been fitted into the view.
+                autoPanPadding: [20, 20],
                 keyboard: false,
                 zIndexOffset: options.zIndex ?? 0,
             });

@@ -17,6 +17,10 @@ class Shape {
     }
     setVisible(visible) { this.visible = visible; }
     setPosition(position) { this.position = position; }
+    setCenter(center) { this.center = center; }
+    setRadius(radius) { this.radius = radius; }
+    setOptions(options) { Object.assign(this, options); }
+    addListener(event, slot) { this[event] = slot; }
 }
 
 class LatLng {
@@ -31,10 +35,13 @@ window.google = {
             extend(place) { this.places.push(`${place.lat}/${place.lng}`); }
             isEmpty() { return false; }
         },
+        Circle: class Circle extends Shape {},
         Map: class {
             constructor(element, options) { this.options = options; this.calls = []; }
             setCenter(place) { this.calls.push(`center ${place.lat} ${place.lng}`); }
             fitBounds(bounds) { this.calls.push(`fit ${bounds.places.join(" ")}`); }
+            setOptions() {}
+            getBounds() {}
             getZoom() { return 16; }
             addListener(event, slot) { this[event] = slot; }
         },

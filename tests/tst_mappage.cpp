@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <QWebEngineProfile>
 #include <QWebEngineUrlRequestInterceptor>
+#include <QWebEngineView>
 
 #include <app/settings.h>
 #include <maps/jsconnector.h>
@@ -88,6 +89,24 @@ QString lap(double north = 0.0)
         .arg(line.join(u','), point(0, north, 0, 201), point(0.001, north, 0, 57));
 }
 
+/// Samples from (46, 6) to the east, of which the last has no position.
+Points stretch()
+{
+    Points points(3);
+    points[0].dataCoordY = points[1].dataCoordY = 46;
+    points[0].dataCoordX = 6;
+    points[1].dataCoordX = 6.01;
+    points[2].dataCoordX = points[2].dataCoordY = NoFixCoordinate;
+    return points;
+}
+
+/// Its outline goes there and back.
+MapDraft draft(double firstPoint = 6.01)
+{
+    const QGeoCoordinate start(46, 6);
+    return {{}, {start, {46, 6.01}, start}, start, {{46, firstPoint}, start}, 12};
+}
+
 QString call(const char *function, const QStringList &texts)
 {
     return QString::fromLatin1(function) + u"('" + texts.join(u"','") + u"')";
@@ -119,6 +138,9 @@ private Q_SLOTS:
     void drawsWhatCameEarly();
     void releasesWhatItDrew();
     void staysOnItsPage();
+    void editsDraft();
+    void ignoresWhatCannotBe();
+    void dragsOnBuiltInMap();
 
 private:
     /// Loads the page anew, with that script in the map service's place, and waits for it.
@@ -311,15 +333,9 @@ void TestMapPage::centres()
     run(QStringLiteral("map.calls = [];") + call("centerMap", {QStringLiteral("-1.5°, 2°")}));
     run(call("drawOneLap", {lap()}));
     QCOMPARE(text(QStringLiteral("map.calls.join()")), "center -1.5 2");
-    PointAcquisition point;
-    point.dataCoordX = 6;
-    point.dataCoordY = 46;
-    Points stretch {point, point, point};
-    stretch[1].dataCoordX = 6.5;
-    stretch[2].dataCoordX = stretch[2].dataCoordY = NoFixCoordinate;
     m_view->initOnlineMap({}, -1);
-    m_view->showStretch(stretch);
-    QTRY_COMPARE(text(QStringLiteral("map.calls.join()")), QByteArray("fit 46/6 46/6.5"));
+    m_view->showStretch(stretch());
+    QTRY_COMPARE(text(QStringLiteral("map.calls.join()")), QByteArray("fit 46/6 46/6.01"));
 }
 
 void TestMapPage::options()
@@ -397,6 +413,84 @@ void TestMapPage::staysOnItsPage()
     QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
     QCOMPARE(m_view->page()->url(), page);
     QCOMPARE(m_interceptor.asked, QStringList());
+}
+
+void TestMapPage::editsDraft()
+{
+    load(standIn());
+    m_view->initOnlineMap({}, -1);
+    run(call("drawOneLap", {lap()}));
+    m_view->editPath(stretch());
+    QSignalSpy sent(m_view->page(), &JSConnector::editDraft);
+    m_view->editDraft(draft(), 0, {1});
+    m_view->editDraft(draft(), 0, {1});
+    QVERIFY(!sent.value(1).value(0).toString().contains(u"outline"));
+    QTRY_COMPARE(shapes("s.label.text", "s.label"), QByteArray("Start 1 2!"));
+    QCOMPARE(shapes("`${s.path.length}/${s.strokeWeight}`", "s.path"), "2/1 3/4");
+    QCOMPARE(shapes("s.radius", "s.radius"), "24 12 12");
+    // The answers to a drag move the gate and leave the mouse its marker until it lets go.
+    QSignalSpy moved(m_view, &MapViewController::pointMoved);
+    run(QStringLiteral("const at = (lat, lng) => ({latLng: new google.maps.LatLng(lat, lng)});"
+                       "const sign = shapes.find(s => s.label?.text === '1');"
+                       "sign.dragstart(); sign.drag(at(46, 6.02)); sign.drag(at(46, 6.03))"));
+    QTRY_COMPARE(moved.value(0).value(1).value<QGeoCoordinate>(), QGeoCoordinate(46, 6.03));
+    m_view->editDraft(draft(6.005), StartPointNumber);
+    QTRY_COMPARE(shapes("s.center.lng", "s.radius"), QByteArray("6 6.005 6"));
+    QCOMPARE(run(QStringLiteral("sign.position.lng")).toDouble(), 6.01);
+    run(QStringLiteral("sign.dragend(at(46, 6.04))"));
+    QTRY_VERIFY(moved.size() == 2 && moved[1][2].toBool());
+    QCOMPARE(run(QStringLiteral("sign.position.lng")).toDouble(), 6.005);
+    // 111 m from the line, whose gate is twice as wide as the gate size.
+    QSignalSpy resized(m_view, &MapViewController::gateResized);
+    run(QStringLiteral("gateHandle.dragstart(); gateHandle.dragend(at(46.001, 6))"));
+    QTRY_COMPARE(qRound(resized.value(0).value(0).toDouble()), 56);
+}
+
+void TestMapPage::ignoresWhatCannotBe()
+{
+    QSignalSpy moved(m_view, &MapViewController::pointMoved);
+    QSignalSpy selected(m_view, &MapViewController::pointSelected);
+    QSignalSpy resized(m_view, &MapViewController::gateResized);
+    QSignalSpy clicked(m_view, &MapViewController::trackClicked);
+    // Of each kind the last one is right.
+    for (const char *message :
+         {R"("pointMoved","lat":46,"lng":6,"point":2)",
+          R"("pointMoved","lat":91,"lng":6,"point":1)",
+          R"("pointMoved","lat":46,"lng":6,"point":1)", R"("pointSelected","point":-2)",
+          R"("pointSelected","point":-1)", R"("gateResized","metres":0)",
+          R"("gateResized","metres":5)", R"("trackClicked","lat":46,"lng":6)",
+          R"("trackClicked","lat":46,"lng":6,"metresPerPixel":2)"})
+        m_view->page()->textFromJs(u"{\"event\":" + QString::fromUtf8(message) + u'}');
+    for (const QSignalSpy *spy : {&moved, &selected, &resized, &clicked})
+        QCOMPARE(spy->size(), 1);
+    m_view->endEditing();
+    QTRY_COMPARE(shapes("s.label.text", "s.label"), QByteArray("57 201 P1 P2 Start"));
+}
+
+void TestMapPage::dragsOnBuiltInMap()
+{
+    qputenv("ZUNO_MAP_KEY", "");
+    load({});
+    m_view->editPath(stretch());
+    m_view->editDraft(draft());
+    // A page that is loaded again has everything again.
+    QSignalSpy ready(m_view, &MapViewController::mapReady);
+    m_view->view()->reload();
+    QVERIFY(ready.wait(20000));
+    QTRY_COMPARE(run(QStringLiteral("signs.length + edited.outline.length")).toInt(), 6);
+    QSignalSpy moved(m_view, &MapViewController::pointMoved);
+    const QString sign = QStringLiteral("map.leaflet.latLngToContainerPoint([46, 6.01]).");
+    const QPoint from(run(sign + u'x').toInt(), run(sign + u'y').toInt());
+    QWidget *surface = m_view->view()->focusProxy();
+    QTest::mousePress(surface, Qt::LeftButton, {}, from);
+    const auto at = [&] { return moved.value(moved.size() - 1).value(1).value<QGeoCoordinate>(); };
+    QTest::mouseMove(surface, from + QPoint(-10, 10));
+    QTRY_VERIFY(at().isValid());
+    QTest::mouseMove(surface, from + QPoint(-50, 50));
+    QTRY_VERIFY(at().latitude() < 46 && at().longitude() < 6.01);
+    QTest::mouseRelease(surface, Qt::LeftButton, {}, from + QPoint(-50, 50));
+    QTRY_VERIFY(moved.last()[2].toBool());
+    QTRY_COMPARE(run(QStringLiteral("signs[1].marker.marker.getLatLng().lng")).toDouble(), 6.01);
 }
 
 } // namespace zuno::test
