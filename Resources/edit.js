@@ -135,7 +135,8 @@ function signOf(number, warned, selected) {
     const width = 14 + 7.5 * text.length;
     return {
         label: { text, color: "white", fontSize: "12px", fontWeight: "bold" },
-        zIndex: selected ? Layers.selected : isStart ? Layers.start : Layers.point,
+        // A timing point on the line stays in sight: the start can be had by its flag.
+        zIndex: isStart ? Layers.start : selected ? Layers.selected : Layers.point,
         icon: {
             path: isStart ? flag(width) : disc(10),
             fillColor: warned ? EditColours.warned
@@ -165,7 +166,7 @@ function gateLook(isStart, warned, selected) {
 /** @param {number} number @param {google.maps.LatLngLiteral} place */
 function makeSign(number, place) {
     const marker = new google.maps.Marker({
-        ...signOf(number, false, false), position: place, map, draggable: true,
+        ...signOf(number, false, false), position: place, map, draggable: true, crossOnDrag: false,
     });
     const gate = new google.maps.Circle({
         center: place, radius: radiusOf(number), map, clickable: false,
@@ -222,10 +223,11 @@ function makeHandle(position) {
         position,
         map,
         draggable: true,
+        crossOnDrag: false,
         cursor: "nwse-resize",
         zIndex: Layers.handle,
         icon: {
-            path: `M 0 0 L ${12 * x} ${12 * y} ${disc(6, 18 * x, 18 * y)}`,
+            path: `M 0 0 L ${12 * x} ${12 * y} ${disc(8, 20 * x, 20 * y)}`,
             fillColor: EditColours.selected,
             fillOpacity: 1,
             strokeColor: "#ffffff",
@@ -384,6 +386,7 @@ function keepSelectedInSight() {
 function showEditing() {
     if (map === null || edited === null)
         return;
+    isTouched = false;
     clearLaps();
     showPath();
     showOutline();
@@ -413,7 +416,6 @@ function editPath(text) {
         selected: StartPoint - 1,
         warned: [],
     };
-    isTouched = false;
     showEditing();
 }
 
