@@ -176,7 +176,7 @@ void MapViewController::setOptions(const QString &settingsPath)
 
 void MapViewController::editPath(std::span<const PointAcquisition> samples)
 {
-    m_editing.emplace();
+    m_editing = Editing();
     m_editing->path = QString::fromUtf8(pathPayload(samples));
     for (const PointAcquisition &sample : samples) {
         m_editing->centre = positionOf(sample);
