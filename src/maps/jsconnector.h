@@ -58,9 +58,9 @@ Q_SIGNALS:
     void editDraft(const QString &draft);
     void endEditing();
 
-    /// The rider drags a draft's point, -1 for the start point, or has @p done so.
+    /// The rider drags a draft's point, -1 for the start point; @p done when it is let go.
     void pointMoved(int point, const QGeoCoordinate &place, bool done);
-    /// The rider drags a gate's circle, or has @p done so; metres as a map's gate size.
+    /// The rider drags a gate's circle; metres as a map's gate size.
     void gateResized(double metres, bool done);
     /// The rider clicked a draft's point or took hold of it.
     void pointSelected(int point);
