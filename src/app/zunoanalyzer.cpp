@@ -6,19 +6,18 @@
 #include "ui_zunoanalyzer.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QSplitter>
-#include <QUrl>
 
 #include <app/aboutwidget.h>
 #include <app/chartwidgets.h>
 #include <app/configurationwidget.h>
 #include <app/exportdialogs.h>
+#include <app/help.h>
 #include <app/librarytree.h>
 #include <app/makerlinks.h>
 #include <app/sessionimport.h>
@@ -418,8 +417,9 @@ void ZunoAnalyzer::goToLap(const QString &filePath, int lapNumber)
 
 void ZunoAnalyzer::openHelp()
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(
-        m_languagesFolder + QStringLiteral("ZUNOAnalyzerMUL_%1.pdf").arg(m_language)));
+    const QString failure = Help::open(m_languagesFolder, m_language);
+    if (!failure.isEmpty())
+        tell(failure);
 }
 
 void ZunoAnalyzer::openAbout()
