@@ -14,7 +14,9 @@
 #include <QTest>
 
 #include <app/configurationwidget.h>
+#include <app/help.h>
 #include <app/settings.h>
+#include <manual/textfit.h>
 #include <maps/mapswidget.h>
 #include <session/session.h>
 
@@ -112,6 +114,34 @@ private Q_SLOTS:
         oldSession.reset();
         session.setMap(&map);
         QCOMPARE(child<QComboBox>(dialog, "cb_otherMap").currentText(), u"/new.map"_s);
+    }
+
+    void help()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.path() + u'/';
+        const QString english = path + u"ZUNOAnalyzerMUL_en.pdf";
+        const QString french = path + u"ZUNOAnalyzerMUL_fr.pdf";
+        QVERIFY(Help::file(path, u"fr"_s).isEmpty());
+        QVERIFY(!Help::open(path, u"fr"_s).isEmpty());
+        QVERIFY(QFile(english).open(QIODevice::WriteOnly));
+        QVERIFY(QFile(french).open(QIODevice::WriteOnly));
+        QCOMPARE(Help::file(path, u"fr"_s), french);
+        QCOMPARE(Help::file(path, u"fr_CH"_s), french);
+        QCOMPARE(Help::file(path, u"it"_s), english);
+    }
+
+    // What looks at every window must see a text that is cut off.
+    void cutTexts()
+    {
+        QWidget window;
+        QLabel label(u"Traveled distance"_s, &window);
+        label.resize(label.sizeHint());
+        window.resize(label.size());
+        window.show();
+        QCOMPARE(zuno::cutTexts(window), QStringList());
+        window.resize(label.width() - 1, label.height());
+        QCOMPARE(zuno::cutTexts(window).size(), 1);
     }
 };
 

@@ -13,7 +13,7 @@ namespace zuno {
 QString Help::file(const QString &folder, const QString &language)
 {
     for (const QString &name : {language, language.section(u'_', 0, 0), QStringLiteral("en")}) {
-        const QString path = folder + QStringLiteral("ZUNOAnalyzerMUL_%1.pdf").arg(name);
+        QString path = folder + QStringLiteral("ZUNOAnalyzerMUL_%1.pdf").arg(name);
         if (QFile::exists(path))
             return path;
     }
