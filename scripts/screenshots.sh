@@ -2,27 +2,76 @@
 # SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Takes the pictures of the program at work anew (docs/images/), from the demo library on a virtual
-# display. They are committed; run this when the window has changed, look at them, and commit them.
+# Takes the pictures of the program at work anew, from the demo library. They are committed; run this
+# when a window has changed, look at them, and commit them.
+#   scripts/screenshots.sh                        that of the README (docs/images/), on a virtual display
+#   scripts/screenshots.sh --manual [LANGUAGE...] those of the manual (docs/manual/images/)
+#   scripts/screenshots.sh --windows FOLDER       every window in every language, into that folder;
+#                                                 fails when a text is cut off
+# Before these, "--preset NAME" chooses what is built.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
 
 preset=dev
-if (($# == 2)) && [[ $1 == --preset ]]; then
+if (($# >= 2)) && [[ $1 == --preset ]]; then
     preset=$2
-elif (($#)); then
-    echo "usage: scripts/screenshots.sh [--preset NAME]" >&2
+    shift 2
+fi
+mode=${1:-}
+if [[ $mode != '' && $mode != --manual && ! ($mode == --windows && $# == 2) ]]; then
+    echo "usage: scripts/screenshots.sh [--preset NAME] [--manual [LANGUAGE...] | --windows FOLDER]" >&2
     exit 2
 fi
 build=build/$preset
 scripts/install-dependencies.sh --gui
 cmake --preset "$preset" >/dev/null
-cmake --build --preset "$preset" --target zunoanalyzer zuno
+cmake --build --preset "$preset" --target zunoanalyzer zuno zuno-pictures
+
+# Few colours, and nothing that would differ from one day to the next.
+pack() { # pack FROM TO
+    convert "$1" -dither None -colors 128 -strip -define png:exclude-chunks=date,time \
+        -define png:compression-level=9 "PNG8:$2"
+}
+
+# Without a display, and with few words of the web engine's.
+photograph() {
+    ((EUID != 0)) || export QTWEBENGINE_DISABLE_SANDBOX=1
+    if ! "$build/bin/zuno-pictures" "$@" 2>"$work/log"; then
+        tail -n 5 "$work/log" >&2
+        return 1
+    fi
+}
 
 work=$(mktemp -d)
 . scripts/virtual-display.sh
 trap 'end_started; rm -rf "$work"' EXIT
+
+languages=(en fr de it es)
+case $mode in
+--manual)
+    (($# == 1)) || languages=("${@:2}")
+    for language in "${languages[@]}"; do
+        target=docs/manual/images/$language
+        rm -rf "$work/pictures"
+        photograph --manual --language "$language" "$work/pictures"
+        mkdir -p "$target"
+        for picture in "$work"/pictures/*.png; do
+            pack "$picture" "$target/${picture##*/}"
+        done
+        echo "$target: $(cat "$target"/*.png | wc -c) bytes"
+    done
+    exit 0
+    ;;
+--windows)
+    status=0
+    for language in "${languages[@]}"; do
+        photograph --windows --language "$language" "$2/$language" || status=1
+    done
+    exit "$status"
+    ;;
+esac
+
 export XDG_DATA_HOME=$work/home XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 export XDG_RUNTIME_DIR=$work LANGUAGE=en ZUNO_MAP_KEY=
 mkdir "$work/home"
@@ -54,9 +103,7 @@ picture() {
         return 1
     fi
     end "$pid"
-    # Few colours, and nothing that would differ from one day to the next.
-    convert "$work/now.png" -dither None -colors 128 -strip -define png:exclude-chunks=date,time \
-        -define png:compression-level=9 "PNG8:$target"
+    pack "$work/now.png" "$target"
     echo "$target: $(stat -c %s "$target") bytes"
     if (($(stat -c %s "$target") > 200000)); then
         echo "That is too much for a page; the limit is 200000." >&2
