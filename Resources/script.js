@@ -18,6 +18,8 @@ let map = null;
 let centreText = "";
 /** Whether the built-in map shall show the whole of the next lap. */
 let fitWanted = false;
+/** Whether the lap was shown whole and nobody has looked elsewhere since. */
+let showsWholeLap = false;
 /** @type {PageOptions} */
 let options = { minMax: true, landmarks: true };
 /** The laps as they were sent last, so that new options need no new data.
@@ -277,7 +279,7 @@ function forgetShapes() {
 
 /**
  * Lets the built-in map show the whole lap when another place is looked at; the rider's own zoom
- * on the same track stays. A view without a size is fitted when it gets one.
+ * on the same track stays. A view that gets another size goes on showing the whole lap.
  */
 function fitLap() {
     if (!isOffline() || map === null || firstLap === null || window.innerWidth === 0
@@ -288,6 +290,12 @@ function fitLap() {
         return;
     map.fitBounds(lap, FitPadding);
     fitWanted = false;
+    showsWholeLap = true;
+}
+
+function fitLapAgain() {
+    fitWanted ||= showsWholeLap;
+    fitLap();
 }
 
 function showLegend() {
@@ -335,6 +343,7 @@ function drawCursor(text) {
     rabbitCursor.setPosition(place);
     targetCursor.setVisible(secondLap === null);
     rabbitCursor.setVisible(secondLap !== null);
+    showsWholeLap = false;
     map.setCenter(place);
 }
 
@@ -409,6 +418,7 @@ function showStretch(text) {
     const bounds = new google.maps.LatLngBounds();
     bounds.extend({ lat: south, lng: west });
     bounds.extend({ lat: north, lng: east });
+    showsWholeLap = false;
     map?.fitBounds(bounds, FitPadding);
 }
 
@@ -483,6 +493,8 @@ async function start() {
 }
 
 window.addEventListener("load", start);
-window.addEventListener("resize", fitLap);
+window.addEventListener("resize", fitLapAgain);
+for (const touch of ["pointerdown", "wheel", "keydown"])
+    window.addEventListener(touch, () => { showsWholeLap = false; }, { capture: true, passive: true });
 // A service that does not answer holds the load event back.
 setTimeout(start, ServiceTime);

@@ -233,7 +233,12 @@ void TestMapPage::startsWithoutService()
     const QByteArray shown = text(QStringLiteral("document.getElementById('note').innerText"));
     QVERIFY2(shown.contains(note), shown);
     // The whole lap is in sight, and a library that comes now finds its place taken.
-    QVERIFY(run(QStringLiteral("map.leaflet.getBounds().contains([[0, 0], [0, 0.003]])")).toBool());
+    const QString inSight
+        = QStringLiteral("map.leaflet.getBounds().contains([[0, 0], [0, 0.003]])");
+    QVERIFY(run(inSight).toBool());
+    m_window->resize(530, 700);
+    QTRY_VERIFY(run(QStringLiteral("innerWidth")).toInt() < 530);
+    QTRY_VERIFY(run(inSight).toBool());
     run(QString::fromUtf8(standIn()));
     QVERIFY(run(QStringLiteral("new google.maps.Map(document.createElement('div'), "
                                "{center: {lat: 0, lng: 0}}).leaflet !== undefined"))
