@@ -78,7 +78,7 @@ std::unique_ptr<Map> parseMap(ByteReader &reader)
 std::unique_ptr<Map> readMapFile(const QString &path, const QString &folder)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return nullptr;
     // Piecewise, so that a film that somebody left in the folder is not read to the end.
     ByteReader reader(file);

@@ -11,14 +11,6 @@
 
 namespace zuno {
 
-namespace {
-
-// What is fetched at least when a file is read piecewise: the descriptive data at either end of a
-// recording usually fit in one piece.
-constexpr qint64 ChunkSize = 4096;
-
-} // namespace
-
 QByteArray outOfRangeText()
 {
     return QByteArrayLiteral("Buffer out of range (provided length greater than buffer size)");
@@ -26,7 +18,12 @@ QByteArray outOfRangeText()
 
 ByteReader::ByteReader(QByteArrayView bytes) : m_window(bytes), m_size(bytes.size()) {}
 
-ByteReader::ByteReader(QIODevice &device) : m_device(&device), m_size(device.size()) {}
+ByteReader::ByteReader(QIODevice &device, qint64 chunk)
+    : m_device(&device)
+    , m_chunkSize(chunk)
+    , m_size(device.size())
+{
+}
 
 void ByteReader::setBytes(QByteArrayView bytes)
 {
@@ -50,7 +47,7 @@ bool ByteReader::fillWindow(qint64 count)
 {
     if (m_device == nullptr)
         return false;
-    const qint64 wanted = std::min(std::max(count, ChunkSize), left());
+    const qint64 wanted = std::min(std::max(count, m_chunkSize), left());
     m_chunk.resize(wanted);
     qint64 got = 0;
     if (m_device->seek(m_position))

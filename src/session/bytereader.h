@@ -23,10 +23,15 @@ namespace zuno {
 class ByteReader
 {
 public:
+    /// What is fetched at least from a file: the descriptive data at either end of a recording
+    /// usually fit, and a disk reads no less.
+    static constexpr qint64 SmallChunk = 4096;
+
     /// Reads @p bytes, which must outlive the reader.
     explicit ByteReader(QByteArrayView bytes);
-    /// Reads the open, seekable @p device, which must outlive the reader.
-    explicit ByteReader(QIODevice &device);
+    /// Reads the open, seekable @p device, which must outlive the reader, at least @p chunk bytes
+    /// at a time.
+    explicit ByteReader(QIODevice &device, qint64 chunk = SmallChunk);
 
     [[nodiscard]] qint64 size() const { return m_size; }
     [[nodiscard]] qint64 position() const { return m_position; }
@@ -66,6 +71,7 @@ private:
 
     QIODevice *m_device = nullptr;
     QByteArray m_chunk;
+    qint64 m_chunkSize = SmallChunk;
     QByteArrayView m_window;
     qint64 m_windowStart = 0;
     qint64 m_size = 0;

@@ -30,6 +30,12 @@ constexpr qint64 SamplesAtOnce = 2048;
 // A sample's block of readings in either list.
 constexpr std::size_t ReadingsPerSample = 10;
 
+// Lists of readings are fetched in pieces of this many bytes when all of them are wanted.
+constexpr qint64 WholeFileChunk = 65536;
+
+// A file with a buffer of its own would read more than was asked for.
+constexpr QIODevice::OpenMode ReadPiecewise = QIODevice::ReadOnly | QIODevice::Unbuffered;
+
 constexpr quint8 ListsFollow = 1;
 
 // The samples as the file has them.
@@ -277,9 +283,9 @@ Session::Samples fetchSamples(ByteReader &reader)
 Session::Samples fetchSamplesFrom(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(ReadPiecewise))
         return {};
-    ByteReader reader(file);
+    ByteReader reader(file, WholeFileChunk);
     return fetchSamples(reader);
 }
 
@@ -314,7 +320,7 @@ OpenedSession openSession(const QString &path)
 {
     QFile file(path);
     // Only regular files: opening a pipe would wait for somebody to write to it.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(ReadPiecewise))
         return {nullptr, SessionFileError::Unreadable};
     ByteReader reader(file);
     OpenedSession opened = openWith(reader, path);
