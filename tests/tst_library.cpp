@@ -214,6 +214,8 @@ private Q_SLOTS:
         other.session->setDriver(u"Bob"_s);
         QVERIFY(rewriteSessionFile(*other.session).ok());
         QVERIFY(outfit.library.refresh(path));
+        // As after a change of the maps.
+        outfit.library.reload(QFileInfo(path).path());
         Session *session = outfit.library.find(path);
         QCOMPARE(session->driver(), u"Bob"_s);
         QCOMPARE(session->notes(), u"mine"_s);

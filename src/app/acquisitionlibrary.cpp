@@ -4,11 +4,11 @@
 #include <app/acquisitionlibrary.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <QDebug>
 #include <QDir>
 #include <QDirIterator>
-#include <QFileInfo>
 
 #include <session/sessionfile.h>
 
@@ -21,21 +21,33 @@ bool isAtOrBelow(const QString &path, const QString &folder)
     return path == folder || path.startsWith(folder + u'/');
 }
 
-// What the rider has said about a session, and could not be written so far, outlives its reading.
-void keepEdits(Session &session, StoredState stored, StoredState edited)
+} // namespace
+
+AcquisitionLibrary::Said::Said(const Session &session)
+    : path(session.filePath())
+    , recording(session.recording())
+    , stored(session.storedState())
+    , edited(session.state())
 {
+}
+
+// What the rider has said about a session, and could not be written so far, outlives its reading.
+void AcquisitionLibrary::Said::putInto(Session &session) const
+{
+    if (!isStillRecording(recording, session.recording()))
+        return;
     const StoredState now = session.state();
+    StoredState before = stored;
+    StoredState after = edited;
     // What was computed from the samples that the file had is none of that.
-    for (StoredState *state : {&stored, &edited}) {
+    for (StoredState *state : {&before, &after}) {
         state->newSession = now.newSession;
         state->information.circuitName = now.information.circuitName;
         state->information.bestLapText = now.information.bestLapText;
         state->information.idealTimeText = now.information.idealTimeText;
     }
-    session.setInformation(merged(stored, edited, now).information);
+    session.setInformation(merged(before, after, now).information);
 }
-
-} // namespace
 
 AcquisitionLibrary::AcquisitionLibrary(QObject *parent) : QObject(parent) {}
 
@@ -50,11 +62,13 @@ void AcquisitionLibrary::load(const QString &folder)
         if (path.endsWith(Suffix) && indexOf(path) < 0)
             append(path, "loadAcquisitionsFolder");
     }
-    Q_EMIT sessionsChanged();
+    tell();
 }
 
 Session *AcquisitionLibrary::append(const QString &path, const char *caller)
 {
+    // Before it is read: what somebody writes meanwhile is not taken for known.
+    const FileStamp stamp = FileStamp::of(QFileInfo(path));
     OpenedSession opened = openSession(path);
     if (!opened.session || opened.session->sampleCount() == 0) {
         qDebug().noquote() << QStringLiteral("(ZunoAnalyzer::%1) Error in decoding ZUNO File : %2")
@@ -62,36 +76,53 @@ Session *AcquisitionLibrary::append(const QString &path, const char *caller)
         return nullptr;
     }
     m_sessions.push_back(std::move(opened.session));
-    noteWritten(*m_sessions.back());
+    m_stamps.insert(m_sessions.back().get(), stamp);
     return m_sessions.back().get();
 }
 
-AcquisitionLibrary::FileStamp AcquisitionLibrary::FileStamp::of(const QString &path)
+AcquisitionLibrary::FileStamp AcquisitionLibrary::FileStamp::of(const QFileInfo &file)
 {
-    const QFileInfo file(path);
     return {file.size(), file.lastModified()};
 }
 
 void AcquisitionLibrary::noteWritten(const Session &session)
 {
-    m_stamps.insert(&session, FileStamp::of(session.filePath()));
+    m_stamps.insert(&session, FileStamp::of(QFileInfo(session.filePath())));
 }
 
 bool AcquisitionLibrary::refresh(const QString &path)
 {
     Session *session = find(path);
-    if (session == nullptr || !QFileInfo::exists(path)
-        || m_stamps.value(session) == FileStamp::of(path))
+    if (session == nullptr || !QFileInfo::exists(path) || !hasChanged(session, QFileInfo(path)))
         return false;
-    const StoredState before = session->state();
-    const StoredState stored = session->storedState();
-    const Recording recording = session->recording();
-    remove(session);
-    Session *again = append(path, "onSessionDisplayedChange");
-    if (again != nullptr && isStillRecording(recording, again->recording()))
-        keepEdits(*again, stored, before);
-    Q_EMIT sessionsChanged();
+    const Said said(*session);
+    bundle([&] {
+        remove(session);
+        if (Session *again = append(path, "onSessionDisplayedChange")) {
+            said.putInto(*again);
+            tell();
+        }
+    });
     return true;
+}
+
+bool AcquisitionLibrary::hasChanged(const Session *session, const QFileInfo &file) const
+{
+    return m_stamps.value(session) != FileStamp::of(file);
+}
+
+void AcquisitionLibrary::bundle(const std::function<void()> &work)
+{
+    ++m_bundles;
+    work();
+    --m_bundles;
+    if (m_bundles == 0 && std::exchange(m_isUntold, false))
+        Q_EMIT sessionsChanged();
+}
+
+void AcquisitionLibrary::tell()
+{
+    bundle([this] { m_isUntold = true; });
 }
 
 Session *AcquisitionLibrary::add(const QString &path, const char *caller)
@@ -101,7 +132,7 @@ Session *AcquisitionLibrary::add(const QString &path, const char *caller)
         return known;
     Session *session = append(clean, caller);
     if (session != nullptr)
-        Q_EMIT sessionsChanged();
+        tell();
     return session;
 }
 
@@ -113,16 +144,18 @@ void AcquisitionLibrary::remove(Session *session)
     Q_EMIT sessionAboutToBeRemoved(session);
     m_stamps.remove(session);
     m_sessions.erase(m_sessions.begin() + index);
-    Q_EMIT sessionsChanged();
+    tell();
 }
 
 void AcquisitionLibrary::removeAt(const QString &path)
 {
-    const QList<Session *> all = sessions();
-    for (Session *session : all) {
-        if (isAtOrBelow(session->filePath(), path))
-            remove(session);
-    }
+    bundle([this, &path] {
+        const QList<Session *> all = sessions();
+        for (Session *session : all) {
+            if (isAtOrBelow(session->filePath(), path))
+                remove(session);
+        }
+    });
 }
 
 void AcquisitionLibrary::movePath(const QString &from, const QString &to)
@@ -132,16 +165,23 @@ void AcquisitionLibrary::movePath(const QString &from, const QString &to)
         if (isAtOrBelow(path, from))
             session->setFilePath(to + path.mid(from.size()));
     }
-    Q_EMIT sessionsChanged();
+    tell();
 }
 
 void AcquisitionLibrary::reload(const QString &folder)
 {
-    for (const auto &session : m_sessions)
+    std::vector<Said> said;
+    for (const auto &session : m_sessions) {
+        said.emplace_back(*session);
         Q_EMIT sessionAboutToBeRemoved(session.get());
+    }
     m_sessions.clear();
     m_stamps.clear();
     load(folder);
+    for (const Said &one : said) {
+        if (Session *again = find(one.path))
+            one.putInto(*again);
+    }
 }
 
 QList<Session *> AcquisitionLibrary::sessions() const

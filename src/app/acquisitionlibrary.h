@@ -3,10 +3,12 @@
 
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QHash>
 #include <QList>
 #include <QMap>
@@ -39,6 +41,10 @@ public:
     /// Loads a session's file again when somebody else has changed it since it was loaded or
     /// noteWritten; the session is then another one. True when it was changed.
     bool refresh(const QString &path);
+    /// Whether @p file, which stands at a session's path, is another one than the session knows.
+    [[nodiscard]] bool hasChanged(const Session *session, const QFileInfo &file) const;
+    /// Does @p work, and tells once when sessions came or went meanwhile.
+    void bundle(const std::function<void()> &work);
     /// Takes the file of @p session as it stands for the one that the session knows.
     void noteWritten(const Session &session);
     /// Drops a session.
@@ -47,7 +53,8 @@ public:
     void removeAt(const QString &path);
     /// Tells the sessions at @p from, or below it, that their files stand at @p to now.
     void movePath(const QString &from, const QString &to);
-    /// Lets go of every session and loads them again.
+    /// Lets go of every session and loads them again; what the rider has said about them, and could
+    /// not be written so far, stays.
     void reload(const QString &folder);
 
     [[nodiscard]] QList<Session *> sessions() const;
@@ -75,14 +82,29 @@ private:
         qint64 size = -1;
         QDateTime modified;
 
-        static FileStamp of(const QString &path);
+        static FileStamp of(const QFileInfo &file);
         friend bool operator==(const FileStamp &, const FileStamp &) = default;
     };
 
+    /// What was said about a session before its file is read again.
+    struct Said
+    {
+        explicit Said(const Session &session);
+        void putInto(Session &session) const;
+
+        QString path;
+        Recording recording;
+        StoredState stored;
+        StoredState edited;
+    };
+
     Session *append(const QString &path, const char *caller);
+    void tell();
 
     std::vector<std::unique_ptr<Session>> m_sessions;
     QHash<const Session *, FileStamp> m_stamps;
+    int m_bundles = 0;
+    bool m_isUntold = false;
 };
 
 } // namespace zuno

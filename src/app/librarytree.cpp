@@ -76,6 +76,7 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
     , m_view(view)
     , m_library(library)
     , m_settings(settings)
+    , m_sync(library)
     , m_delegate(new CustomFileSystemModelDelegate(settings.path(SettingsFile::Monitor), this))
     , m_rename(makeAction(tr("Rename"), QStringLiteral("rename.png"), Qt::Key_F2))
     , m_delete(makeAction(tr("Delete"), QStringLiteral("cross.png"), QKeySequence::Delete))
@@ -88,6 +89,7 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
 {
     m_view.setItemDelegate(m_delegate);
     m_view.setToolTip(tr("Enter displays a session, F2 renames, Del deletes"));
+    connect(&m_sync, &FolderSync::fileChanged, this, &LibraryTree::fileChanged);
     connect(m_rename, &QAction::triggered, this, &LibraryTree::renameCurrent);
     connect(m_delete, &QAction::triggered, this, &LibraryTree::deleteSelected);
     connect(m_newFolder, &QAction::triggered, this, &LibraryTree::createFolder);
@@ -126,6 +128,7 @@ void LibraryTree::setFolder(const QString &folder)
 {
     m_folder = QDir::cleanPath(folder);
     m_isRestored = false;
+    m_listed.clear();
     m_view.setModel(nullptr);
     m_model = std::make_unique<QFileSystemModel>();
     m_model->setReadOnly(false);
@@ -156,19 +159,20 @@ void LibraryTree::connectModel()
     });
     connect(m_model.get(), &QFileSystemModel::directoryLoaded, this, [this](const QString &folder) {
         restoreSelection();
+        m_listed.insert(folder);
+        // It is also listed again because something in it has changed.
+        m_sync.look(folder);
         // Only now it is known where in its folder a file stands.
         if (!m_wanted.isEmpty() && m_wanted == currentPath()
             && folder == QFileInfo(m_wanted).absolutePath())
             m_view.scrollTo(m_view.currentIndex());
     });
-    connect(m_model.get(), &QFileSystemModel::dataChanged, this,
-            [this](const QModelIndex &topLeft, const QModelIndex &bottomRight) {
-                for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
-                    Q_EMIT fileChanged(m_model->filePath(topLeft.siblingAtRow(row)));
-            });
+    connect(
+        m_model.get(), &QFileSystemModel::dataChanged, this,
+        [this](const QModelIndex &topLeft) { m_sync.look(m_model->filePath(topLeft.parent())); });
     connect(m_model.get(), &QFileSystemModel::rowsInserted, this, &LibraryTree::onRowsInserted);
-    connect(m_model.get(), &QFileSystemModel::rowsAboutToBeRemoved, this,
-            &LibraryTree::onRowsAboutToBeRemoved);
+    connect(m_model.get(), &QFileSystemModel::rowsRemoved, this,
+            [this](const QModelIndex &parent) { m_sync.look(m_model->filePath(parent)); });
 }
 
 void LibraryTree::updateViewedStates()
@@ -218,40 +222,13 @@ void LibraryTree::restoreSelection()
 
 void LibraryTree::onRowsInserted(const QModelIndex &parent, int first, int last)
 {
+    m_sync.look(m_model->filePath(parent));
     for (int row = first; row <= last; ++row) {
         const QModelIndex index = m_model->index(row, 0, parent);
-        const QString path = m_model->filePath(index);
-        if (path.isEmpty() || m_model->isDir(index) || !path.endsWith(AcquisitionLibrary::Suffix))
-            continue;
-        if (row == first)
-            addFile(path);
-        else // A folder of new files must not hold up the window.
-            QMetaObject::invokeMethod(
-                this, [this, path] { addFile(path); }, Qt::QueuedConnection);
-    }
-}
-
-void LibraryTree::addFile(const QString &path)
-{
-    if (m_library.find(path) == nullptr && QFileInfo::exists(path))
-        m_library.add(path, "onAddNewFiles");
-}
-
-void LibraryTree::onRowsAboutToBeRemoved(const QModelIndex &parent, int first, int last)
-{
-    for (int row = first; row <= last; ++row) {
-        const QString path = m_model->filePath(m_model->index(row, 0, parent));
-        if (path.isEmpty())
-            continue;
-        // A row also goes when its file has only been renamed on the disk and back.
-        const auto drop = [this, path] {
-            if (!QFileInfo::exists(path))
-                m_library.removeAt(path);
-        };
-        if (row == first)
-            drop();
-        else
-            QMetaObject::invokeMethod(this, drop, Qt::QueuedConnection);
+        // The model looks into a folder only when it is opened; what was there at the start is
+        // known.
+        if (m_listed.contains(m_model->filePath(parent)) && m_model->isDir(index))
+            m_sync.lookBelow(m_model->filePath(index));
     }
 }
 

@@ -8,7 +8,10 @@
 #include <QList>
 #include <QModelIndex>
 #include <QObject>
+#include <QSet>
 #include <QString>
+
+#include <app/foldersync.h>
 
 class QAction;
 class QFileSystemModel;
@@ -73,8 +76,6 @@ private:
     void connectModel();
     void restoreSelection();
     void onRowsInserted(const QModelIndex &parent, int first, int last);
-    void onRowsAboutToBeRemoved(const QModelIndex &parent, int first, int last);
-    void addFile(const QString &path);
     void rename(const QString &from, const QString &newName);
     [[nodiscard]] QModelIndexList selectedRows() const;
     [[nodiscard]] QList<Session *> selectedSessions() const;
@@ -85,9 +86,12 @@ private:
     QTreeView &m_view;
     AcquisitionLibrary &m_library;
     const Settings &m_settings;
+    FolderSync m_sync;
     std::unique_ptr<QFileSystemModel> m_model;
     CustomFileSystemModelDelegate *m_delegate;
     QString m_folder;
+    /// The folders whose files the model has listed.
+    QSet<QString> m_listed;
     /// The file that was to be scrolled to last.
     QString m_wanted;
     QAction *m_rename;

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QString>
+#include <QTimer>
+
+namespace zuno {
+
+class AcquisitionLibrary;
+class Session;
+
+/// Keeps the library in step with folders in which something has changed.
+///
+/// Thousands of changes a second cost no more than a look at their folder now and then. A folder is
+/// looked at again until nothing in it changes any more: while a file is being written nobody tells
+/// of its growing, and a folder that was moved meanwhile tells nothing at all.
+class FolderSync : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FolderSync(AcquisitionLibrary &library, QObject *parent = nullptr);
+
+    /// Looks at the files of @p folder soon, and whether it and the folders in it are still there.
+    void look(const QString &folder);
+    /// The same for @p folder and all folders below it.
+    void lookBelow(const QString &folder);
+
+Q_SIGNALS:
+    /// The file of a session is another one now.
+    void fileChanged(const QString &path);
+
+private:
+    struct Stamp
+    {
+        qint64 size = -1;
+        QDateTime modified;
+
+        friend bool operator==(const Stamp &, const Stamp &) = default;
+    };
+    using Contents = QHash<QString, Stamp>;
+    using Sessions = QHash<QString, const Session *>;
+
+    void lookAtAll();
+    void lookAt(const QString &folder, const Sessions &known);
+    void follow(const QFileInfo &file, const Session *session);
+    void dropMissing(const QString &folder, const Sessions &known, const Contents &now);
+
+    AcquisitionLibrary &m_library;
+    QTimer m_soon;
+    QTimer m_again;
+    QSet<QString> m_waiting;
+    QSet<QString> m_restless;
+    /// What the folders held when they were looked at last.
+    QHash<QString, Contents> m_contents;
+};
+
+} // namespace zuno
