@@ -60,5 +60,7 @@ int main(int count, char **arguments)
     putFile(folder + u"/update/one.xml",
             R"(<list><item name="ZUNO Analyzer"><version>1.6.0.0</version><name>setup.exe</name>)"
             R"(<url>https://www.example.com/setup.exe</url></item><item name="Other"/></list>)");
+    putFile(folder + u"/page/drawn.json", R"({"event":"drawn"})");
+    putFile(folder + u"/page/picked.json", R"({"event":"picked","index":2147483647})");
     return 0;
 }
