@@ -28,6 +28,9 @@ trap 'mountpoint -q "$full" && umount "$full"; chmod -R u+w "$work"; rm -rf "$wo
 cp "$build/zuno" "$work/zuno"
 chmod 755 "$work"
 zuno=$work/zuno
+helper=$build/zuno_faults
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work/runtime
+mkdir -m 700 "$work/runtime"
 as_rider=()
 ((EUID != 0)) || as_rider=(setpriv --reuid=65534 --regid=65534 --clear-groups)
 
@@ -139,11 +142,19 @@ moving() {
 }
 
 # Runs a command that dies at its n-th call of each system call that could matter, until it lives.
+writing_calls=(write fdatasync linkat rename renameat2 unlink ftruncate fchmod sendfile)
 die_everywhere() { # die_everywhere TEXT CHECK COMMAND...
-    local text=$1 check=$2 deaths=0 bad=0
-    shift 2
-    local call n
-    for call in openat write fdatasync linkat rename unlink close ftruncate fchmod sendfile; do
+    die_at openat close "${writing_calls[@]}" -- "$@"
+}
+die_at() { # die_at CALL... -- TEXT CHECK COMMAND...
+    local calls=() deaths=0 bad=0
+    while [[ $1 != -- ]]; do
+        calls+=("$1")
+        shift
+    done
+    local text=$2 check=$3 call n
+    shift 3
+    for call in "${calls[@]}"; do
         for ((n = 1; n <= 500; n++)); do
             "prepare_$check"
             strace -f -qq -o /dev/null -e "trace=$call" \
@@ -154,7 +165,7 @@ die_everywhere() { # die_everywhere TEXT CHECK COMMAND...
             deaths=$((deaths + 1))
         done
     done 2>/dev/null
-    expect "$text: $deaths deaths, $bad of them harmful" test "$bad" -eq 0 -a "$deaths" -gt 50
+    expect "$text: $deaths deaths, $bad of them harmful" test "$bad" -eq 0 -a "$deaths" -gt 20
 }
 
 prepare_is_whole() {
@@ -182,6 +193,17 @@ are_settings() {
         cmp -s "$work/settings/$ini" "$work/settings-after/$ini"
 }
 
+# An export's target is whole or not there; the recording is what it was.
+prepare_is_exported() {
+    rm -rf "$work/exports"
+    mkdir "$work/exports"
+}
+is_exported() {
+    cmp -s "$ride" "$before" && {
+        [[ ! -e $work/exports/target ]] || cmp -s "$work/exports/target" "$work/exported"
+    }
+}
+
 deaths() {
     if ! command -v strace >/dev/null; then
         note skipped "death at every system call (there is no strace)"
@@ -190,19 +212,39 @@ deaths() {
     fresh
     "$zuno" set "$ride" notes=killed -o "$work/after.ra1"
     die_everywhere "killed while rewriting" is_whole "$zuno" set "$file" notes=killed
-    local helper=$build/zuno_faults
-    export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work/runtime
-    mkdir -m 700 "$work/runtime"
     if [[ ! -x $helper ]]; then
         note skipped "death while importing and storing settings (built without the window)"
         return
     fi
     die_everywhere "killed while importing" is_imported \
         "$helper" import "$work/root" "$ride"
+    cp "$ride" "$before"
+    local what
+    for what in copy session lap; do
+        prepare_is_exported
+        "$helper" export "$work/exports/target" "$what" "$ride" 2>/dev/null
+        mv "$work/exports/target" "$work/exported"
+        # Opening and closing is mostly the window's, before anything is exported.
+        die_at "${writing_calls[@]}" -- "killed while exporting ($what)" is_exported \
+            "$helper" export "$work/exports/target" "$what" "$ride"
+    done
     "$helper" settings "$work/settings-before" 1
     cp -r "$work/settings-before" "$work/settings-after"
     "$helper" settings "$work/settings-after" 2
     die_everywhere "killed while storing settings" are_settings "$helper" settings "$work/settings" 2
+}
+
+# Somebody creates, rewrites, renames and removes recordings in the folder that the window shows.
+storm() {
+    if [[ ! -x $helper ]]; then
+        note skipped "a storm in the folder (built without the window)"
+        return
+    fi
+    local seconds=10 told
+    [[ $quick == no ]] || seconds=2
+    "$zuno" demo "$work/storm/Norvale" --sessions 100 --samples 1000 >/dev/null
+    told=$(QTWEBENGINE_DISABLE_SANDBOX=1 "$helper" storm "$work/storm" "$seconds" 2>/dev/null)
+    expect "storm in the folder: $told" test "$?" -eq 0
 }
 
 # The program itself: its first start gives every recording its information. It dies once it has
@@ -257,6 +299,7 @@ no_room
 no_right
 two_programs
 moving
+storm
 if [[ $quick == no ]]; then
     deaths
     dying_starts
