@@ -8,6 +8,7 @@
 #   scripts/benchmarks.sh --map                           (the map page instead)
 #   scripts/benchmarks.sh --charts                        (the charts instead)
 #   scripts/benchmarks.sh --library [SESSIONS]            (the program with a large library instead)
+#   scripts/benchmarks.sh --reads [SESSIONS]              (what it reads and writes of one instead)
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
@@ -24,6 +25,15 @@ case ${1:-} in
     QT_QPA_PLATFORM=offscreen exec "build/release/bin/$program" "${@:2}"
     ;;
 esac
+
+if [[ ${1:-} == --reads ]]; then
+    scripts/install-dependencies.sh --gui --faults
+    {
+        cmake --preset release
+        cmake --build --preset release --target zuno zunoanalyzer
+    } >&2
+    exec scripts/reads.sh build/release "${@:2}"
+fi
 
 scripts/install-dependencies.sh --core
 # In a folder of its own: without the window, and whatever build/release is set to stays.

@@ -7,6 +7,7 @@
 #   --gui     that, and what the desktop program needs (this is the default)
 #   --checks  additionally the tools of scripts/check-static.sh
 #   --package additionally the tools of scripts/package.sh
+#   --faults  additionally what scripts/faults.sh and scripts/reads.sh need
 #   --fuzz    only what scripts/fuzz.sh needs
 #   --format  only what scripts/check-format.sh needs
 #   --page    only what scripts/check-page.sh needs
@@ -24,6 +25,7 @@ fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positionin
 # The compiler brings the sanitizers' libraries itself.
 format=(git clang-format)
 checks=(git clang-tidy clazy cppcheck shellcheck)
+faults=(strace util-linux-extra)
 package=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libfile-mimeinfo-perl)
 try=(xvfb x11-utils imagemagick fonts-dejavu-core xdg-utils desktop-file-utils shared-mime-info
     libfile-mimeinfo-perl)
@@ -36,6 +38,7 @@ for argument in "$@"; do
     --gui) sort_of=gui ;;
     --checks) packages+=("${checks[@]}") ;;
     --package) packages+=("${package[@]}") ;;
+    --faults) packages+=("${faults[@]}") ;;
     --fuzz) sort_of=fuzz ;;
     --format) sort_of=format ;;
     --page) sort_of=page ;;
@@ -43,7 +46,7 @@ for argument in "$@"; do
     --translations) sort_of=translations ;;
     *)
         echo "usage: ${0##*/} [--gui|--core|--format|--fuzz|--page|--try|--translations]" \
-            "[--checks] [--package]" >&2
+            "[--checks] [--faults] [--package]" >&2
         exit 2
         ;;
     esac

@@ -131,6 +131,7 @@ void LibraryTree::setFolder(const QString &folder)
     m_listed.clear();
     m_view.setModel(nullptr);
     m_model = std::make_unique<QFileSystemModel>();
+    m_model->setIconProvider(&m_icons);
     m_model->setReadOnly(false);
     m_model->setNameFilters({QStringLiteral("*.ra1")});
     m_model->setNameFilterDisables(false);

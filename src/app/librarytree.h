@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <app/foldersync.h>
+#include <app/recordingicons.h>
 
 class QAction;
 class QFileSystemModel;
@@ -87,6 +88,7 @@ private:
     AcquisitionLibrary &m_library;
     const Settings &m_settings;
     FolderSync m_sync;
+    RecordingIcons m_icons;
     std::unique_ptr<QFileSystemModel> m_model;
     CustomFileSystemModelDelegate *m_delegate;
     QString m_folder;

@@ -48,11 +48,18 @@ bool ByteReader::fillWindow(qint64 count)
     if (m_device == nullptr)
         return false;
     const qint64 wanted = std::min(std::max(count, m_chunkSize), left());
+    const qint64 passed = m_position - m_windowStart;
+    const bool isInside = passed >= 0 && passed < m_window.size();
+    // What is there already is not read again.
+    m_chunk.resize(isInside ? m_window.size() : 0);
+    if (isInside)
+        m_chunk.remove(0, passed);
+    const qint64 kept = m_chunk.size();
     m_chunk.resize(wanted);
     qint64 got = 0;
-    if (m_device->seek(m_position))
-        got = m_device->read(m_chunk.data(), wanted);
-    m_window = QByteArrayView(m_chunk).first(std::max<qint64>(got, 0));
+    if (m_device->seek(m_position + kept))
+        got = m_device->read(m_chunk.data() + kept, wanted - kept);
+    m_window = QByteArrayView(m_chunk).first(kept + std::max<qint64>(got, 0));
     m_windowStart = m_position;
     if (m_window.size() >= count)
         return true;

@@ -11,6 +11,10 @@
 #include <QFileInfo>
 #include <QtEndian>
 
+#ifdef Q_OS_LINUX
+#include <fcntl.h>
+#endif
+
 #include <session/bytereader.h>
 
 namespace zuno {
@@ -29,9 +33,6 @@ constexpr qint64 SamplesAtOnce = 2048;
 
 // A sample's block of readings in either list.
 constexpr std::size_t ReadingsPerSample = 10;
-
-// Lists of readings are fetched in pieces of this many bytes when all of them are wanted.
-constexpr qint64 WholeFileChunk = 65536;
 
 // A file with a buffer of its own would read more than was asked for.
 constexpr QIODevice::OpenMode ReadPiecewise = QIODevice::ReadOnly | QIODevice::Unbuffered;
@@ -285,8 +286,16 @@ Session::Samples fetchSamplesFrom(const QString &path)
     QFile file(path);
     if (!file.open(ReadPiecewise))
         return {};
-    ByteReader reader(file, WholeFileChunk);
+    ByteReader reader(file, SamplesAtOnce * SampleSize);
     return fetchSamples(reader);
+}
+
+// The system would fetch more than is read, expecting the rest to be wanted, too.
+void expectLittle([[maybe_unused]] const QFile &file)
+{
+#ifdef Q_OS_LINUX
+    posix_fadvise(file.handle(), 0, 0, POSIX_FADV_RANDOM);
+#endif
 }
 
 OpenedSession openWith(ByteReader &reader, const QString &path)
@@ -322,6 +331,7 @@ OpenedSession openSession(const QString &path)
     // Only regular files: opening a pipe would wait for somebody to write to it.
     if (!QFileInfo(path).isFile() || !file.open(ReadPiecewise))
         return {nullptr, SessionFileError::Unreadable};
+    expectLittle(file);
     ByteReader reader(file);
     OpenedSession opened = openWith(reader, path);
     if (Session *session = opened.session.get())
