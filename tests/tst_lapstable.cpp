@@ -156,6 +156,22 @@ private Q_SLOTS:
             QCOMPARE(rowText(model, row), rows[row]);
     }
 
+    // A figure that damage has spoilt is none; a rider would believe any other number.
+    void damagedSamples()
+    {
+        Table table;
+        Points points = ride(lapRide({0}));
+        constexpr float Infinite = std::numeric_limits<float>::infinity();
+        points[20].dataAngle = -static_cast<double>(Infinite);
+        points[21].dataAngle = 181;
+        addReadings(points[22], 1, {Infinite, -3e38F});
+        const auto damaged = sessionOf(points);
+        damaged->setMap(table.map.get());
+        table.display(damaged.get());
+        QVERIFY(rowText(*table.table.model(), 1)
+                    .contains(u"|\u2013|\u2013|0.00|0.00|\u2013|\u2013|"_s));
+    }
+
     // More sections than a lap can have times for still are columns, empty ones.
     void sections()
     {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include <QColor>
 #include <QItemSelectionModel>
@@ -18,15 +19,30 @@ namespace zuno {
 
 namespace {
 
+// No motorcycle leans further, and no reading of a suspension is larger.
+constexpr qint32 LargestAngle = 180;
+constexpr double LargestReading = 1e6;
+
+// For a figure that damaged samples have spoilt.
+const QString NoFigure = QStringLiteral("\u2013");
+
 // Times, numbers and units are the same in every language; only separators are the rider's.
 QString decimals(double value)
 {
+    if (!(std::fabs(value) <= LargestReading))
+        return NoFigure;
     return QLocale().toString(value, 'f', 2);
 }
 
 QString decimals(std::optional<float> value)
 {
     return value ? decimals(static_cast<double>(*value)) : QString();
+}
+
+QString angleText(qint32 angle)
+{
+    const bool isPossible = angle >= -LargestAngle && angle <= LargestAngle;
+    return isPossible ? QStringLiteral("%1 d").arg(angle) : NoFigure;
 }
 
 int columnOf(Mark mark)
@@ -177,9 +193,9 @@ QString LapsTableModel::text(const Lap &lap, int column) const
     case MinSpeed:
         return QStringLiteral("%1 km/h").arg(lap.minSpeed());
     case LeftAngle:
-        return QStringLiteral("%1 d").arg(lap.minAngle());
+        return angleText(lap.minAngle());
     case RightAngle:
-        return QStringLiteral("%1 d").arg(lap.maxAngle());
+        return angleText(lap.maxAngle());
     case Accel:
         return decimals(lap.accelMax());
     case Decel:
