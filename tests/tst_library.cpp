@@ -244,6 +244,10 @@ private Q_SLOTS:
         QCOMPARE(write(u"a.ra1"_s), RewriteOutcome::Written);
         QCOMPARE(write(name), RewriteOutcome::WriteFailed);
         QCOMPARE(failed.count(), 2);
+        // What the rider has typed is another matter.
+        outfit.writer.write(*outfit.library.find(outfit.path(name)),
+                            InformationWriter::Cause::Edited);
+        QCOMPARE(failed.count(), 3);
     }
 };
 

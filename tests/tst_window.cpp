@@ -318,6 +318,7 @@ private Q_SLOTS:
         QTest::keyClick(&vehicle, Qt::Key_Return);
         QVERIFY(window.main.statusBar()->currentMessage().contains(u"was not changed: No such"));
         QTRY_COMPARE(window.laps(), 0);
+        QVERIFY(window.main.statusBar()->currentMessage().contains(u"no longer there"));
         window.select(home.path(u"Summer/ride.ra1"_s));
         QTRY_COMPARE(window.laps(), 7);
     }

@@ -3,6 +3,7 @@
 
 #include <app/foldersync.h>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -17,6 +18,14 @@ namespace {
 
 constexpr std::chrono::milliseconds Soon {100};
 constexpr std::chrono::milliseconds Again {1000};
+
+bool hasBelow(const QHash<QString, const Session *> &known, const QString &folder)
+{
+    const auto paths = known.keyBegin();
+    return std::any_of(
+        paths, known.keyEnd(),
+        [prefix = QString(folder + u'/')](const QString &path) { return path.startsWith(prefix); });
+}
 
 } // namespace
 
@@ -33,14 +42,21 @@ FolderSync::FolderSync(AcquisitionLibrary &library, QObject *parent)
     });
 }
 
+void FolderSync::setRoot(const QString &root)
+{
+    m_root = root;
+    m_contents.clear();
+}
+
 void FolderSync::look(const QString &folder)
 {
-    m_waiting.insert(folder);
+    m_waiting.insert(folder.startsWith(m_root + u'/') ? folder : m_root);
     // Not started anew: a folder that never rests is looked at, too.
     if (!m_soon.isActive())
         m_soon.start(Soon);
 }
 
+// The tree looks into a folder only when it is opened.
 void FolderSync::lookBelow(const QString &folder)
 {
     look(folder);
@@ -58,11 +74,27 @@ void FolderSync::lookAtAll()
         for (const Session *session : sessions)
             known.insert(session->filePath(), session);
         const QSet<QString> folders = std::exchange(m_waiting, {});
+        if (isRootMissing())
+            return;
         for (const QString &folder : folders)
             lookAt(folder, known);
     });
     if (!m_restless.isEmpty() && !m_again.isActive())
         m_again.start(Again);
+}
+
+// Nobody tells when it comes back, so it is asked for.
+bool FolderSync::isRootMissing()
+{
+    if (!QFileInfo::exists(m_root)) {
+        m_wasRootMissing = true;
+        m_contents.clear();
+        m_library.removeAt(m_root);
+        m_restless.insert(m_root);
+    } else if (std::exchange(m_wasRootMissing, false)) {
+        Q_EMIT rootReturned();
+    }
+    return m_wasRootMissing;
 }
 
 void FolderSync::lookAt(const QString &folder, const Sessions &known)
@@ -72,19 +104,24 @@ void FolderSync::lookAt(const QString &folder, const Sessions &known)
         m_library.removeAt(folder);
         return;
     }
+    const bool isKnown = m_contents.contains(folder);
     const Contents before = m_contents.value(folder);
     Contents now;
-    QDirIterator files(folder, QDir::Files);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        if (!path.endsWith(AcquisitionLibrary::Suffix))
-            continue;
-        const QFileInfo file = files.fileInfo();
-        const Stamp stamp {file.size(), file.lastModified()};
-        now.insert(path, stamp);
-        const Session *session = known.value(path);
-        if (session != nullptr || before.value(path) != stamp)
-            follow(file, session);
+    QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const QFileInfo entry = entries.fileInfo();
+        if (entry.isDir()) {
+            now.insert(path, {});
+            if (isKnown ? !before.contains(path) : !hasBelow(known, path))
+                lookBelow(path);
+        } else if (path.endsWith(AcquisitionLibrary::Suffix)) {
+            const Stamp stamp {entry.size(), entry.lastModified()};
+            now.insert(path, stamp);
+            const Session *session = known.value(path);
+            if (session != nullptr || before.value(path) != stamp)
+                follow(entry, session);
+        }
     }
     dropMissing(folder, known, now);
     if (now != before)

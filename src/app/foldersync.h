@@ -28,14 +28,17 @@ class FolderSync : public QObject
 public:
     explicit FolderSync(AcquisitionLibrary &library, QObject *parent = nullptr);
 
-    /// Looks at the files of @p folder soon, and whether it and the folders in it are still there.
+    /// The folder of all sessions; nothing outside is looked at.
+    void setRoot(const QString &root);
+    /// Looks at @p folder soon: at its files, whether the folders in it are still there, and at all
+    /// that is in new ones.
     void look(const QString &folder);
-    /// The same for @p folder and all folders below it.
-    void lookBelow(const QString &folder);
 
 Q_SIGNALS:
     /// The file of a session is another one now.
     void fileChanged(const QString &path);
+    /// The root was away, and is there again.
+    void rootReturned();
 
 private:
     struct Stamp
@@ -48,12 +51,17 @@ private:
     using Contents = QHash<QString, Stamp>;
     using Sessions = QHash<QString, const Session *>;
 
+    void lookBelow(const QString &folder);
     void lookAtAll();
     void lookAt(const QString &folder, const Sessions &known);
     void follow(const QFileInfo &file, const Session *session);
     void dropMissing(const QString &folder, const Sessions &known, const Contents &now);
 
+    [[nodiscard]] bool isRootMissing();
+
     AcquisitionLibrary &m_library;
+    QString m_root;
+    bool m_wasRootMissing = false;
     QTimer m_soon;
     QTimer m_again;
     QSet<QString> m_waiting;

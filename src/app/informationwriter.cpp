@@ -3,14 +3,19 @@
 
 #include <app/informationwriter.h>
 
+#include <QFileInfo>
+
 #include <session/session.h>
 
 namespace zuno {
 
 namespace {
 
-QString reasonOf(const RewriteResult &result)
+QString reasonOf(const RewriteResult &result, const QFileInfo &file)
 {
+    // The system's words name the whole path again, which the status bar has no room for.
+    if (file.exists() && !file.isWritable())
+        return InformationWriter::tr("the file is write-protected");
     switch (result.outcome) {
     case RewriteOutcome::NotRewritable:
         return InformationWriter::tr("the file ends too early");
@@ -28,12 +33,12 @@ RewriteResult InformationWriter::write(Session &session, Cause cause)
     RewriteResult result = rewriteSessionFile(session);
     const QString &path = session.filePath();
     if (result.ok()) {
-        m_told.clear();
+        m_isTold = false;
         Q_EMIT written(session);
-    } else if (!isTold(path, cause)) {
-        m_told.insert(path);
+    } else if (cause == Cause::Edited || !m_isTold) {
+        m_isTold = true;
         Q_EMIT failed(tr("%1 was not changed: %2. Changes are kept until the program ends.")
-                          .arg(session.fileName(), reasonOf(result)));
+                          .arg(session.fileName(), reasonOf(result, QFileInfo(path))));
     }
     if (result.wasChanged) {
         Q_EMIT joined(&session,
@@ -41,11 +46,6 @@ RewriteResult InformationWriter::write(Session &session, Cause cause)
                           .arg(session.fileName()));
     }
     return result;
-}
-
-bool InformationWriter::isTold(const QString &path, Cause cause) const
-{
-    return cause == Cause::Edited ? m_told.contains(path) : !m_told.isEmpty();
 }
 
 } // namespace zuno

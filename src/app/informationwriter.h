@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QObject>
-#include <QSet>
 #include <QString>
 
 #include <session/sessionrewrite.h>
@@ -13,17 +12,17 @@ namespace zuno {
 
 class Session;
 
-/// Writes the information of sessions into their files, and tells once when that fails: a library
-/// on a write-protected card must not complain at every selection.
+/// Writes the information of sessions into their files, and tells when that fails; but a library on
+/// a write-protected card must not complain at every selection.
 class InformationWriter : public QObject
 {
     Q_OBJECT
 
 public:
     enum class Cause {
-        /// The rider looks at the session; only the first failure of any file is told.
+        /// The rider looks at the session; only the first failure is told.
         Shown,
-        /// The rider has changed the session; the first failure of each file is told.
+        /// The rider has changed the session; every failure is told.
         Edited,
     };
 
@@ -37,14 +36,12 @@ Q_SIGNALS:
     /// The file had been changed by another program; the session has its changes now, and
     /// @p message is for the rider.
     void joined(zuno::Session *session, const QString &message);
-    /// A failure that was not told since a file was last written; @p message is for the rider.
+    /// A failure that is to be told; @p message is for the rider.
     void failed(const QString &message);
 
 private:
-    [[nodiscard]] bool isTold(const QString &path, Cause cause) const;
-
-    // The files whose failure was told since a file was last written.
-    QSet<QString> m_told;
+    // Whether a failure was told since a file was last written.
+    bool m_isTold = false;
 };
 
 } // namespace zuno

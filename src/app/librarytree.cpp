@@ -90,6 +90,10 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
     m_view.setItemDelegate(m_delegate);
     m_view.setToolTip(tr("Enter displays a session, F2 renames, Del deletes"));
     connect(&m_sync, &FolderSync::fileChanged, this, &LibraryTree::fileChanged);
+    // The model goes on watching the folder that was moved away.
+    connect(
+        &m_sync, &FolderSync::rootReturned, this, [this] { setFolder(m_folder); },
+        Qt::QueuedConnection);
     connect(m_rename, &QAction::triggered, this, &LibraryTree::renameCurrent);
     connect(m_delete, &QAction::triggered, this, &LibraryTree::deleteSelected);
     connect(m_newFolder, &QAction::triggered, this, &LibraryTree::createFolder);
@@ -127,8 +131,8 @@ QAction *LibraryTree::makeAction(const QString &text, const QString &icon,
 void LibraryTree::setFolder(const QString &folder)
 {
     m_folder = QDir::cleanPath(folder);
+    m_sync.setRoot(m_folder);
     m_isRestored = false;
-    m_listed.clear();
     m_view.setModel(nullptr);
     m_model = std::make_unique<QFileSystemModel>();
     m_model->setIconProvider(&m_icons);
@@ -160,7 +164,6 @@ void LibraryTree::connectModel()
     });
     connect(m_model.get(), &QFileSystemModel::directoryLoaded, this, [this](const QString &folder) {
         restoreSelection();
-        m_listed.insert(folder);
         // It is also listed again because something in it has changed.
         m_sync.look(folder);
         // Only now it is known where in its folder a file stands.
@@ -171,9 +174,10 @@ void LibraryTree::connectModel()
     connect(
         m_model.get(), &QFileSystemModel::dataChanged, this,
         [this](const QModelIndex &topLeft) { m_sync.look(m_model->filePath(topLeft.parent())); });
-    connect(m_model.get(), &QFileSystemModel::rowsInserted, this, &LibraryTree::onRowsInserted);
-    connect(m_model.get(), &QFileSystemModel::rowsRemoved, this,
-            [this](const QModelIndex &parent) { m_sync.look(m_model->filePath(parent)); });
+    for (const auto signal : {&QFileSystemModel::rowsInserted, &QFileSystemModel::rowsRemoved}) {
+        connect(m_model.get(), signal, this,
+                [this](const QModelIndex &parent) { m_sync.look(m_model->filePath(parent)); });
+    }
 }
 
 void LibraryTree::updateViewedStates()
@@ -218,18 +222,6 @@ void LibraryTree::restoreSelection()
     if (!last.isEmpty() && m_library.find(last) != nullptr) {
         m_isRestored = true;
         select(last);
-    }
-}
-
-void LibraryTree::onRowsInserted(const QModelIndex &parent, int first, int last)
-{
-    m_sync.look(m_model->filePath(parent));
-    for (int row = first; row <= last; ++row) {
-        const QModelIndex index = m_model->index(row, 0, parent);
-        // The model looks into a folder only when it is opened; what was there at the start is
-        // known.
-        if (m_listed.contains(m_model->filePath(parent)) && m_model->isDir(index))
-            m_sync.lookBelow(m_model->filePath(index));
     }
 }
 

@@ -8,7 +8,6 @@
 #include <QList>
 #include <QModelIndex>
 #include <QObject>
-#include <QSet>
 #include <QString>
 
 #include <app/foldersync.h>
@@ -76,7 +75,6 @@ Q_SIGNALS:
 private:
     void connectModel();
     void restoreSelection();
-    void onRowsInserted(const QModelIndex &parent, int first, int last);
     void rename(const QString &from, const QString &newName);
     [[nodiscard]] QModelIndexList selectedRows() const;
     [[nodiscard]] QList<Session *> selectedSessions() const;
@@ -92,8 +90,6 @@ private:
     std::unique_ptr<QFileSystemModel> m_model;
     CustomFileSystemModelDelegate *m_delegate;
     QString m_folder;
-    /// The folders whose files the model has listed.
-    QSet<QString> m_listed;
     /// The file that was to be scrolled to last.
     QString m_wanted;
     QAction *m_rename;

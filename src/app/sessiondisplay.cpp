@@ -5,6 +5,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QFileInfo>
 
 #include <app/acquisitionlibrary.h>
 #include <app/informationwriter.h>
@@ -145,8 +146,11 @@ void SessionDisplay::release(Session *session)
 
 void SessionDisplay::onAboutToBeRemoved(Session *session)
 {
-    if (session == m_session)
-        clear();
+    if (session != m_session)
+        return;
+    clear();
+    if (!QFileInfo::exists(session->filePath()))
+        Q_EMIT vanished(session->filePath());
 }
 
 } // namespace zuno

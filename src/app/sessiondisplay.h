@@ -75,6 +75,8 @@ Q_SIGNALS:
     void sessionDisplayed(zuno::Session *session);
     /// Nothing is on display any more.
     void cleared();
+    /// The displayed session's file was deleted or moved; nothing is on display any more.
+    void vanished(const QString &path);
     /// A file that is no session was asked for.
     void notASession(const QString &path);
     /// A session has been opened for the first time.

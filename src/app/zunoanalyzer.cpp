@@ -175,6 +175,10 @@ void ZunoAnalyzer::connectParts()
                      "written by something else.")
                       .arg(QFileInfo(path).fileName()));
     });
+    connect(&m_display, &SessionDisplay::vanished, this, [this](const QString &path) {
+        tell(tr("\"%1\" is no longer there: it was deleted or moved.")
+                 .arg(QFileInfo(path).fileName()));
+    });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, this,
             [this] { m_summary->showFirstLap(m_selection.firstLap()); });
@@ -470,6 +474,12 @@ void ZunoAnalyzer::showNothing()
 
 QString ZunoAnalyzer::emptyState() const
 {
+    if (!QDir(m_settings.acquisitionFolder()).exists()) {
+        return tr("The folder of your sessions is not there any more: it was moved, or its drive "
+                  "was "
+                  "taken out.\n\n%1")
+            .arg(QDir::toNativeSeparators(m_settings.acquisitionFolder()));
+    }
     if (m_library.size() == 0) {
         return tr("There are no sessions yet.\n\nDrop the session files (.ra1) of your logger "
                   "here, choose them with \"Import\" (Ctrl+I), or copy them to\n%1")
