@@ -3,38 +3,18 @@
 
 #include <maps/jsconnector.h>
 
-#include <cmath>
-
 #include <QDesktopServices>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLoggingCategory>
 #include <QWebChannel>
 #include <QWebEngineSettings>
 
-#include <maps/draftpayload.h>
+#include <maps/pagemessage.h>
 
 namespace zuno {
 
 namespace {
 
 Q_LOGGING_CATEGORY(category, "zuno.mapview")
-
-// Wider than any gate or any map on a screen; what is more is an error of the page.
-constexpr double LargestGate = 1000.0;
-constexpr double LargestPixel = 100000.0;
-
-// Invalid unless both numbers are there and in range.
-QGeoCoordinate placeOf(const QJsonObject &message)
-{
-    return QGeoCoordinate(message.value(u"lat").toDouble(qQNaN()),
-                          message.value(u"lng").toDouble(qQNaN()));
-}
-
-bool isUpTo(double value, double largest)
-{
-    return std::isfinite(value) && value > 0.0 && value <= largest;
-}
 
 // Only addresses that a browser or a mail program opens; no page starts other programs.
 void openOutside(const QUrl &url)
@@ -84,35 +64,28 @@ void JSConnector::receiveData(const QString &text)
 
 void JSConnector::textFromJs(const QString &text)
 {
-    const QJsonObject message = QJsonDocument::fromJson(text.toUtf8()).object();
-    const QString event = message.value(u"event").toString();
-    if (event == u"drawn")
+    const PageMessage message = parsePageMessage(text);
+    switch (message.event) {
+    case PageMessage::Event::None:
+        break;
+    case PageMessage::Event::Drawn:
         Q_EMIT drawn();
-    else if (event == u"picked")
-        Q_EMIT samplePicked(message.value(u"index").toInt(-1));
-    else
-        handleEditing(event, message);
-}
-
-void JSConnector::handleEditing(const QString &event, const QJsonObject &message)
-{
-    const int point = message.value(u"point").toInt(NoPointNumber);
-    const QGeoCoordinate place = placeOf(message);
-    const bool done = message.value(u"done").toBool();
-    if (event == u"pointMoved") {
-        if (point >= StartPointNumber && place.isValid())
-            Q_EMIT pointMoved(point, place, done);
-    } else if (event == u"pointSelected") {
-        if (point >= StartPointNumber)
-            Q_EMIT pointSelected(point);
-    } else if (event == u"gateResized") {
-        const double metres = message.value(u"metres").toDouble();
-        if (isUpTo(metres, LargestGate))
-            Q_EMIT gateResized(metres, done);
-    } else if (event == u"trackClicked") {
-        const double metresPerPixel = message.value(u"metresPerPixel").toDouble();
-        if (place.isValid() && isUpTo(metresPerPixel, LargestPixel))
-            Q_EMIT trackClicked(place, metresPerPixel);
+        break;
+    case PageMessage::Event::Picked:
+        Q_EMIT samplePicked(message.index);
+        break;
+    case PageMessage::Event::PointMoved:
+        Q_EMIT pointMoved(message.point, message.place, message.done);
+        break;
+    case PageMessage::Event::PointSelected:
+        Q_EMIT pointSelected(message.point);
+        break;
+    case PageMessage::Event::GateResized:
+        Q_EMIT gateResized(message.metres, message.done);
+        break;
+    case PageMessage::Event::TrackClicked:
+        Q_EMIT trackClicked(message.place, message.metres);
+        break;
     }
 }
 

@@ -6,7 +6,6 @@
 #include <QGeoCoordinate>
 #include <QWebEnginePage>
 
-class QJsonObject;
 class QWebChannel;
 
 namespace zuno {
@@ -74,8 +73,6 @@ protected:
                                   int lineNumber, const QString &sourceId) override;
 
 private:
-    void handleEditing(const QString &event, const QJsonObject &message);
-
     QWebChannel *m_channel;
     bool m_isConnected = false;
 };

@@ -61,6 +61,11 @@ int main(int count, char **arguments)
             R"(<list><item name="ZUNO Analyzer"><version>1.6.0.0</version><name>setup.exe</name>)"
             R"(<url>https://www.example.com/setup.exe</url></item><item name="Other"/></list>)");
     putFile(folder + u"/page/drawn.json", R"({"event":"drawn"})");
+    putFile(folder + u"/page/moved.json",
+            R"({"event":"pointMoved","lat":46,"lng":6,"point":-1,"done":true})");
+    putFile(folder + u"/page/resized.json", R"({"event":"gateResized","metres":5})");
+    putFile(folder + u"/page/clicked.json",
+            R"({"event":"trackClicked","lat":46,"lng":6,"metresPerPixel":2})");
     putFile(folder + u"/page/picked.json", R"({"event":"picked","index":2147483647})");
     return 0;
 }
