@@ -18,7 +18,7 @@ QString reasonOf(const RewriteResult &result, const QFileInfo &file)
         return InformationWriter::tr("the file is write-protected");
     switch (result.outcome) {
     case RewriteOutcome::NotRewritable:
-        return InformationWriter::tr("the file ends too early");
+        return InformationWriter::tr("the file is damaged, or ends too early");
     case RewriteOutcome::OtherRecording:
         return InformationWriter::tr("the file holds another recording now");
     default:
