@@ -8,6 +8,7 @@
 //   zuno_faults export TARGET lap|session|copy FILE
 //   zuno_faults storm ROOT SECONDS
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -15,6 +16,7 @@
 #include <thread>
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
@@ -76,46 +78,39 @@ int exportTo(const QString &target, const QString &what, const QString &path)
     QWidget window;
     ExportDialogs exports(&window);
     nameTarget(target);
-    if (what == u"copy") {
+    Lap lap(*opened.session);
+    lap.setPoints(opened.session->samples());
+    if (what == u"copy")
         exports.exportSession(opened.session.get());
-    } else if (what == u"session") {
+    else if (what == u"session")
         exports.exportSessionData(opened.session.get());
-    } else {
-        Lap lap(*opened.session);
-        lap.setPoints(opened.session->samples());
+    else
         exports.exportLap(&lap);
-    }
     return QFile::exists(target) ? 0 : 1;
 }
 
-/// Creates, rewrites, replaces, renames and removes recordings in a folder, and moves the folder
-/// itself, as fast as the disk lets it. Returns how many changes there were.
+/// Rewrites, replaces, renames and removes recordings in a folder, and moves the folder itself, as
+/// fast as the disk lets it. Returns how many changes there were.
 int rage(const std::stop_token &stop, const fs::path &folder, const std::string &recording)
 {
     std::mt19937 random(7);
     std::error_code none;
     const fs::path away = folder.string() + " away";
-    const auto write = [](const fs::path &path, std::string_view bytes) {
-        std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
-    };
     int changes = 0;
     for (; !stop.stop_requested(); ++changes) {
         const auto any = [&] { return folder / (std::to_string(random() % 40) + "storm.ra1"); };
-        const fs::path one = any();
-        const auto kind = random() % 1000;
-        if (kind < 5) {
+        const auto kind = random() % 200;
+        if (kind == 0) {
             fs::rename(folder, away, none);
             fs::rename(away, folder, none);
-        } else if (kind < 200) {
-            fs::remove(one, none);
-        } else if (kind < 400) {
-            fs::rename(one, any(), none);
-        } else if (kind < 600) {
-            write(away, recording);
-            fs::rename(away, one, none);
+        } else if (kind < 40) {
+            fs::remove(any(), none);
+        } else if (kind < 80) {
+            fs::rename(any(), any(), none);
         } else {
-            write(one, recording.substr(0, random() % recording.size()));
-            write(one, recording);
+            std::ofstream file(any(), std::ios::binary | std::ios::trunc);
+            file << recording.substr(0, random() % recording.size()) << std::flush;
+            file.seekp(0) << recording;
         }
     }
     return changes;
@@ -128,25 +123,31 @@ double residentMegabytes()
                                           : 0.0;
 }
 
-bool isInStep(const ZunoAnalyzer &window, const QString &folder)
+QStringList recordingsBelow(const QString &folder)
 {
-    QStringList names;
+    QStringList paths;
     QDirIterator files(folder, {u"*.ra1"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
-        names.append(QFileInfo(files.next()).fileName());
+        paths.append(files.next());
+    return paths;
+}
+
+bool isInStep(const ZunoAnalyzer &window, const QString &folder)
+{
+    QStringList names = recordingsBelow(folder);
+    std::transform(names.begin(), names.end(), names.begin(),
+                   [](const QString &path) { return QFileInfo(path).fileName(); });
     names.sort();
     return window.viewedStateMap().keys() == names;
 }
 
 /// Lets the window live for so long; its longest pause in milliseconds.
-qint64 live(
-    qint64 milliseconds, const std::function<bool()> &isOver = [] { return false; })
+qint64 live(qint64 milliseconds)
 {
-    QElapsedTimer all;
-    QElapsedTimer turn;
+    const QDeadlineTimer end(milliseconds);
     qint64 longest = 0;
-    all.start();
-    while (!all.hasExpired(milliseconds) && !isOver()) {
+    QElapsedTimer turn;
+    while (!end.hasExpired()) {
         turn.start();
         QApplication::processEvents(QEventLoop::AllEvents, 5);
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -161,17 +162,13 @@ int rideOutStorm(const Settings &settings, int seconds)
     const QString folder = settings.acquisitionFolder();
     const QString raging = folder + u"/Storm"_s;
     QDir().mkpath(raging);
-    QDirIterator first(folder, {u"*.ra1"_s}, QDir::Files, QDirIterator::Subdirectories);
-    const QString path = first.next();
-    QFile ride(path);
+    QFile ride(recordingsBelow(folder).value(0));
     if (!ride.open(QIODevice::ReadOnly))
         return 2;
     const std::string recording = ride.readAll().toStdString();
-    ride.close();
-
     ZunoAnalyzer window;
     window.show();
-    window.openFile(path);
+    window.openFile(ride.fileName());
     live(500);
     window.findChild<QTreeView *>(u"tw_arbo"_s)->expandAll();
     live(500);
@@ -179,19 +176,17 @@ int rideOutStorm(const Settings &settings, int seconds)
     std::jthread storm([&](const std::stop_token &stop) {
         changes = rage(stop, fs::path(raging.toStdString()), recording);
     });
-    qint64 pause = live(seconds * 250);
+    live(seconds * 250);
     const double before = residentMegabytes();
-    pause = std::max(pause, live(seconds * 750));
+    const qint64 pause = live(seconds * 750);
     const double grown = residentMegabytes() - before;
     storm.request_stop();
     storm.join();
-    QElapsedTimer calm;
-    calm.start();
-    live(10000, [&] { return isInStep(window, folder); });
+    for (int turn = 0; turn < 50 && !isInStep(window, folder); ++turn)
+        live(100);
     const bool inStep = isInStep(window, folder);
-    std::printf("%d changes a second, longest pause %lld ms, %.1f MB more, %s step after %lld ms\n",
-                changes / seconds, static_cast<long long>(pause), grown, inStep ? "in" : "NOT in",
-                static_cast<long long>(calm.elapsed()));
+    std::printf("%d changes a second, longest pause %d ms, %.1f MB more, %s step afterwards\n",
+                changes / seconds, static_cast<int>(pause), grown, inStep ? "in" : "NOT in");
     return inStep && pause < 2000 && grown < 30 ? 0 : 1;
 }
 
