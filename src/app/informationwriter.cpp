@@ -11,6 +11,8 @@ namespace zuno {
 
 namespace {
 
+constexpr qint64 StillShown = 5000; // ms
+
 QString reasonOf(const RewriteResult &result, const QFileInfo &file)
 {
     // The system's words name the whole path again, which the status bar has no room for.
@@ -33,12 +35,12 @@ RewriteResult InformationWriter::write(Session &session, Cause cause)
     RewriteResult result = rewriteSessionFile(session);
     const QString &path = session.filePath();
     if (result.ok()) {
-        m_isTold = false;
+        m_told.clear();
         Q_EMIT written(session);
-    } else if (cause == Cause::Edited || !m_isTold) {
-        m_isTold = true;
-        Q_EMIT failed(tr("%1 was not changed: %2. Changes are kept until the program ends.")
-                          .arg(session.fileName(), reasonOf(result, QFileInfo(path))));
+    } else {
+        tell(tr("%1 was not changed: %2. Changes are kept until the program ends.")
+                 .arg(session.fileName(), reasonOf(result, QFileInfo(path))),
+             cause);
     }
     if (result.wasChanged) {
         Q_EMIT joined(&session,
@@ -46,6 +48,17 @@ RewriteResult InformationWriter::write(Session &session, Cause cause)
                           .arg(session.fileName()));
     }
     return result;
+}
+
+// Notes are written with every key, and the status bar still shows what was told a moment ago.
+void InformationWriter::tell(const QString &message, Cause cause)
+{
+    const bool isNews = m_told != message || m_sinceTold.hasExpired(StillShown);
+    if (!m_told.isEmpty() && !(cause == Cause::Edited && isNews))
+        return;
+    m_told = message;
+    m_sinceTold.start();
+    Q_EMIT failed(message);
 }
 
 } // namespace zuno

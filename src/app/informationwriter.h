@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QString>
 
@@ -22,7 +23,7 @@ public:
     enum class Cause {
         /// The rider looks at the session; only the first failure is told.
         Shown,
-        /// The rider has changed the session; every failure is told.
+        /// The rider has changed the session; every failure is told, but not anew with every key.
         Edited,
     };
 
@@ -40,8 +41,11 @@ Q_SIGNALS:
     void failed(const QString &message);
 
 private:
-    // Whether a failure was told since a file was last written.
-    bool m_isTold = false;
+    void tell(const QString &message, Cause cause);
+
+    // What was told last since a file was written; empty for nothing.
+    QString m_told;
+    QElapsedTimer m_sinceTold;
 };
 
 } // namespace zuno
