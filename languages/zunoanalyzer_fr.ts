@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>This recording holds no front suspension.</source>
-        <translation>Cet enregistrement ne contient pas de suspension avant.</translation>
+        <translation>Cet enregistrement ne contient pas de mesures de la suspension avant.</translation>
     </message>
     <message>
         <source>Rear suspension, mean and range</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>This recording holds no rear suspension.</source>
-        <translation>Cet enregistrement ne contient pas de suspension arrière.</translation>
+        <translation>Cet enregistrement ne contient pas de mesures de la suspension arrière.</translation>
     </message>
     <message>
         <source>Time gap, behind above 0</source>
@@ -66,6 +66,17 @@
     <message>
         <source>s</source>
         <translation>s</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>The manual is not there; it belongs to %1</source>
+        <translation>Le manuel est introuvable&#xa0;; sa place est dans %1</translation>
+    </message>
+    <message>
+        <source>No program opens the manual: %1</source>
+        <translation>Aucun programme n&apos;ouvre le manuel&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -104,7 +115,7 @@
     </message>
     <message>
         <source>no session files: %1</source>
-        <translation>pas des fichiers de session&#xa0;: %1</translation>
+        <translation>fichiers non reconnus&#xa0;: %1</translation>
     </message>
     <message>
         <source>another session has the name: %1</source>
@@ -124,7 +135,7 @@
     </message>
     <message>
         <source>No session files:</source>
-        <translation>Pas des fichiers de session&#xa0;:</translation>
+        <translation>Fichiers non reconnus&#xa0;:</translation>
     </message>
     <message>
         <source>Left out, as another session has the name:</source>
@@ -172,6 +183,11 @@
     <message>
         <source>Offline map: the satellite map refuses the key</source>
         <translation>Carte hors ligne&#xa0;: la carte satellite refuse la clé</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <extracomment>On the sign of the start/finish line.</extracomment>
+        <translation>Départ</translation>
     </message>
 </context>
 <context>
@@ -293,7 +309,7 @@ Si elle a été roulée sur un autre circuit, choisissez la carte de ce circuit 
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
-        <translation>Tous</translation>
+        <translation>Tout</translation>
     </message>
     <message>
         <source>(empty)</source>
@@ -808,6 +824,13 @@ Si elle a été roulée sur un autre circuit, choisissez la carte de ce circuit 
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;a pas pu être créé.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapDraft</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>Le dossier «&#xa0;%1&#xa0;» ne peut pas être créé.</translation>
     </message>
 </context>
 <context>
