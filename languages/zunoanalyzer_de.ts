@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>This recording holds no speed.</source>
-        <translation>Diese Aufzeichnung enthält kein Tempo.</translation>
+        <translation>Diese Aufzeichnung enthält keine Werte des Tempos.</translation>
     </message>
     <message>
         <source>Lean angle, left below 0</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>This recording holds no lean angle.</source>
-        <translation>Diese Aufzeichnung enthält keine Schräglage.</translation>
+        <translation>Diese Aufzeichnung enthält keine Werte der Schräglage.</translation>
     </message>
     <message>
         <source>Acceleration, braking below 0</source>
@@ -37,7 +37,7 @@
     </message>
     <message>
         <source>This recording holds no acceleration.</source>
-        <translation>Diese Aufzeichnung enthält keine Beschleunigung.</translation>
+        <translation>Diese Aufzeichnung enthält keine Werte der Beschleunigung.</translation>
     </message>
     <message>
         <source>Front suspension, mean and range</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>This recording holds no front suspension.</source>
-        <translation>Diese Aufzeichnung enthält keine vordere Federung.</translation>
+        <translation>Diese Aufzeichnung enthält keine Werte der vorderen Federung.</translation>
     </message>
     <message>
         <source>Rear suspension, mean and range</source>
@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>This recording holds no rear suspension.</source>
-        <translation>Diese Aufzeichnung enthält keine hintere Federung.</translation>
+        <translation>Diese Aufzeichnung enthält keine Werte der hinteren Federung.</translation>
     </message>
     <message>
         <source>Time gap, behind above 0</source>
@@ -66,6 +66,17 @@
     <message>
         <source>s</source>
         <translation>s</translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>The manual is not there; it belongs to %1</source>
+        <translation>Das Handbuch ist nicht da; es gehört nach %1</translation>
+    </message>
+    <message>
+        <source>No program opens the manual: %1</source>
+        <translation>Kein Programm kann das Handbuch öffnen: %1</translation>
     </message>
 </context>
 <context>
@@ -173,6 +184,11 @@
         <source>Offline map: the satellite map refuses the key</source>
         <translation>Offline-Karte: die Satellitenkarte lehnt den Schlüssel ab</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <extracomment>On the sign of the start/finish line.</extracomment>
+        <translation>Start</translation>
+    </message>
 </context>
 <context>
     <name>SessionFile</name>
@@ -221,7 +237,7 @@ Wählen Sie mit „Karten“ (Strg+M) eine andere Karte.</translation>
         <source>This session never passes the start/finish line of the map &quot;%1&quot;.
 
 If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
-        <translation>Diese Session überquert nie die Start-/Ziellinie der Karte „%1“.
+        <translation>Diese Session überquert nie die Start-Ziel-Linie der Karte „%1“.
 
 Wurde sie auf einer anderen Strecke gefahren, so wählen Sie deren Karte mit „Karten“ (Strg+M).</translation>
     </message>
@@ -808,6 +824,13 @@ Wurde sie auf einer anderen Strecke gefahren, so wählen Sie deren Karte mit „
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapDraft</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden.</translation>
     </message>
 </context>
 <context>
