@@ -69,6 +69,17 @@
     </message>
 </context>
 <context>
+    <name>Help</name>
+    <message>
+        <source>The manual is not there; it belongs to %1</source>
+        <translation>Il manuale non c&apos;è; dovrebbe trovarsi in %1</translation>
+    </message>
+    <message>
+        <source>No program opens the manual: %1</source>
+        <translation>Nessun programma può aprire il manuale: %1</translation>
+    </message>
+</context>
+<context>
     <name>IdealTimeSearch</name>
     <message>
         <source>it has been removed</source>
@@ -89,7 +100,7 @@
     </message>
     <message>
         <source>%1: it was ridden on &quot;%2&quot;</source>
-        <translation>%1: è stata percorsa su «%2»</translation>
+        <translation>%1: è stata registrata su «%2»</translation>
     </message>
 </context>
 <context>
@@ -108,7 +119,7 @@
     </message>
     <message>
         <source>another session has the name: %1</source>
-        <translation>nome già di un&apos;altra sessione: %1</translation>
+        <translation>con il nome di un&apos;altra sessione: %1</translation>
     </message>
     <message>
         <source>could not be copied: %1</source>
@@ -173,6 +184,11 @@
         <source>Offline map: the satellite map refuses the key</source>
         <translation>Mappa offline: la mappa satellitare rifiuta la chiave</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <extracomment>On the sign of the start/finish line.</extracomment>
+        <translation>Traguardo</translation>
+    </message>
 </context>
 <context>
     <name>SessionFile</name>
@@ -213,7 +229,7 @@ Scegli una mappa con «Mappe» (Ctrl+M) o copia il file di mappa del circuito in
         <source>The map &quot;%1&quot; has no start point, so laps cannot be cut.
 
 Choose another map with &quot;Maps&quot; (Ctrl+M).</source>
-        <translation>La mappa «%1» non ha un punto di partenza, perciò i giri non si possono dividere.
+        <translation>La mappa «%1» non ha un punto di partenza, perciò la sessione non si può dividere in giri.
 
 Scegli un&apos;altra mappa con «Mappe» (Ctrl+M).</translation>
     </message>
@@ -221,9 +237,9 @@ Scegli un&apos;altra mappa con «Mappe» (Ctrl+M).</translation>
         <source>This session never passes the start/finish line of the map &quot;%1&quot;.
 
 If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
-        <translation>Questa sessione non passa mai la linea di partenza/arrivo della mappa «%1».
+        <translation>Questa sessione non passa mai sul traguardo della mappa «%1».
 
-Se è stata percorsa su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).</translation>
+Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).</translation>
     </message>
     <message>
         <source>No map found, please try to select one from the Map configuraton panel</source>
@@ -807,6 +823,13 @@ Se è stata percorsa su un altro circuito, scegli la sua mappa con «Mappe» (Ct
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
+        <translation>Non è stato possibile creare la cartella «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapDraft</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
         <translation>Non è stato possibile creare la cartella «%1».</translation>
     </message>
 </context>
