@@ -69,6 +69,17 @@
     </message>
 </context>
 <context>
+    <name>Help</name>
+    <message>
+        <source>The manual is not there; it belongs to %1</source>
+        <translation>El manual no está; su lugar es %1</translation>
+    </message>
+    <message>
+        <source>No program opens the manual: %1</source>
+        <translation>Ningún programa abre el manual: %1</translation>
+    </message>
+</context>
+<context>
     <name>IdealTimeSearch</name>
     <message>
         <source>it has been removed</source>
@@ -173,6 +184,11 @@
         <source>Offline map: the satellite map refuses the key</source>
         <translation>Mapa sin conexión: el mapa por satélite rechaza la clave</translation>
     </message>
+    <message>
+        <source>Start</source>
+        <extracomment>On the sign of the start/finish line.</extracomment>
+        <translation>Meta</translation>
+    </message>
 </context>
 <context>
     <name>SessionFile</name>
@@ -221,7 +237,7 @@ Elija otro mapa con «Mapas» (Ctrl+M).</translation>
         <source>This session never passes the start/finish line of the map &quot;%1&quot;.
 
 If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+M).</source>
-        <translation>Esta sesión nunca pasa por la línea de salida/meta del mapa «%1».
+        <translation>Esta sesión nunca pasa por la línea de meta del mapa «%1».
 
 Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation>
     </message>
@@ -408,7 +424,7 @@ Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation
     </message>
     <message>
         <source>Delay on the lap %1</source>
-        <translation>Retraso sobre la vuelta %1</translation>
+        <translation>Retraso respecto a la vuelta %1</translation>
     </message>
     <message>
         <source>Ahead on the lap %1 (%2 - %3)</source>
@@ -581,7 +597,7 @@ Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation
     </message>
     <message>
         <source>In best lap</source>
-        <translation>Mejor vuelta</translation>
+        <translation>En mejor vuelta</translation>
     </message>
     <message>
         <source>Difference</source>
@@ -808,6 +824,13 @@ Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>No se pudo crear la carpeta «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapDraft</name>
+    <message>
+        <source>The folder &quot;%1&quot; cannot be made.</source>
+        <translation>No se puede crear la carpeta «%1».</translation>
     </message>
 </context>
 <context>
