@@ -204,7 +204,8 @@ function drawMarkers(lap) {
         if (place === null)
             return;
         const isLast = i === lap.landmarks.length - 1;
-        landmarkMarkers.push(isLast ? drawLandmark(place, "landmarkGreen.png", "Start")
+        landmarkMarkers.push(isLast
+            ? drawLandmark(place, "landmarkGreen.png", window.zunoPage?.texts.start ?? "")
             : drawLandmark(place, "landmark.png", `P${i + 1}`));
     });
     if (options.landmarks === "false")
@@ -494,7 +495,9 @@ async function start() {
 
 window.addEventListener("load", start);
 window.addEventListener("resize", fitLapAgain);
-for (const touch of ["pointerdown", "wheel", "keydown"])
-    window.addEventListener(touch, () => { showsWholeLap = false; }, { capture: true, passive: true });
+for (const touch of ["pointerdown", "wheel", "keydown"]) {
+    window.addEventListener(touch, () => { showsWholeLap = false; },
+        { capture: true, passive: true });
+}
 // A service that does not answer holds the load event back.
 setTimeout(start, ServiceTime);
