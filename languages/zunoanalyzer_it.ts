@@ -187,7 +187,7 @@
     <message>
         <source>Start</source>
         <extracomment>On the sign of the start/finish line.</extracomment>
-        <translation>Traguardo</translation>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
