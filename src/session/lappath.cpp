@@ -5,16 +5,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include <session/trace.h>
 
 namespace zuno {
 
 namespace {
-
-// The sphere that distances are measured on.
-constexpr double MetresPerDegree = 6371007.2 * std::numbers::pi / 180.0;
 
 // Metres. Positions are stored in steps of about half a metre: places nearer than this have no
 // direction from one to the other.
@@ -34,27 +30,6 @@ constexpr double RefinedStep = 4.0;
 
 // Milliseconds without a position that count as a gap; recordings at one a second have none.
 constexpr double GapTime = 1600.0;
-
-class Plane
-{
-public:
-    explicit Plane(const QGeoCoordinate &origin)
-        : m_origin(origin)
-        , m_shrink(std::cos(origin.latitude() * std::numbers::pi / 180.0))
-    {
-    }
-
-    [[nodiscard]] PlaneVector place(const QGeoCoordinate &where) const
-    {
-        const double east = std::remainder(where.longitude() - m_origin.longitude(), 360.0);
-        const double north = where.latitude() - m_origin.latitude();
-        return {east * m_shrink * MetresPerDegree, north * MetresPerDegree};
-    }
-
-private:
-    QGeoCoordinate m_origin;
-    double m_shrink;
-};
 
 bool gotOn(const PathNode &from, const PathNode &to)
 {
@@ -155,17 +130,12 @@ PlaneVector onCurve(const PathNode &a, PlaneVector velocityA, const PathNode &b,
 
 } // namespace
 
-double PlaneVector::length() const
-{
-    return std::sqrt((x * x) + (y * y));
-}
-
-double elapsedTime(const Points &points, std::size_t i)
+double elapsedTime(std::span<const PointAcquisition> points, std::size_t i)
 {
     return static_cast<qint32>(points[i].dataTimeStamp - points.front().dataTimeStamp);
 }
 
-LapPath lapPath(const Points &points, const QGeoCoordinate &origin, Walk walk)
+LapPath lapPath(std::span<const PointAcquisition> points, const QGeoCoordinate &origin, Walk walk)
 {
     const Plane plane(origin);
     const double lastTime = points.empty() ? 0.0 : elapsedTime(points, points.size() - 1);

@@ -4,28 +4,15 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include <QGeoCoordinate>
 
+#include <session/plane.h>
 #include <session/pointacquisition.h>
 
 namespace zuno {
-
-/// A vector in the plane, metres east and north.
-struct PlaneVector
-{
-    double x = 0.0;
-    double y = 0.0;
-
-    friend PlaneVector operator+(PlaneVector a, PlaneVector b) { return {a.x + b.x, a.y + b.y}; }
-    friend PlaneVector operator-(PlaneVector a, PlaneVector b) { return {a.x - b.x, a.y - b.y}; }
-    friend PlaneVector operator*(PlaneVector a, double k) { return {a.x * k, a.y * k}; }
-    /// The scalar product.
-    friend double operator*(PlaneVector a, PlaneVector b) { return (a.x * b.x) + (a.y * b.y); }
-    /// Metres.
-    [[nodiscard]] double length() const;
-};
 
 /// A place on the way of a rider.
 struct PathNode
@@ -49,12 +36,13 @@ using LapPath = std::vector<PathNode>;
 enum class Walk { Forwards, Backwards };
 
 /// Seconds * 1000 from the first of @p points to sample @p i.
-[[nodiscard]] double elapsedTime(const Points &points, std::size_t i);
+[[nodiscard]] double elapsedTime(std::span<const PointAcquisition> points, std::size_t i);
 
 /// The way through @p points in the plane that touches the earth at @p origin; accurate to a few
 /// centimetres over the extent of a circuit. Walked backwards, the last sample comes first and
 /// times count from it.
-[[nodiscard]] LapPath lapPath(const Points &points, const QGeoCoordinate &origin, Walk walk);
+[[nodiscard]] LapPath lapPath(std::span<const PointAcquisition> points,
+                              const QGeoCoordinate &origin, Walk walk);
 
 /// The same path with places between those that are far apart, as they are in recordings with a
 /// position a second: on cubic curves through the places, each with the velocity that the

@@ -1,0 +1,395 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <maps/mapcheck.h>
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include <maps/draftlaps.h>
+#include <maps/outlinepath.h>
+#include <session/trace.h>
+
+namespace zuno {
+
+namespace {
+
+using Kind = MapWarning::Kind;
+
+// The line's number among the gates.
+constexpr int Line = -1;
+
+// The line is met within this many gate sizes, a sector's end within one.
+constexpr double LineReach = 2.0;
+
+// Metres from the outline at which a rider is no more on it, wherever he is heading.
+constexpr double OutlineReach = 60.0;
+
+// Metres that a crossing may be before or behind its gate: a position a second is far from dense.
+constexpr double AlongTolerance = 60.0;
+
+// He who is so many metres beside the others, and at less than this part of their speed, is in the
+// pit lane.
+constexpr double PitOffset = 8.0;
+constexpr double PitSpeed = 0.65;
+
+// Metres over which a heading is taken: positions are stored in steps of half a metre.
+constexpr double HeadingReach = 5.0;
+
+// How many samples away a rider may have been for his heading.
+constexpr std::size_t HeadingSamples = 100;
+
+// Where a lap met a gate, and how.
+struct Crossing
+{
+    int lap = 0;
+    PlaneVector place;
+    PlaneVector heading;
+    // Metres per second.
+    double speed = 0.0;
+    bool isTimed = false;
+};
+
+double median(std::vector<double> values)
+{
+    if (values.empty())
+        return 0.0;
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+// Finds out what is wrong; lives for one call of checkMap.
+class MapChecker
+{
+public:
+    MapChecker(std::span<const PointAcquisition> samples, const MapDraft &draft)
+        : m_samples(samples)
+        , m_draft(draft)
+        , m_plane(draft.start)
+        , m_outline(placesOf(draft.outline))
+        , m_cut(samples, draft)
+    {
+        for (const QGeoCoordinate &point : draft.timingPoints.mid(0, MaximumSectors)) {
+            if (point.isValid())
+                m_gates.push_back(m_plane.place(point));
+        }
+    }
+
+    MapCheck check()
+    {
+        describeLaps();
+        checkLine();
+        if (m_draft.timingPoints.size() > MaximumSectors)
+            warn({Kind::TooManyPoints, MaximumSectors, -1, {}});
+        turnOutline();
+        for (int gate = Line; gate < gateCount(); ++gate)
+            m_along[gate] = alongOf(gate);
+        checkOrder();
+        checkMissed();
+        checkTouching();
+        for (int gate = Line; gate < gateCount(); ++gate)
+            checkPasses(gate);
+        return std::move(m_result);
+    }
+
+private:
+    [[nodiscard]] int gateCount() const { return static_cast<int>(m_gates.size()); }
+    [[nodiscard]] PlaneVector centre(int gate) const
+    {
+        return gate == Line ? PlaneVector {} : m_gates[static_cast<std::size_t>(gate)];
+    }
+    [[nodiscard]] double radius(int gate) const
+    {
+        return (gate == Line ? LineReach : 1.0) * m_draft.gateSize;
+    }
+    // Whether a gate is the last one, and met together with the line.
+    [[nodiscard]] bool isLastOnLine(int gate) const
+    {
+        return gate + 1 == gateCount() && gate > 0 && centre(gate).length() < radius(gate);
+    }
+
+    [[nodiscard]] std::vector<PlaneVector> placesOf(const QList<QGeoCoordinate> &list) const
+    {
+        std::vector<PlaneVector> places;
+        places.reserve(static_cast<std::size_t>(list.size()));
+        for (const QGeoCoordinate &place : list)
+            places.push_back(m_plane.place(place));
+        return places;
+    }
+
+    void warn(const MapWarning &warning) { m_result.warnings.append(warning); }
+
+    void describeLaps()
+    {
+        const LapResults &results = m_cut.results();
+        for (const auto &lap : results.laps) {
+            CheckedLap checked {
+                lap->lapNumber(), lap->lapTime(), lap->distance(), lap->isComplete(), {}};
+            for (int sector = 0; sector < m_cut.map().sectorCount(); ++sector)
+                checked.sectorTimes.append(lap->sectorTime(sector));
+            m_result.laps.push_back(checked);
+        }
+        m_result.length = m_cut.map().length();
+        m_result.idealTime = results.idealTime;
+        const auto best = static_cast<std::size_t>(results.bestLap);
+        if (best < results.laps.size() && results.laps[best]->isComplete())
+            m_result.bestLap = results.bestLap;
+    }
+
+    void checkLine()
+    {
+        const LapList &laps = m_cut.laps();
+        if (laps.empty()) {
+            warn({Kind::NoPass, Line, -1, {}});
+            return;
+        }
+        const bool hasComplete = std::any_of(laps.begin(), laps.end(),
+                                             [](const auto &lap) { return lap->isComplete(); });
+        if (!hasComplete)
+            warn({Kind::NoLapComplete, Line, -1, {}});
+        MapWarning twice {Kind::CountedTwice, Line, -1, {}};
+        for (std::size_t i = 1; i + 1 < laps.size(); ++i) {
+            if (staysInLine(*laps[i]))
+                twice.laps.append(laps[i]->lapNumber());
+        }
+        if (!twice.laps.isEmpty())
+            warn(twice);
+    }
+
+    [[nodiscard]] bool staysInLine(const Lap &lap) const
+    {
+        return std::all_of(lap.points().begin(), lap.points().end(), [this](const auto &point) {
+            const QGeoCoordinate position = positionOf(point);
+            return !position.isValid() || m_plane.place(position).length() <= radius(Line);
+        });
+    }
+
+    // A circuit may be ridden the other way round than its outline was drawn, which cutting does
+    // not mind.
+    void turnOutline()
+    {
+        int sense = 0;
+        for (const Crossing &crossing : crossingsOf(Line)) {
+            const auto spot = m_outline.nearest(crossing.place);
+            if (spot)
+                sense += spot->heading * crossing.heading < 0.0 ? -1 : 1;
+        }
+        if (sense >= 0)
+            return;
+        std::vector<PlaneVector> places = placesOf(m_draft.outline);
+        std::reverse(places.begin(), places.end());
+        m_outline = OutlinePath(std::move(places));
+    }
+
+    // Metres from the line to a gate along the outline; none for a gate that is nowhere near it.
+    [[nodiscard]] std::optional<double> alongOf(int gate) const
+    {
+        if (gate == Line)
+            return 0.0;
+        if (isLastOnLine(gate))
+            return m_outline.length();
+        const auto spot = m_outline.nearest(centre(gate));
+        if (!spot || spot->distance > OutlineReach)
+            return {};
+        return spot->along;
+    }
+
+    void checkOrder()
+    {
+        for (int gate = 1; gate < gateCount() && m_firstLost == gateCount(); ++gate) {
+            const auto before = m_along[gate - 1];
+            const auto here = m_along[gate];
+            if (!before || !here || *here > *before)
+                continue;
+            warn({Kind::PointOutOfOrder, gate, gate - 1, {}});
+            m_firstLost = gate;
+        }
+    }
+
+    // Of the points that a lap misses only the first: until it has come, the others are not
+    // looked for. Points out of order need no second warning.
+    void checkMissed()
+    {
+        std::map<int, QList<int>> missed;
+        for (const auto &lap : m_cut.laps()) {
+            const int gate = lap->crossedSectors();
+            if (lap->isComplete() && gate < std::min(gateCount(), m_firstLost))
+                missed[gate].append(lap->lapNumber());
+        }
+        for (const auto &[gate, laps] : missed)
+            warn({Kind::MissedPoint, gate, -1, laps});
+        const int last = gateCount() - 1;
+        const bool isWhole = m_draft.timingPoints.size() <= MaximumSectors;
+        if (last >= 0 && isWhole && !(centre(last).length() < radius(last)))
+            warn({Kind::LastNotOnLine, last, -1, {}});
+    }
+
+    void checkTouching()
+    {
+        for (int gate = Line; gate < gateCount(); ++gate) {
+            for (int other = std::max(0, gate + 1); other < gateCount(); ++other) {
+                if (isLastOnLine(other) && gate == Line)
+                    continue;
+                const double reach = radius(gate) + radius(other);
+                if ((centre(gate) - centre(other)).length() >= reach)
+                    continue;
+                // Gates on neighbouring pieces of track may touch: each has its own turn.
+                const auto from = m_along[gate];
+                const auto to = m_along[other];
+                if (!from || !to || m_outline.between(*from, *to) < LineReach * reach)
+                    warn({Kind::GatesTouch, gate, other, {}});
+            }
+        }
+    }
+
+    // Where the laps met a gate. A sector's end is looked at in complete laps only: before and
+    // after them, riders come from the paddock.
+    [[nodiscard]] std::vector<Crossing> crossingsOf(int gate) const
+    {
+        std::vector<Crossing> crossings;
+        const LapList &laps = m_cut.laps();
+        for (std::size_t i = 0; i + 1 < laps.size(); ++i) {
+            const Lap &lap = *laps[i];
+            if (gate == Line) {
+                crossings.push_back(crossingAt(lap, lap.points().back().dataTimeStamp));
+            } else if (lap.isComplete()) {
+                if (const auto passing = lap.sectorEnd(gate))
+                    crossings.push_back(crossingAt(lap, passing->timeStamp));
+            }
+        }
+        std::erase_if(crossings, [](const Crossing &crossing) { return !crossing.isTimed; });
+        return crossings;
+    }
+
+    [[nodiscard]] Crossing crossingAt(const Lap &lap, quint32 time) const
+    {
+        Crossing crossing;
+        crossing.lap = lap.lapNumber();
+        const auto after = std::partition_point(
+            m_samples.begin(), m_samples.end(),
+            [time](const PointAcquisition &sample) { return sample.dataTimeStamp <= time; });
+        const auto middle = static_cast<std::size_t>(after - m_samples.begin());
+        const auto here = located(middle, false, {});
+        if (!here)
+            return crossing;
+        crossing.place = placeOf(*here);
+        const auto from = located(middle, false, crossing.place);
+        const auto to = located(middle, true, crossing.place);
+        if (!from || !to)
+            return crossing;
+        const PlaneVector way = placeOf(*to) - placeOf(*from);
+        const double seconds
+            = (m_samples[*to].dataTimeStamp - m_samples[*from].dataTimeStamp) / 1000.0;
+        crossing.isTimed = way.length() > 0.0 && seconds > 0.0;
+        if (crossing.isTimed) {
+            crossing.heading = way * (1.0 / way.length());
+            crossing.speed = way.length() / seconds;
+        }
+        return crossing;
+    }
+
+    // The first sample from @p middle on, or before it, that has a position; with a place, one
+    // that is far enough from it for a heading.
+    [[nodiscard]] std::optional<std::size_t> located(std::size_t middle, bool ahead,
+                                                     std::optional<PlaneVector> place) const
+    {
+        for (std::size_t k = 0; k < HeadingSamples; ++k) {
+            if (ahead ? middle + k >= m_samples.size() : k >= middle)
+                return {};
+            const std::size_t i = ahead ? middle + k : middle - 1 - k;
+            if (!positionOf(m_samples[i]).isValid())
+                continue;
+            if (!place || (placeOf(i) - *place).length() >= HeadingReach)
+                return i;
+        }
+        return {};
+    }
+
+    [[nodiscard]] PlaneVector placeOf(std::size_t sample) const
+    {
+        return m_plane.place(positionOf(m_samples[sample]));
+    }
+
+    void checkPasses(int gate)
+    {
+        const auto along = m_along[gate];
+        if (!along)
+            return;
+        MapWarning second {Kind::SecondTrack, gate, -1, {}};
+        MapWarning otherWay {Kind::OtherWay, gate, -1, {}};
+        std::vector<std::pair<Crossing, double>> onTrack;
+        for (const Crossing &crossing : crossingsOf(gate)) {
+            const auto spot = m_outline.nearest(crossing.place, crossing.heading);
+            if (!spot || spot->distance > OutlineReach)
+                otherWay.laps.append(crossing.lap);
+            else if (m_outline.between(spot->along, *along) > radius(gate) + AlongTolerance)
+                second.laps.append(crossing.lap);
+            else
+                onTrack.emplace_back(crossing, spot->offset);
+        }
+        addPitLane(onTrack, otherWay);
+        if (!second.laps.isEmpty() || hasSecondTrack(gate, *along))
+            warn(second);
+        if (!otherWay.laps.isEmpty())
+            warn(otherWay);
+    }
+
+    static void addPitLane(const std::vector<std::pair<Crossing, double>> &onTrack,
+                           MapWarning &otherWay)
+    {
+        std::vector<double> offsets;
+        std::vector<double> speeds;
+        for (const auto &[crossing, offset] : onTrack) {
+            offsets.push_back(offset);
+            speeds.push_back(crossing.speed);
+        }
+        const double usualOffset = median(std::move(offsets));
+        const double usualSpeed = median(std::move(speeds));
+        for (const auto &[crossing, offset] : onTrack) {
+            if (std::fabs(offset - usualOffset) > PitOffset
+                && crossing.speed < PitSpeed * usualSpeed)
+                otherWay.laps.append(crossing.lap);
+        }
+        std::sort(otherWay.laps.begin(), otherWay.laps.end());
+    }
+
+    // Whether the outline comes through a gate at another place than where the gate stands.
+    [[nodiscard]] bool hasSecondTrack(int gate, double along) const
+    {
+        const auto spots = m_outline.approaches(centre(gate), radius(gate));
+        return std::any_of(spots.begin(), spots.end(), [&](const OutlinePath::Spot &spot) {
+            return m_outline.between(spot.along, along) > radius(gate);
+        });
+    }
+
+    std::span<const PointAcquisition> m_samples;
+    const MapDraft &m_draft;
+    Plane m_plane;
+    OutlinePath m_outline;
+    DraftLaps m_cut;
+    std::vector<PlaneVector> m_gates;
+    // By gate, the line's included.
+    std::map<int, std::optional<double>> m_along;
+    // The first point that comes before the one before it.
+    int m_firstLost = MaximumSectors;
+    MapCheck m_result;
+};
+
+} // namespace
+
+MapCheck checkMap(std::span<const PointAcquisition> samples, const MapDraft &draft)
+{
+    if (!draft.start.isValid()) {
+        MapCheck check;
+        check.length = draft.toMap()->length();
+        check.warnings.append({Kind::NoLine, Line, -1, {}});
+        return check;
+    }
+    return MapChecker(samples, draft).check();
+}
+
+} // namespace zuno
