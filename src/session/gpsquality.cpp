@@ -41,26 +41,30 @@ bool isReachable(const PointAcquisition &from, const PointAcquisition &to)
 
 } // namespace
 
+PositionJudge::Verdict PositionJudge::judge(const PointAcquisition &sample)
+{
+    if (!positionOf(sample).isValid())
+        return Verdict::None;
+    const bool isBelieved = m_firstBad != nullptr && isReachable(*m_firstBad, sample)
+                            && millisecondsBetween(*m_firstBad, sample) >= BelievedAfterMs;
+    if (m_good == nullptr || isReachable(*m_good, sample) || isBelieved) {
+        m_good = &sample;
+        m_firstBad = nullptr;
+        return Verdict::Good;
+    }
+    if (m_firstBad == nullptr || !isReachable(*m_firstBad, sample))
+        m_firstBad = &sample;
+    return Verdict::Jump;
+}
+
 GpsQuality gpsQuality(std::span<const PointAcquisition> samples)
 {
     GpsQuality quality;
-    const PointAcquisition *good = nullptr;
-    const PointAcquisition *firstBad = nullptr;
+    PositionJudge positions;
     for (const PointAcquisition &sample : samples) {
-        if (!positionOf(sample).isValid()) {
-            ++quality.withoutPosition;
-            continue;
-        }
-        const bool isBelieved = firstBad != nullptr && isReachable(*firstBad, sample)
-                                && millisecondsBetween(*firstBad, sample) >= BelievedAfterMs;
-        if (good == nullptr || isReachable(*good, sample) || isBelieved) {
-            good = &sample;
-            firstBad = nullptr;
-            continue;
-        }
-        ++quality.jumps;
-        if (firstBad == nullptr || !isReachable(*firstBad, sample))
-            firstBad = &sample;
+        const PositionJudge::Verdict verdict = positions.judge(sample);
+        quality.withoutPosition += verdict == PositionJudge::Verdict::None ? 1 : 0;
+        quality.jumps += verdict == PositionJudge::Verdict::Jump ? 1 : 0;
     }
     return quality;
 }

@@ -11,6 +11,19 @@
 
 namespace zuno {
 
+/// Tells positions that nobody can have ridden to, sample by sample in time order.
+class PositionJudge
+{
+public:
+    enum class Verdict { Good, None, Jump };
+    /// None for a sample without a position. The samples must stay where they are.
+    [[nodiscard]] Verdict judge(const PointAcquisition &sample);
+
+private:
+    const PointAcquisition *m_good = nullptr;
+    const PointAcquisition *m_firstBad = nullptr;
+};
+
 /// How many samples of a recording do not say where the motorcycle was, which is why a lap may be
 /// missing.
 struct GpsQuality

@@ -1,0 +1,325 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <maps/gatechoice.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace zuno {
+
+namespace {
+
+// The radius of a straight's bends in metres, as a part of the circuit's length: what is straight
+// on a large circuit does not fit on a small one.
+constexpr double BendPart = 1.0 / 12.0;
+constexpr double LeastBend = 60.0;
+constexpr double MostBend = 250.0;
+
+// Metres, and as a part of the circuit.
+constexpr double LeastStraight = 32.0;
+constexpr double LeastStraightPart = 0.02;
+
+// The line may be moved this part of a straight away from its middle to where a gate has room.
+constexpr double MovedPart = 0.35;
+
+// What a straight's speed counts for when a gate has no room there.
+constexpr double NoRoom = 0.5;
+
+// Metres: gates are made for the riders and receivers of other days, too.
+constexpr double UsualGate = 12.0;
+constexpr double LeastGate = 3.0;
+constexpr double MostGate = 40.0;
+
+// Metres that a pass may be wider than any yet, and a neighbour nearer.
+constexpr double Margin = 1.0;
+
+// The line is met within this many gate sizes, and at most once in so many samples.
+constexpr double LineReach = 2.0;
+constexpr double CoolDown = 10.0;
+
+constexpr std::size_t LeastPoints = 2;
+constexpr std::size_t MostPoints = 5;
+
+// How far apart timing points are: a part of the circuit, and gate sizes.
+constexpr double ApartPart = 0.1;
+constexpr double ApartGates = 5.0;
+
+// A speed peak stands out by this part of its speed.
+constexpr double PeakPart = 0.06;
+
+struct Straight
+{
+    std::size_t first = 0;
+    std::size_t count = 0;
+    double speed = 0.0;
+};
+
+// Metres within which the size of a gate may be for the line to work at a station.
+struct Room
+{
+    double least = 0.0;
+    double most = 0.0;
+    [[nodiscard]] bool isEnough() const { return least <= most; }
+};
+
+Room roomAt(const Circuit &circuit, std::size_t i)
+{
+    const Station &station = circuit.at(i);
+    Room room;
+    room.least
+        = std::max({LeastGate, (station.need + Margin) / LineReach, station.spread + Margin});
+    room.most = std::min(MostGate, (circuit.clearance(i) - Margin) / LineReach);
+    // He who is still inside when the line can be met again is counted twice.
+    const double left = station.slowest * CoolDown * circuit.ride().interval();
+    room.most = std::min(room.most, std::max(room.least, 0.8 * left / LineReach));
+    return room;
+}
+
+std::vector<Straight> straightsOf(const Circuit &circuit)
+{
+    const double bend = std::clamp(BendPart * circuit.length(), LeastBend, MostBend);
+    const auto isStraight = [&](std::size_t i) { return circuit.at(i).curvature * bend < 1.0; };
+    std::size_t begin = 0;
+    while (begin < circuit.size() && isStraight(begin))
+        ++begin;
+    std::vector<Straight> straights;
+    if (begin == circuit.size())
+        return straights;
+    const double least = std::max(LeastStraight, LeastStraightPart * circuit.length());
+    Straight straight;
+    for (std::size_t k = 0; k <= circuit.size(); ++k) {
+        const std::size_t i = begin + k;
+        if (k < circuit.size() && isStraight(i)) {
+            if (straight.count++ == 0)
+                straight = {i % circuit.size(), 1, 0.0};
+            straight.speed = std::max(straight.speed, circuit.at(i).speed);
+            continue;
+        }
+        if (static_cast<double>(straight.count) * circuit.spacing() >= least)
+            straights.push_back(straight);
+        straight = {};
+    }
+    return straights;
+}
+
+int mostLaps(const Circuit &circuit)
+{
+    int most = 0;
+    for (std::size_t i = 0; i < circuit.size(); ++i)
+        most = std::max(most, circuit.at(i).laps);
+    return most;
+}
+
+// What a lap less counts: all with few of them, hardly anything with many.
+double lapsWorth(int laps, int most)
+{
+    if (laps <= 0)
+        return 0.0;
+    const double lost = static_cast<double>(most - laps) / most;
+    return std::max(0.01, 1.0 - (2.0 * lost * lost));
+}
+
+struct Choice
+{
+    std::size_t station = 0;
+    double worth = 0.0;
+};
+
+Choice choiceOn(const Circuit &circuit, const Straight &straight, int most)
+{
+    const std::size_t middle = straight.first + (straight.count / 2);
+    const auto reach
+        = static_cast<std::size_t>(MovedPart * static_cast<double>(straight.count)) + 1;
+    Choice best {middle % circuit.size(), 0.0};
+    for (std::size_t k = 0; k < 2 * reach; ++k) {
+        const std::size_t away = (k + 1) / 2;
+        const std::size_t i
+            = (k % 2 == 0 ? middle + away : middle + circuit.size() - away) % circuit.size();
+        const double laps = lapsWorth(circuit.at(i).laps, most);
+        if (laps * straight.speed <= best.worth)
+            continue;
+        const double worth = straight.speed * laps * (roomAt(circuit, i).isEnough() ? 1.0 : NoRoom);
+        if (worth > 1.001 * best.worth)
+            best = {i, worth};
+    }
+    return best;
+}
+
+// Whether a station may hold a timing point with gates of that size.
+bool fits(const Circuit &circuit, std::size_t i, double size)
+{
+    const Station &station = circuit.at(i);
+    return !station.passes.empty() && station.usualNeed + Margin <= size
+           && size + Margin <= circuit.clearance(i);
+}
+
+// Chooses timing points for one line and one gate size.
+class PointChooser
+{
+public:
+    PointChooser(const Circuit &circuit, std::size_t line, double size)
+        : m_circuit(circuit)
+        , m_line(line)
+        , m_size(size)
+    {
+        const double seconds = (CoolDown + 3.0) * circuit.ride().interval();
+        m_seconds = seconds;
+        for (std::size_t k = 0; k < circuit.size(); ++k)
+            m_fits.push_back(fits(circuit, line + k, size));
+    }
+
+    std::vector<std::size_t> choose()
+    {
+        for (const std::size_t k : peaks()) {
+            if (m_chosen.size() < MostPoints && m_fits[k] && isApart(k))
+                m_chosen.push_back(k);
+        }
+        while (m_chosen.size() < LeastPoints && addEvenly()) {}
+        std::sort(m_chosen.begin(), m_chosen.end());
+        for (std::size_t &k : m_chosen)
+            k = (m_line + k) % m_circuit.size();
+        return m_chosen;
+    }
+
+private:
+    [[nodiscard]] double speed(std::size_t k) const { return m_circuit.at(m_line + k).speed; }
+
+    [[nodiscard]] bool isApart(std::size_t k) const
+    {
+        const double gates = ApartGates * m_size;
+        const auto isFar = [&](std::size_t other) {
+            const double metres = m_circuit.between(k, other);
+            const double slower = std::max(1.0, std::max(speed(k), speed(other)));
+            return metres >= std::max(ApartPart * m_circuit.length(), gates)
+                   && metres / slower >= m_seconds;
+        };
+        return isFar(0) && std::all_of(m_chosen.begin(), m_chosen.end(), isFar);
+    }
+
+    // Stations (from the line on) where the speed peaks, the fastest first.
+    [[nodiscard]] std::vector<std::size_t> peaks() const
+    {
+        std::vector<std::size_t> found;
+        std::size_t top = 0;
+        double low = speed(0);
+        bool isRising = false;
+        for (std::size_t k = 1; k < m_circuit.size(); ++k) {
+            const double here = speed(k);
+            if (isRising) {
+                if (here > speed(top))
+                    top = k;
+                if (here < (1.0 - PeakPart) * speed(top)) {
+                    found.push_back(top);
+                    isRising = false;
+                    low = here;
+                }
+            } else {
+                low = std::min(low, here);
+                if (here * (1.0 - PeakPart) > low) {
+                    isRising = true;
+                    top = k;
+                }
+            }
+        }
+        std::stable_sort(found.begin(), found.end(),
+                         [this](std::size_t a, std::size_t b) { return speed(a) > speed(b); });
+        // A gate may find room a little before the peak only.
+        for (std::size_t &k : found) {
+            for (std::size_t back = 0; back < 6 && back < k; ++back) {
+                if (m_fits[k - back]) {
+                    k -= back;
+                    break;
+                }
+            }
+        }
+        return found;
+    }
+
+    // Into the longest way without a point, as near to its middle as there is room.
+    bool addEvenly()
+    {
+        std::vector<std::size_t> ends {0, m_circuit.size()};
+        ends.insert(ends.end(), m_chosen.begin(), m_chosen.end());
+        std::sort(ends.begin(), ends.end());
+        std::size_t from = 0;
+        for (std::size_t i = 1; i + 1 < ends.size(); ++i) {
+            if (ends[i + 1] - ends[i] > ends[from + 1] - ends[from])
+                from = i;
+        }
+        // A third of the way when it is the whole circuit, so that another fits.
+        const std::size_t way = ends[from + 1] - ends[from];
+        const std::size_t wish = ends[from] + (m_chosen.empty() ? way / 3 : way / 2);
+        std::size_t best = m_circuit.size();
+        const auto distance = [wish](std::size_t k) { return k > wish ? k - wish : wish - k; };
+        for (std::size_t k = 1; k < m_circuit.size(); ++k) {
+            if (m_fits[k] && isApart(k)
+                && (best == m_circuit.size() || distance(k) < distance(best)))
+                best = k;
+        }
+        if (best == m_circuit.size())
+            return false;
+        m_chosen.push_back(best);
+        return true;
+    }
+
+    const Circuit &m_circuit;
+    std::size_t m_line;
+    double m_size;
+    double m_seconds = 0.0;
+    std::vector<bool> m_fits;
+    // Counted from the line on.
+    std::vector<std::size_t> m_chosen;
+};
+
+} // namespace
+
+std::vector<std::size_t> lineChoices(const Circuit &circuit)
+{
+    const int most = mostLaps(circuit);
+    std::vector<Choice> choices;
+    for (const Straight &straight : straightsOf(circuit))
+        choices.push_back(choiceOn(circuit, straight, most));
+    // Last, and on circuits without straights: wherever it is fast.
+    Choice fastest;
+    for (std::size_t i = 0; i < circuit.size(); ++i) {
+        const Station &station = circuit.at(i);
+        const double worth = station.speed * lapsWorth(station.laps, most) * NoRoom * NoRoom;
+        if (worth > fastest.worth)
+            fastest = {i, worth};
+    }
+    choices.push_back(fastest);
+    std::erase_if(choices, [](const Choice &choice) { return choice.worth <= 0.0; });
+    std::stable_sort(choices.begin(), choices.end(),
+                     [](const Choice &a, const Choice &b) { return a.worth > b.worth; });
+    std::vector<std::size_t> stations;
+    for (const Choice &choice : choices)
+        stations.push_back(choice.station);
+    return stations;
+}
+
+GateChoice chooseGates(const Circuit &circuit, std::size_t line)
+{
+    const Room room = roomAt(circuit, line);
+    const double most = std::max(room.least, room.most);
+    std::vector<double> needs;
+    for (std::size_t i = 0; i < circuit.size(); ++i)
+        needs.push_back(circuit.at(i).usualNeed);
+    const auto usual = needs.begin() + static_cast<std::ptrdiff_t>(needs.size() / 2);
+    std::nth_element(needs.begin(), usual, needs.end());
+    const double wish = std::max(UsualGate, 1.3 * (*usual + Margin));
+    GateChoice best;
+    // Smaller where the track's pieces are near each other, larger where the samples are not.
+    for (const double factor : std::array {1.0, 0.8, 0.65, 0.5, 1.3, 0.4, 1.6}) {
+        const double size = std::clamp(factor * wish, room.least, most);
+        GateChoice choice {size, PointChooser(circuit, line, size).choose()};
+        if (best.size == 0.0 || choice.points.size() > best.points.size())
+            best = std::move(choice);
+        if (best.points.size() >= LeastPoints)
+            break;
+    }
+    return best;
+}
+
+} // namespace zuno
