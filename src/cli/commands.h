@@ -21,7 +21,10 @@ struct Command
 
 int decode(const QStringList &arguments);
 int laps(const QStringList &arguments);
+/// Also the way to the two commands of two words, "map new" and "map check".
 int map(const QStringList &arguments);
+int mapNew(const QStringList &arguments);
+int mapCheck(const QStringList &arguments);
 int csv(const QStringList &arguments);
 int payload(const QStringList &arguments);
 int set(const QStringList &arguments);

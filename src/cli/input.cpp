@@ -4,6 +4,7 @@
 #include <cli/input.h>
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <app/settings.h>
 #include <cli/console.h>
@@ -25,12 +26,34 @@ QString mapsFolder(const CommandLine &line)
 
 } // namespace
 
+QString placeText(const QGeoCoordinate &place)
+{
+    return place.isValid() ? QStringLiteral("%1, %2")
+                                 .arg(place.latitude(), 0, 'f', 6)
+                                 .arg(place.longitude(), 0, 'f', 6)
+                           : QStringLiteral("none");
+}
+
 std::unique_ptr<Session> openReported(const QString &path)
 {
     OpenedSession opened = openSession(path);
     if (!opened.session)
         printFileError(path, describe(opened.error));
     return std::move(opened.session);
+}
+
+std::unique_ptr<Map> mapReported(const QString &path, const QString &folder)
+{
+    const QFileInfo file(path);
+    if (!file.isFile() || !file.isReadable()) {
+        printFileError(path, QStringLiteral("cannot be read"));
+        return {};
+    }
+    const QString root = folder.isEmpty() ? file.absolutePath() : QDir(folder).absolutePath();
+    std::unique_ptr<Map> map = readMapFile(file.absoluteFilePath(), root);
+    if (!map)
+        printFileError(path, QStringLiteral("is no map file"));
+    return map;
 }
 
 void addMapOptions(CommandLine &line)

@@ -22,6 +22,13 @@ struct DisplayedSession
     std::unique_ptr<Session> session;
 };
 
+/// A place for people, "46.100000, 6.200000"; "none" for an invalid one.
+[[nodiscard]] QString placeText(const QGeoCoordinate &place);
+
+/// The map of a file, its name the path without @p folder (without one, the file's own); nothing,
+/// and the reason reported, when it is none.
+[[nodiscard]] std::unique_ptr<Map> mapReported(const QString &path, const QString &folder);
+
 /// Adds the options --maps and --map.
 void addMapOptions(CommandLine &line);
 

@@ -3,11 +3,8 @@
 
 #include <cli/commands.h>
 #include <cli/console.h>
-#include <maps/mapfile.h>
+#include <cli/input.h>
 #include <session/jsonwriter.h>
-
-#include <QDir>
-#include <QFileInfo>
 
 namespace zuno::cli {
 
@@ -89,14 +86,6 @@ QByteArray asJson(const Map &map)
     return json.text() + '\n';
 }
 
-QString placeText(const QGeoCoordinate &place)
-{
-    return place.isValid() ? QStringLiteral("%1, %2")
-                                 .arg(place.latitude(), 0, 'f', 6)
-                                 .arg(place.longitude(), 0, 'f', 6)
-                           : QStringLiteral("none");
-}
-
 QByteArray asList(const Map &map)
 {
     TextList list;
@@ -120,7 +109,15 @@ QByteArray asList(const Map &map)
 
 int map(const QStringList &arguments)
 {
-    CommandLine line(arguments, QStringLiteral("Shows what a map file says."));
+    const QString verb = arguments.value(1);
+    if (verb == u"new")
+        return mapNew(QStringList {QStringLiteral("map new")} + arguments.mid(2));
+    if (verb == u"check")
+        return mapCheck(QStringList {QStringLiteral("map check")} + arguments.mid(2));
+    CommandLine line(arguments,
+                     QStringLiteral("Shows what a map file says. \"zuno map new\" makes a map of "
+                                    "a session, \"zuno map check\" tells what a map makes of "
+                                    "sessions; each has its own --help."));
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("A map file."));
     line.addValue({QStringLiteral("maps")}, QStringLiteral("DIR"),
                   QStringLiteral("The maps folder, which the map's name leaves out (default: the "
@@ -128,19 +125,10 @@ int map(const QStringList &arguments)
     line.addFlag(QStringLiteral("json"), QStringLiteral("Writes JSON instead of a list."));
     if (const auto status = line.parse(1, 1))
         return *status;
-    const QFileInfo file(line.argument(0));
-    const QString folder = line.isSet(QStringLiteral("maps"))
-                               ? QDir(line.value(QStringLiteral("maps"))).absolutePath()
-                               : file.absolutePath();
-    if (!file.isFile() || !file.isReadable()) {
-        printFileError(line.argument(0), QStringLiteral("cannot be read"));
+    const std::unique_ptr<Map> map
+        = mapReported(line.argument(0), line.value(QStringLiteral("maps")));
+    if (!map)
         return FileFailed;
-    }
-    const std::unique_ptr<Map> map = readMapFile(file.absoluteFilePath(), folder);
-    if (!map) {
-        printFileError(line.argument(0), QStringLiteral("is no map file"));
-        return FileFailed;
-    }
     printOut(line.isSet(QStringLiteral("json")) ? asJson(*map) : asList(*map));
     return Success;
 }
