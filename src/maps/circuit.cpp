@@ -143,6 +143,8 @@ void Circuit::measure(Station &station) const
     station.spread = quantile(offsets, 1.0);
     station.need = quantile(needs, 1.0);
     station.usualNeed = quantile(needs, 0.8);
+    for (const Pass &pass : passes)
+        station.error = std::max(station.error, m_ride->projectionError(pass, station.place));
     for (std::size_t i = 1; i < passes.size(); ++i) {
         const double driven = passes[i].driven - passes[i - 1].driven;
         station.laps += std::fabs(driven - m_length) < LapTolerance * m_length ? 1 : 0;

@@ -25,6 +25,8 @@ struct Station
     double spread = 0.0;
     double need = 0.0;
     double usualNeed = 0.0;
+    /// Milliseconds that the lap times may differ from those of a line across the track.
+    double error = 0.0;
     /// Radians per metre, without sign.
     double curvature = 0.0;
     /// How many times the circuit was ridden from here to here.

@@ -24,8 +24,19 @@ constexpr double LeastStraightPart = 0.02;
 // The line may be moved this part of a straight away from its middle to where a gate has room.
 constexpr double MovedPart = 0.35;
 
-// What a straight's speed counts for when a gate has no room there.
+// And this part for times that are less sensitive to how the line is passed: a whole such part
+// away counts as so many milliseconds.
+constexpr double FinePart = 0.15;
+constexpr double FineCost = 8.0;
+
+// What a straight's speed counts for when a gate has no room there, and with a smaller gate than
+// usual.
 constexpr double NoRoom = 0.5;
+constexpr double LittleRoom = 0.85;
+
+// Metres per second, and as a part of the circuit's: he who passed no faster was in the pit lane.
+constexpr double PitSpeed = 18.0;
+constexpr double PitPart = 0.6;
 
 // Metres: gates are made for the riders and receivers of other days, too.
 constexpr double UsualGate = 12.0;
@@ -38,6 +49,7 @@ constexpr double Margin = 1.0;
 // The line is met within this many gate sizes, and at most once in so many samples.
 constexpr double LineReach = 2.0;
 constexpr double CoolDown = 10.0;
+constexpr double CoolDownPart = 0.85;
 
 constexpr std::size_t LeastPoints = 2;
 constexpr std::size_t MostPoints = 5;
@@ -73,7 +85,7 @@ Room roomAt(const Circuit &circuit, std::size_t i)
     room.most = std::min(MostGate, (circuit.clearance(i) - Margin) / LineReach);
     // He who is still inside when the line can be met again is counted twice.
     const double left = station.slowest * CoolDown * circuit.ride().interval();
-    room.most = std::min(room.most, std::max(room.least, 0.8 * left / LineReach));
+    room.most = std::min(room.most, CoolDownPart * left / LineReach);
     return room;
 }
 
@@ -112,6 +124,19 @@ int mostLaps(const Circuit &circuit)
     return most;
 }
 
+double meanSpeed(const Circuit &circuit)
+{
+    double seconds = 0.0;
+    double metres = 0.0;
+    for (std::size_t i = 0; i < circuit.size(); ++i) {
+        if (circuit.at(i).speed > 0.0) {
+            metres += circuit.spacing();
+            seconds += circuit.spacing() / circuit.at(i).speed;
+        }
+    }
+    return seconds > 0.0 ? metres / seconds : 0.0;
+}
+
 // What a lap less counts: all with few of them, hardly anything with many.
 double lapsWorth(int laps, int most)
 {
@@ -127,6 +152,35 @@ struct Choice
     double worth = 0.0;
 };
 
+// What a place for the line counts for the room that its gate has.
+double roomWorth(const Circuit &circuit, std::size_t i)
+{
+    const Room room = roomAt(circuit, i);
+    if (!room.isEnough())
+        return NoRoom;
+    const double fit = std::min(room.most / UsualGate, UsualGate / room.least);
+    return LittleRoom + ((1.0 - LittleRoom) * std::min(1.0, fit));
+}
+
+// The station a little away at which the times are the least sensitive.
+std::size_t refinedChoice(const Circuit &circuit, const Straight &straight, std::size_t i)
+{
+    const auto reach = static_cast<std::size_t>(FinePart * static_cast<double>(straight.count)) + 1;
+    const double worth = roomWorth(circuit, i);
+    const auto cost = [&](std::size_t station) {
+        return circuit.at(station).error
+               + (FineCost * circuit.between(station % circuit.size(), i)
+                  / (circuit.spacing() * static_cast<double>(reach)));
+    };
+    std::size_t best = i;
+    for (std::size_t k = i + circuit.size() - reach; k <= i + circuit.size() + reach; ++k) {
+        if (circuit.at(k).laps >= circuit.at(i).laps && cost(k) < cost(best)
+            && roomWorth(circuit, k % circuit.size()) >= 0.98 * worth)
+            best = k % circuit.size();
+    }
+    return best;
+}
+
 Choice choiceOn(const Circuit &circuit, const Straight &straight, int most)
 {
     const std::size_t middle = straight.first + (straight.count / 2);
@@ -140,18 +194,43 @@ Choice choiceOn(const Circuit &circuit, const Straight &straight, int most)
         const double laps = lapsWorth(circuit.at(i).laps, most);
         if (laps * straight.speed <= best.worth)
             continue;
-        const double worth = straight.speed * laps * (roomAt(circuit, i).isEnough() ? 1.0 : NoRoom);
+        const double worth = straight.speed * laps * roomWorth(circuit, i);
         if (worth > 1.001 * best.worth)
             best = {i, worth};
     }
+    best.station = refinedChoice(circuit, straight, best.station);
     return best;
 }
 
+// Whose passes a gate must hold: positions may have been lost in a few.
+enum class Passes { All, Most };
+
+// Whether every lap from line to line passes a station.
+bool isPassedByAll(const Circuit &circuit, std::size_t line, std::size_t i)
+{
+    const std::vector<Pass> &ends = circuit.at(line).passes;
+    const std::vector<Pass> &passes = circuit.at(i).passes;
+    for (std::size_t k = 1; k < ends.size(); ++k) {
+        const double from = ends[k - 1].driven;
+        const double to = ends[k].driven;
+        if (to - from > 1.1 * circuit.length())
+            continue;
+        const auto pass
+            = std::find_if(passes.begin(), passes.end(), [from, to](const Pass &candidate) {
+                  return candidate.driven > from && candidate.driven < to;
+              });
+        if (pass == passes.end())
+            return false;
+    }
+    return true;
+}
+
 // Whether a station may hold a timing point with gates of that size.
-bool fits(const Circuit &circuit, std::size_t i, double size)
+bool fits(const Circuit &circuit, std::size_t i, double size, Passes passes)
 {
     const Station &station = circuit.at(i);
-    return !station.passes.empty() && station.usualNeed + Margin <= size
+    const double need = passes == Passes::All ? station.need : station.usualNeed;
+    return !station.passes.empty() && need + Margin <= size
            && size + Margin <= circuit.clearance(i);
 }
 
@@ -159,15 +238,15 @@ bool fits(const Circuit &circuit, std::size_t i, double size)
 class PointChooser
 {
 public:
-    PointChooser(const Circuit &circuit, std::size_t line, double size)
+    PointChooser(const Circuit &circuit, std::size_t line, double size, Passes passes)
         : m_circuit(circuit)
         , m_line(line)
         , m_size(size)
+        , m_seconds((CoolDown + 3.0) * circuit.ride().interval())
     {
-        const double seconds = (CoolDown + 3.0) * circuit.ride().interval();
-        m_seconds = seconds;
         for (std::size_t k = 0; k < circuit.size(); ++k)
-            m_fits.push_back(fits(circuit, line + k, size));
+            m_fits.push_back(fits(circuit, line + k, size, passes)
+                             && (passes == Passes::Most || isPassedByAll(circuit, line, line + k)));
     }
 
     std::vector<std::size_t> choose()
@@ -267,7 +346,8 @@ private:
     const Circuit &m_circuit;
     std::size_t m_line;
     double m_size;
-    double m_seconds = 0.0;
+    // Between two points, which must not be met at once.
+    double m_seconds;
     std::vector<bool> m_fits;
     // Counted from the line on.
     std::vector<std::size_t> m_chosen;
@@ -290,7 +370,10 @@ std::vector<std::size_t> lineChoices(const Circuit &circuit)
             fastest = {i, worth};
     }
     choices.push_back(fastest);
-    std::erase_if(choices, [](const Choice &choice) { return choice.worth <= 0.0; });
+    const double pitSpeed = std::min(PitSpeed, PitPart * meanSpeed(circuit));
+    std::erase_if(choices, [&](const Choice &choice) {
+        return choice.worth <= 0.0 || circuit.at(choice.station).speed < pitSpeed;
+    });
     std::stable_sort(choices.begin(), choices.end(),
                      [](const Choice &a, const Choice &b) { return a.worth > b.worth; });
     std::vector<std::size_t> stations;
@@ -299,7 +382,7 @@ std::vector<std::size_t> lineChoices(const Circuit &circuit)
     return stations;
 }
 
-GateChoice chooseGates(const Circuit &circuit, std::size_t line)
+GateChoice chooseGates(const Circuit &circuit, std::size_t line, double part)
 {
     const Room room = roomAt(circuit, line);
     const double most = std::max(room.least, room.most);
@@ -311,13 +394,16 @@ GateChoice chooseGates(const Circuit &circuit, std::size_t line)
     const double wish = std::max(UsualGate, 1.3 * (*usual + Margin));
     GateChoice best;
     // Smaller where the track's pieces are near each other, larger where the samples are not.
-    for (const double factor : std::array {1.0, 0.8, 0.65, 0.5, 1.3, 0.4, 1.6}) {
-        const double size = std::clamp(factor * wish, room.least, most);
-        GateChoice choice {size, PointChooser(circuit, line, size).choose()};
-        if (best.size == 0.0 || choice.points.size() > best.points.size())
-            best = std::move(choice);
-        if (best.points.size() >= LeastPoints)
-            break;
+    for (const Passes passes : {Passes::All, Passes::Most}) {
+        for (const double factor : std::array {1.0, 0.8, 0.65, 0.5, 1.3, 0.4, 1.6}) {
+            const double size
+                = std::max(LeastGate, part * std::clamp(factor * wish, room.least, most));
+            GateChoice choice {size, PointChooser(circuit, line, size, passes).choose()};
+            if (best.size == 0.0 || choice.points.size() > best.points.size())
+                best = std::move(choice);
+            if (best.points.size() >= LeastPoints)
+                return best;
+        }
     }
     return best;
 }

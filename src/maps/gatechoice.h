@@ -24,7 +24,8 @@ struct GateChoice
 };
 
 /// A gate size that every pass of the line fits in and that keeps clear of the neighbours, and two
-/// to five timing points where the speed peaks, otherwise evenly.
-[[nodiscard]] GateChoice chooseGates(const Circuit &circuit, std::size_t line);
+/// to five timing points where the speed peaks, otherwise evenly. The size is @p part of that, for
+/// where the positions are so poor that no size does both.
+[[nodiscard]] GateChoice chooseGates(const Circuit &circuit, std::size_t line, double part);
 
 } // namespace zuno

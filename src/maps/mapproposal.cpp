@@ -27,11 +27,18 @@ constexpr double BlendReach = 100.0;
 // A recording with fewer positions says nothing.
 constexpr std::size_t LeastPositions = 20;
 
-// Metres; who stands about does not come so far.
+// Metres, at so many metres per second; who stands about or pushes does not come so far.
 constexpr double LeastWay = 150.0;
+constexpr double LeastSpeed = 4.0;
 
 // How many lines are tried before the best of them is taken.
 constexpr std::size_t TriedLines = 4;
+
+// And how large their gates are tried to be.
+constexpr double GateParts[] = {1.0, 0.7, 0.5};
+
+// A later one must be better by so much; without a fault nothing else is tried.
+constexpr double BetterBy = 1.05;
 
 double median(std::vector<double> values)
 {
@@ -157,10 +164,10 @@ QList<QGeoCoordinate> roughOutline(const Circuit &circuit, std::size_t line)
 }
 
 MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit &circuit,
-                       std::size_t line)
+                       std::size_t line, double gatePart)
 {
     const Plane &plane = circuit.ride().plane();
-    const GateChoice gates = chooseGates(circuit, line);
+    const GateChoice gates = chooseGates(circuit, line, gatePart);
     MapProposal proposal;
     MapDraft &draft = proposal.draft;
     draft.start = plane.coordinate(circuit.at(line).place);
@@ -209,7 +216,7 @@ MapProposal proposeMap(std::span<const PointAcquisition> samples)
         best.reason = NoProposal::NoPositions;
         return best;
     }
-    if (ride.length() < LeastWay) {
+    if (ride.riddenLength(LeastSpeed) < LeastWay) {
         best.reason = NoProposal::NoMovement;
         return best;
     }
@@ -221,17 +228,19 @@ MapProposal proposeMap(std::span<const PointAcquisition> samples)
     lines.resize(std::min(lines.size(), TriedLines));
     double bestWorth = 0.0;
     for (const std::size_t line : lines) {
-        MapProposal proposal = proposalAt(samples, circuit, line);
-        if (proposal.reason != NoProposal::None)
-            continue;
-        const double faults = faultsOf(checkMap(samples, proposal.draft));
-        const double worth = static_cast<double>(proposal.laps.size()) / (1.0 + faults);
-        if (best.reason != NoProposal::None || worth > 1.3 * bestWorth) {
-            best = std::move(proposal);
-            bestWorth = worth;
+        for (const double part : GateParts) {
+            MapProposal proposal = proposalAt(samples, circuit, line, part);
+            if (proposal.reason != NoProposal::None)
+                continue;
+            const double faults = faultsOf(checkMap(samples, proposal.draft));
+            const double worth = static_cast<double>(proposal.laps.size()) / (1.0 + faults);
+            if (worth > BetterBy * bestWorth) {
+                best = std::move(proposal);
+                bestWorth = worth;
+            }
+            if (faults == 0.0)
+                return best;
         }
-        if (faults < 0.5)
-            break;
     }
     return best;
 }

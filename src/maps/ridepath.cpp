@@ -213,4 +213,31 @@ std::vector<Pass> RidePath::passes(PlaneVector place, PlaneVector heading, doubl
     return found;
 }
 
+double RidePath::projectionError(const Pass &pass, PlaneVector place) const
+{
+    const auto after
+        = std::partition_point(m_coarse.begin(), m_coarse.end(),
+                               [&](const PathNode &node) { return node.time <= pass.time; });
+    const auto distance = [place](const PathNode &node) { return (node.place - place).length(); };
+    if (after == m_coarse.begin() || after == m_coarse.end())
+        return 0.0;
+    const auto nearest = distance(*after) < distance(*(after - 1)) ? after : after - 1;
+    const auto next = nearest + 1;
+    if (next == m_coarse.end())
+        return 0.0;
+    const PlaneVector step = next->place - nearest->place;
+    const double part = ((place - nearest->place) * step) / (step * step);
+    return std::fabs(nearest->time + (part * (next->time - nearest->time)) - pass.time);
+}
+
+double RidePath::riddenLength(double leastSpeed) const
+{
+    double ridden = 0.0;
+    for (std::size_t i = 1; i < m_path.size(); ++i) {
+        if (speedAt(i) >= leastSpeed)
+            ridden += m_path[i].driven - m_path[i - 1].driven;
+    }
+    return ridden;
+}
+
 } // namespace zuno

@@ -72,6 +72,11 @@ public:
     /// The passes, in time order, by a place within @p reach metres of it to the sides.
     [[nodiscard]] std::vector<Pass> passes(PlaneVector place, PlaneVector heading,
                                            double reach) const;
+    /// Milliseconds between @p pass of a line across the track and the moment that cutting takes
+    /// for it, which projects @p place onto the way: they differ where riders pass at an angle.
+    [[nodiscard]] double projectionError(const Pass &pass, PlaneVector place) const;
+    /// Metres that were ridden, not walked or stood.
+    [[nodiscard]] double riddenLength(double leastSpeed) const;
 
 private:
     [[nodiscard]] static std::pair<qint64, qint64> cellOf(PlaneVector place);
