@@ -26,7 +26,7 @@ constexpr double MovedPart = 0.35;
 
 // And this part for times that are less sensitive to how the line is passed: a whole such part
 // away counts as so many milliseconds.
-constexpr double FinePart = 0.15;
+constexpr double FinePart = 0.2;
 constexpr double FineCost = 8.0;
 
 // What a straight's speed counts for when a gate has no room there, and with a smaller gate than
@@ -34,9 +34,15 @@ constexpr double FineCost = 8.0;
 constexpr double NoRoom = 0.5;
 constexpr double LittleRoom = 0.85;
 
+// Milliseconds by which times may be off at the line: more than the first counts, more than the
+// second as much as a quarter of the speed.
+constexpr double SmallError = 15.0;
+constexpr double LargeError = 60.0;
+constexpr double ErrorPart = 0.25;
+
 // Metres per second, and as a part of the circuit's: he who passed no faster was in the pit lane.
 constexpr double PitSpeed = 18.0;
-constexpr double PitPart = 0.6;
+constexpr double PitPart = 0.7;
 
 // Metres: gates are made for the riders and receivers of other days, too.
 constexpr double UsualGate = 12.0;
@@ -199,6 +205,8 @@ Choice choiceOn(const Circuit &circuit, const Straight &straight, int most)
             best = {i, worth};
     }
     best.station = refinedChoice(circuit, straight, best.station);
+    const double error = (circuit.at(best.station).error - SmallError) / (LargeError - SmallError);
+    best.worth *= 1.0 - (ErrorPart * std::clamp(error, 0.0, 1.0));
     return best;
 }
 
@@ -215,11 +223,10 @@ bool isPassedByAll(const Circuit &circuit, std::size_t line, std::size_t i)
         const double to = ends[k].driven;
         if (to - from > 1.1 * circuit.length())
             continue;
-        const auto pass
-            = std::find_if(passes.begin(), passes.end(), [from, to](const Pass &candidate) {
-                  return candidate.driven > from && candidate.driven < to;
-              });
-        if (pass == passes.end())
+        const auto pass = std::upper_bound(
+            passes.begin(), passes.end(), from,
+            [](double driven, const Pass &candidate) { return driven < candidate.driven; });
+        if (pass == passes.end() || pass->driven >= to)
             return false;
     }
     return true;

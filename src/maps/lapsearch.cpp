@@ -13,8 +13,15 @@ namespace zuno {
 
 namespace {
 
-// Metres from place to place along the way from which returns are looked for.
-constexpr double Stride = 10.0;
+// Metres from place to place along the way from which returns are looked for; of a way that no
+// recording of laps is as long as, so many places at most.
+constexpr double LeastStride = 10.0;
+constexpr double MostStrides = 200000.0;
+
+double strideOf(const RidePath &ride)
+{
+    return std::max(LeastStride, ride.length() / MostStrides);
+}
 
 // Metres after which a return is one: less is a turn on the spot.
 constexpr double LeastReturn = 100.0;
@@ -50,7 +57,7 @@ using Returns = std::vector<Return>;
 Returns returnsOf(const RidePath &ride)
 {
     Returns returns;
-    for (double driven = 0.0; driven < ride.length(); driven += Stride) {
+    for (double driven = 0.0; driven < ride.length(); driven += strideOf(ride)) {
         const std::size_t node = ride.nodeAt(driven);
         if (ride.path()[node].heading.length() == 0.0 || ride.speedAt(node) < LeastSpeed)
             continue;
@@ -91,7 +98,8 @@ class Tally
 {
 public:
     Tally(const RidePath &ride, const Returns &returns)
-        : m_counts(static_cast<std::size_t>(ride.length() / Stride) + 2, 0.0)
+        : m_stride(strideOf(ride))
+        , m_counts(static_cast<std::size_t>(ride.length() / m_stride) + 2, 0.0)
     {
         std::vector<bool> isShared(m_counts.size(), false);
         for (const Return &place : returns) {
@@ -119,10 +127,11 @@ private:
 
     [[nodiscard]] std::size_t indexOf(double driven) const
     {
-        return std::min(static_cast<std::size_t>(std::max(0.0, driven) / Stride),
+        return std::min(static_cast<std::size_t>(std::max(0.0, driven) / m_stride),
                         m_counts.size() - 1);
     }
 
+    double m_stride;
     std::vector<double> m_counts;
 };
 
@@ -132,7 +141,7 @@ bool isRetraced(const RidePath &ride, const Return &loop)
     int retraced = 0;
     const std::size_t from = ride.nodeAt(loop.driven);
     const std::size_t to = ride.nodeAt(loop.driven + loop.length);
-    for (double driven = 0.0; driven < loop.length; driven += Stride) {
+    for (double driven = 0.0; driven < loop.length; driven += LeastStride) {
         const PathNode here = ride.at(loop.driven + driven);
         bool isBack = false;
         ride.visitCells(here.place, SameRoad, [&](const std::vector<std::size_t> &nodes) {

@@ -31,6 +31,10 @@ constexpr std::size_t LeastPositions = 20;
 constexpr double LeastWay = 150.0;
 constexpr double LeastSpeed = 4.0;
 
+// By how much a complete lap differs from the outline's length, and one that may yet become so.
+constexpr double LengthTolerance = 0.1;
+constexpr double NearlyAround = 0.25;
+
 // How many lines are tried before the best of them is taken.
 constexpr std::size_t TriedLines = 4;
 
@@ -163,6 +167,53 @@ QList<QGeoCoordinate> roughOutline(const Circuit &circuit, std::size_t line)
     return outline;
 }
 
+// The laps from the line to the line that are so long, within a part of it.
+std::vector<FoundLap> lapsOfLength(std::span<const PointAcquisition> samples, const LapList &laps,
+                                   double length, double tolerance)
+{
+    std::vector<FoundLap> found;
+    for (std::size_t i = 1; i + 1 < laps.size(); ++i) {
+        if (std::fabs(laps[i]->distance() - length) < tolerance * length)
+            found.push_back(foundLap(samples, *laps[i]));
+    }
+    return found;
+}
+
+QList<QGeoCoordinate> evenOutline(std::span<const PointAcquisition> samples, const FoundLap &lap,
+                                  const QGeoCoordinate &start, double spacing)
+{
+    if (lap.last >= samples.size() || lap.first >= lap.last)
+        return {};
+    const LapWay way(samples.subspan(lap.first, lap.last - lap.first + 1), start);
+    if (!(way.length() > spacing))
+        return {};
+    const auto steps = static_cast<int>(std::round(way.length() / spacing));
+    const Plane plane(start);
+    QList<QGeoCoordinate> outline {start};
+    for (int i = 1; i < steps; ++i)
+        outline.append(plane.coordinate(way.at(way.length() * i / steps)));
+    outline.append(start);
+    return outline;
+}
+
+// An outline by whose length the lap counts as complete, and others with it. A lap is as long as
+// the steps from sample to sample, which on a small circuit are hardly longer than positions
+// wander: an outline through fewer places is too short for it.
+QList<QGeoCoordinate> completeOutline(std::span<const PointAcquisition> samples,
+                                      const FoundLap &lap, const QGeoCoordinate &start)
+{
+    QList<QGeoCoordinate> outline;
+    for (const double part : {1.0, 0.5, 0.25}) {
+        outline = evenOutline(samples, lap, start, OutlineSpacing * part);
+        double length = 0.0;
+        for (qsizetype i = 1; i < outline.size(); ++i)
+            length += outline[i - 1].distanceTo(outline[i]);
+        if (lap.length < (1.0 + (LengthTolerance / 2.0)) * length)
+            break;
+    }
+    return outline;
+}
+
 MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit &circuit,
                        std::size_t line, double gatePart)
 {
@@ -178,17 +229,18 @@ MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit 
     draft.timingPoints.append(draft.start);
 
     const DraftLaps cut(samples, draft);
-    for (const auto &lap : cut.laps()) {
-        if (lap->isComplete())
-            proposal.laps.push_back(foundLap(samples, *lap));
-    }
+    const double around = cut.map().length();
+    proposal.laps = lapsOfLength(samples, cut.laps(), around, NearlyAround);
+    if (proposal.laps.empty())
+        return proposal;
+    const FoundLap typical = proposal.laps[typicalOf(proposal.laps)];
+    const QList<QGeoCoordinate> outline = completeOutline(samples, typical, draft.start);
+    if (outline.size() > 2)
+        draft.outline = outline;
+    proposal.laps = lapsOfLength(samples, cut.laps(), draft.toMap()->length(), LengthTolerance);
     if (proposal.laps.empty())
         return proposal;
     proposal.typicalLap = typicalOf(proposal.laps);
-    const QList<QGeoCoordinate> outline
-        = outlineOf(samples, proposal.laps[proposal.typicalLap], draft.start);
-    if (outline.size() > 2)
-        draft.outline = outline;
     proposal.reason = NoProposal::None;
     return proposal;
 }
@@ -248,18 +300,7 @@ MapProposal proposeMap(std::span<const PointAcquisition> samples)
 QList<QGeoCoordinate> outlineOf(std::span<const PointAcquisition> samples, const FoundLap &lap,
                                 const QGeoCoordinate &start)
 {
-    if (lap.last >= samples.size() || lap.first >= lap.last)
-        return {};
-    const LapWay way(samples.subspan(lap.first, lap.last - lap.first + 1), start);
-    if (!(way.length() > OutlineSpacing))
-        return {};
-    const auto steps = static_cast<int>(std::round(way.length() / OutlineSpacing));
-    const Plane plane(start);
-    QList<QGeoCoordinate> outline {start};
-    for (int i = 1; i < steps; ++i)
-        outline.append(plane.coordinate(way.at(way.length() * i / steps)));
-    outline.append(start);
-    return outline;
+    return evenOutline(samples, lap, start, OutlineSpacing);
 }
 
 } // namespace zuno

@@ -27,6 +27,12 @@ constexpr double SameHeading = 0.7;
 // the first; this bounds the time that a recording of nonsense takes.
 constexpr std::ptrdiff_t LookedAt = 64;
 
+// Metres between positions that are no way that was ridden; metres, and metres per second, that a
+// receiver may jump when it is back.
+constexpr double MostGap = 3000.0;
+constexpr double JumpError = 100.0;
+constexpr double JumpSpeed = 140.0;
+
 // Metres before and after a node over which its speed is taken.
 constexpr double SpeedReach = 10.0;
 
@@ -68,6 +74,24 @@ QGeoCoordinate centreOf(const Points &points)
     return {middle(latitudes), middle(longitudes)};
 }
 
+// Takes what nobody can have ridden, and ways so long that they are no part of a lap, for gaps that
+// lead nowhere: a glitch around the globe would be longer than all laps.
+void closeJumps(LapPath &path)
+{
+    double spared = 0.0;
+    for (std::size_t i = 1; i < path.size(); ++i) {
+        PathNode &node = path[i];
+        const double before = path[i - 1].driven + spared;
+        const double step = node.driven - before;
+        const double seconds = (node.time - path[i - 1].time) / 1000.0;
+        if (step > MostGap || step > JumpError + (JumpSpeed * seconds)) {
+            node.afterGap = true;
+            spared += step - std::min(step, JumpError);
+        }
+        node.driven -= spared;
+    }
+}
+
 // Seconds.
 double usualInterval(std::span<const PointAcquisition> samples)
 {
@@ -90,7 +114,9 @@ RidePath::RidePath(std::span<const PointAcquisition> samples)
     const QGeoCoordinate centre = centreOf(good);
     m_plane = Plane(centre);
     m_coarse = lapPath(good, centre, Walk::Forwards);
+    closeJumps(m_coarse);
     m_path = refined(m_coarse);
+    closeJumps(m_path);
     for (std::size_t node = 0; node < m_path.size(); ++node) {
         const auto [x, y] = cellOf(m_path[node].place);
         m_cells[keyOf(x, y)].push_back(node);
