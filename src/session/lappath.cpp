@@ -24,6 +24,9 @@ constexpr double SlowTime = 2000.0;
 // Metres before and behind a place over which its heading is taken, for the same reason.
 constexpr double HeadingReach = 4.0;
 
+// Metres driven after which a rider who is still no farther away is turning about.
+constexpr double MostHeadingWay = 40.0;
+
 // Metres between places from which on, and so far apart, others are put between them.
 constexpr double LongStep = 7.0;
 constexpr double RefinedStep = 4.0;
@@ -73,7 +76,8 @@ std::size_t headingEnd(const LapPath &path, std::size_t i, bool ahead)
         if (path[ahead ? next : j].afterGap)
             break;
         j = next;
-        if ((path[j].place - path[i].place).length() >= HeadingReach)
+        if ((path[j].place - path[i].place).length() >= HeadingReach
+            || std::fabs(path[j].driven - path[i].driven) >= MostHeadingWay)
             break;
     }
     return j;
