@@ -91,6 +91,9 @@ private Q_SLOTS:
             row(FileFailed, command + " empty.ra1 " + change,
                 command == "map" ? "no map" : "no session");
         }
+        row(WrongUse, "map new good.ra1", "-o");
+        row(FileFailed, "map new good.ra1 -o no.map", "gives no map: hardly a sample");
+        row(FileFailed, "map check good.ra1 good.ra1", "no map file");
         row(FileFailed, "decode old.ra1", "too old");
         row(FileFailed, "csv good.ra1 --lap 1", "no lap 1");
         row(FileFailed, "set headless.ra1 event=Cup", "left alone");
@@ -132,6 +135,19 @@ private Q_SLOTS:
                 QVERIFY(!isFull || std::abs(rest) <= 1); // the last sector ends at the line
             }
         }
+    }
+
+    void makesMaps()
+    {
+        QCOMPARE(run(u"map new run.ra1 -o own/new.map"_s).status, int(Done));
+        QCOMPARE(run(u"map new run.ra1 -o own/new.map"_s).status, int(FileFailed));
+        QCOMPARE(run(u"map new run.ra1 -o own/new.map --force"_s).status, int(Done));
+        QCOMPARE(run(u"laps --json --maps own run.ra1"_s).json()[u"map"].toString(), u"/new.map");
+        const QByteArray checked = run(u"map check own/new.map run.ra1 gone.ra1 --json"_s).out;
+        const QJsonArray checks = QJsonDocument::fromJson(checked).array();
+        QCOMPARE(checks.size(), 1);
+        QVERIFY(checks[0][u"laps"].toArray().size() > 4
+                && checks[0][u"warnings"].toArray().isEmpty());
     }
 
     // Choices stored by the program are not the tool's.

@@ -15,8 +15,10 @@
 #include <QJsonObject>
 #include <QTest>
 
+#include <maps/mapcheck.h>
 #include <maps/mapdetection.h>
 #include <maps/mapfile.h>
+#include <maps/mapproposal.h>
 #include <session/sessionfile.h>
 
 using namespace zuno;
@@ -55,6 +57,14 @@ private Q_SLOTS:
             }
             QVERIFY2(count > 0 && count == reference.size(), qPrintable(name));
             QVERIFY2(sum / static_cast<double>(count) <= 20.0, qPrintable(name));
+
+            // The program's own map: other lines, but as many laps, with all sectors.
+            const auto samples = opened.session->wholeSamples();
+            const MapProposal proposal = proposeMap(samples);
+            QCOMPARE(static_cast<qsizetype>(proposal.laps.size()), count);
+            const MapCheck check = checkMap(samples, proposal.draft);
+            QVERIFY2(check.warnings.isEmpty(), qPrintable(name));
+            QVERIFY(std::fabs(check.length - proposal.laps[0].length) < 30.0);
         }
     }
 };

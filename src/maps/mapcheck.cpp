@@ -200,6 +200,7 @@ private:
 
     void checkOrder()
     {
+        m_firstLost = gateCount();
         for (int gate = 1; gate < gateCount() && m_firstLost == gateCount(); ++gate) {
             const auto before = m_along[gate - 1];
             const auto here = m_along[gate];
@@ -375,7 +376,7 @@ private:
     // By gate, the line's included.
     std::map<int, std::optional<double>> m_along;
     // The first point that comes before the one before it.
-    int m_firstLost = MaximumSectors;
+    int m_firstLost = 0;
     MapCheck m_result;
 };
 
