@@ -27,8 +27,10 @@
 #include <benchmark/benchmark.h>
 
 #include <cli/demolibrary.h>
+#include <maps/mapcheck.h>
 #include <maps/mapdetection.h>
 #include <maps/mapfile.h>
+#include <maps/mapproposal.h>
 #include <session/sessionfile.h>
 #include <session/smoothing.h>
 
@@ -317,6 +319,26 @@ Comparison cutting(const Ride &ride)
     return {{"laps, figures and sectors", cut}, {"a coordinate and a distance each", measure}, 4.0};
 }
 
+/// What an editor of maps does after each change.
+Comparison checking(const Ride &ride)
+{
+    const MapDraft draft = MapDraft::of(*ride.session->map());
+    const auto check = [&ride, draft] {
+        benchmark::DoNotOptimize(checkMap(ride.session->wholeSamples(), draft).laps.data());
+        benchmark::ClobberMemory();
+    };
+    return {{"a map checked", check}, cutting(ride).baseline, 10.0};
+}
+
+Comparison proposing(const Ride &ride)
+{
+    const auto propose = [&ride] {
+        benchmark::DoNotOptimize(proposeMap(ride.session->wholeSamples()).laps.data());
+        benchmark::ClobberMemory();
+    };
+    return {{"a map proposed", propose}, cutting(ride).baseline, 60.0};
+}
+
 #if defined(__GLIBC__)
 std::size_t bytesInUse()
 {
@@ -376,7 +398,8 @@ int run()
         std::fprintf(stderr, "bench_core: %s\n", fault);
         return 1;
     }
-    const std::array comparisons {decoding(ride), smoothing(ride), cutting(ride)};
+    const std::array comparisons {decoding(ride), smoothing(ride), cutting(ride), checking(ride),
+                                  proposing(ride)};
     printHeader();
     bool areMet = true;
     for (const Comparison &comparison : comparisons)
