@@ -9,10 +9,21 @@
 
 namespace zuno {
 
-/// The stations at which a line may lie, the best first: the middles of straights that every lap
-/// passes, by how fast they are; those where a gate finds no room between its neighbours later.
-/// A circuit without straights has its line where it is fastest.
-[[nodiscard]] std::vector<std::size_t> lineChoices(const Circuit &circuit);
+/// Metres: the size of gates where nothing speaks against it, made for the riders and receivers of
+/// other days, too.
+inline constexpr double UsualGateSize = 12.0;
+
+/// Metres within which the size of a gate may be for a line to work.
+struct GateRoom
+{
+    double least = 0.0;
+    double most = 0.0;
+    [[nodiscard]] bool isEnough() const { return least <= most; }
+};
+
+/// The room for a line at station @p i: every pass fits in and nothing else does, and everybody
+/// has left before the line can be met again.
+[[nodiscard]] GateRoom lineRoom(const Circuit &circuit, std::size_t i);
 
 /// The gates that go with a line.
 struct GateChoice

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include <maps/draftlaps.h>
+#include <maps/gatecrossing.h>
 #include <maps/outlinepath.h>
 #include <session/trace.h>
 
@@ -35,23 +36,6 @@ constexpr double AlongTolerance = 60.0;
 // pit lane.
 constexpr double PitOffset = 8.0;
 constexpr double PitSpeed = 0.65;
-
-// Metres over which a heading is taken: positions are stored in steps of half a metre.
-constexpr double HeadingReach = 5.0;
-
-// How many samples away a rider may have been for his heading.
-constexpr std::size_t HeadingSamples = 100;
-
-// Where a lap met a gate, and how.
-struct Crossing
-{
-    int lap = 0;
-    PlaneVector place;
-    PlaneVector heading;
-    // Metres per second.
-    double speed = 0.0;
-    bool isTimed = false;
-};
 
 double median(std::vector<double> values)
 {
@@ -173,7 +157,7 @@ private:
     void turnOutline()
     {
         int sense = 0;
-        for (const Crossing &crossing : crossingsOf(Line)) {
+        for (const GateCrossing &crossing : crossingsOf(Line)) {
             const auto spot = m_outline.nearest(crossing.place);
             if (spot)
                 sense += spot->heading * crossing.heading < 0.0 ? -1 : 1;
@@ -249,70 +233,28 @@ private:
 
     // Where the laps met a gate. A sector's end is looked at in complete laps only: before and
     // after them, riders come from the paddock.
-    [[nodiscard]] std::vector<Crossing> crossingsOf(int gate) const
+    [[nodiscard]] std::vector<GateCrossing> crossingsOf(int gate) const
     {
-        std::vector<Crossing> crossings;
+        std::vector<GateCrossing> crossings;
         const LapList &laps = m_cut.laps();
         for (std::size_t i = 0; i + 1 < laps.size(); ++i) {
             const Lap &lap = *laps[i];
             if (gate == Line) {
-                crossings.push_back(crossingAt(lap, lap.points().back().dataTimeStamp));
+                addCrossing(crossings, lap, lap.points().back().dataTimeStamp);
             } else if (lap.isComplete()) {
                 if (const auto passing = lap.sectorEnd(gate))
-                    crossings.push_back(crossingAt(lap, passing->timeStamp));
+                    addCrossing(crossings, lap, passing->timeStamp);
             }
         }
-        std::erase_if(crossings, [](const Crossing &crossing) { return !crossing.isTimed; });
         return crossings;
     }
 
-    [[nodiscard]] Crossing crossingAt(const Lap &lap, quint32 time) const
+    void addCrossing(std::vector<GateCrossing> &crossings, const Lap &lap, quint32 time) const
     {
-        Crossing crossing;
-        crossing.lap = lap.lapNumber();
-        const auto after = std::partition_point(
-            m_samples.begin(), m_samples.end(),
-            [time](const PointAcquisition &sample) { return sample.dataTimeStamp <= time; });
-        const auto middle = static_cast<std::size_t>(after - m_samples.begin());
-        const auto here = located(middle, false, {});
-        if (!here)
-            return crossing;
-        crossing.place = placeOf(*here);
-        const auto from = located(middle, false, crossing.place);
-        const auto to = located(middle, true, crossing.place);
-        if (!from || !to)
-            return crossing;
-        const PlaneVector way = placeOf(*to) - placeOf(*from);
-        const double seconds
-            = (m_samples[*to].dataTimeStamp - m_samples[*from].dataTimeStamp) / 1000.0;
-        crossing.isTimed = way.length() > 0.0 && seconds > 0.0;
-        if (crossing.isTimed) {
-            crossing.heading = way * (1.0 / way.length());
-            crossing.speed = way.length() / seconds;
+        if (auto crossing = crossingAt(m_samples, m_plane, time)) {
+            crossing->lap = lap.lapNumber();
+            crossings.push_back(*crossing);
         }
-        return crossing;
-    }
-
-    // The first sample from @p middle on, or before it, that has a position; with a place, one
-    // that is far enough from it for a heading.
-    [[nodiscard]] std::optional<std::size_t> located(std::size_t middle, bool ahead,
-                                                     std::optional<PlaneVector> place) const
-    {
-        for (std::size_t k = 0; k < HeadingSamples; ++k) {
-            if (ahead ? middle + k >= m_samples.size() : k >= middle)
-                return {};
-            const std::size_t i = ahead ? middle + k : middle - 1 - k;
-            if (!positionOf(m_samples[i]).isValid())
-                continue;
-            if (!place || (placeOf(i) - *place).length() >= HeadingReach)
-                return i;
-        }
-        return {};
-    }
-
-    [[nodiscard]] PlaneVector placeOf(std::size_t sample) const
-    {
-        return m_plane.place(positionOf(m_samples[sample]));
     }
 
     void checkPasses(int gate)
@@ -322,8 +264,8 @@ private:
             return;
         MapWarning second {Kind::SecondTrack, gate, -1, {}};
         MapWarning otherWay {Kind::OtherWay, gate, -1, {}};
-        std::vector<std::pair<Crossing, double>> onTrack;
-        for (const Crossing &crossing : crossingsOf(gate)) {
+        std::vector<std::pair<GateCrossing, double>> onTrack;
+        for (const GateCrossing &crossing : crossingsOf(gate)) {
             const auto spot = m_outline.nearest(crossing.place, crossing.heading);
             if (!spot || spot->distance > OutlineReach)
                 otherWay.laps.append(crossing.lap);
@@ -339,7 +281,7 @@ private:
             warn(otherWay);
     }
 
-    static void addPitLane(const std::vector<std::pair<Crossing, double>> &onTrack,
+    static void addPitLane(const std::vector<std::pair<GateCrossing, double>> &onTrack,
                            MapWarning &otherWay)
     {
         std::vector<double> offsets;

@@ -10,6 +10,7 @@
 #include <maps/circuit.h>
 #include <maps/draftlaps.h>
 #include <maps/gatechoice.h>
+#include <maps/linechoice.h>
 #include <maps/mapcheck.h>
 
 namespace zuno {
