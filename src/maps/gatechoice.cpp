@@ -23,6 +23,9 @@ constexpr double LineReach = 2.0;
 constexpr double CoolDown = 10.0;
 constexpr double CoolDownPart = 0.85;
 
+// Longer ways from line to line, in laps, are none; one with a stop in the pit lane is.
+constexpr double OneLap = 1.3;
+
 constexpr std::size_t LeastPoints = 2;
 constexpr std::size_t MostPoints = 5;
 
@@ -44,7 +47,7 @@ bool isPassedByAll(const Circuit &circuit, std::size_t line, std::size_t i)
     for (std::size_t k = 1; k < ends.size(); ++k) {
         const double from = ends[k - 1].driven;
         const double to = ends[k].driven;
-        if (to - from > 1.1 * circuit.length())
+        if (to - from > OneLap * circuit.length())
             continue;
         const auto pass = std::upper_bound(
             passes.begin(), passes.end(), from,

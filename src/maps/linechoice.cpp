@@ -191,6 +191,7 @@ std::vector<std::size_t> lineChoices(const Circuit &circuit)
     std::stable_sort(choices.begin(), choices.end(),
                      [](const Choice &a, const Choice &b) { return a.worth > b.worth; });
     std::vector<std::size_t> stations;
+    stations.reserve(choices.size());
     for (const Choice &choice : choices)
         stations.push_back(choice.station);
     return stations;

@@ -166,28 +166,36 @@ private:
             return;
         std::vector<PlaneVector> places = placesOf(m_draft.outline);
         std::reverse(places.begin(), places.end());
-        m_outline = OutlinePath(std::move(places));
+        m_outline = OutlinePath(places);
     }
 
-    // Metres from the line to a gate along the outline; none for a gate that is nowhere near it.
+    // Where a gate is along the outline; none for one that is nowhere near it.
     [[nodiscard]] std::optional<double> alongOf(int gate) const
     {
-        if (gate == Line)
-            return 0.0;
-        if (isLastOnLine(gate))
-            return m_outline.length();
         const auto spot = m_outline.nearest(centre(gate));
         if (!spot || spot->distance > OutlineReach)
             return {};
         return spot->along;
     }
 
+    // Metres from the line to a gate: the outline need not begin at the line.
+    [[nodiscard]] std::optional<double> fromLine(int gate) const
+    {
+        const auto line = m_along.at(Line);
+        const auto here = m_along.at(gate);
+        if (!line || !here)
+            return {};
+        if (isLastOnLine(gate))
+            return m_outline.length();
+        return *here >= *line ? *here - *line : *here - *line + m_outline.length();
+    }
+
     void checkOrder()
     {
         m_firstLost = gateCount();
         for (int gate = 1; gate < gateCount() && m_firstLost == gateCount(); ++gate) {
-            const auto before = m_along[gate - 1];
-            const auto here = m_along[gate];
+            const auto before = fromLine(gate - 1);
+            const auto here = fromLine(gate);
             if (!before || !here || *here > *before)
                 continue;
             warn({Kind::PointOutOfOrder, gate, gate - 1, {}});

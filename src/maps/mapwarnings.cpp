@@ -75,10 +75,11 @@ const char *pattern(const MapWarning &warning)
                                  "The circles of %1 and %2 touch. Move the points apart or make "
                                  "the gate smaller.");
     case Kind::CountedTwice:
-        return QT_TRANSLATE_NOOP("zuno::MapWarning",
-                                 "One pass of the line counts twice%3: the rider was slow or stood "
-                                 "there. Make the gate smaller or move the line to where everybody "
-                                 "is fast.");
+        return QT_TRANSLATE_NOOP(
+            "zuno::MapWarning",
+            "One pass of the line counts twice%3: the rider was still inside its "
+            "circle when it could count again. Make the gate smaller or move "
+            "the line to where everybody is fast.");
     case Kind::NoLapComplete:
         return QT_TRANSLATE_NOOP("zuno::MapWarning",
                                  "No lap is as long as the outline, so none counts as complete.");

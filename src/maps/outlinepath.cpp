@@ -18,7 +18,7 @@ constexpr double SameWay = 0.5;
 
 } // namespace
 
-OutlinePath::OutlinePath(std::vector<PlaneVector> places)
+OutlinePath::OutlinePath(const std::vector<PlaneVector> &places)
 {
     for (const PlaneVector place : places) {
         // Neither a point that stands twice nor one that is no number.

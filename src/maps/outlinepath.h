@@ -14,7 +14,7 @@ namespace zuno {
 class OutlinePath
 {
 public:
-    explicit OutlinePath(std::vector<PlaneVector> places);
+    explicit OutlinePath(const std::vector<PlaneVector> &places);
 
     /// A place on the outline, seen from a place nearby.
     struct Spot
