@@ -93,7 +93,6 @@ private Q_SLOTS:
         }
         row(WrongUse, "map new good.ra1", "-o");
         row(FileFailed, "map new good.ra1 -o no.map", "gives no map: hardly a sample");
-        row(FileFailed, "map check good.ra1 good.ra1", "no map file");
         row(FileFailed, "decode old.ra1", "too old");
         row(FileFailed, "csv good.ra1 --lap 1", "no lap 1");
         row(FileFailed, "set headless.ra1 event=Cup", "left alone");
@@ -141,8 +140,6 @@ private Q_SLOTS:
     {
         QCOMPARE(run(u"map new run.ra1 -o own/new.map"_s).status, int(Done));
         QCOMPARE(run(u"map new run.ra1 -o own/new.map"_s).status, int(FileFailed));
-        QCOMPARE(run(u"map new run.ra1 -o own/new.map --force"_s).status, int(Done));
-        QCOMPARE(run(u"laps --json --maps own run.ra1"_s).json()[u"map"].toString(), u"/new.map");
         const QByteArray checked = run(u"map check own/new.map run.ra1 gone.ra1 --json"_s).out;
         const QJsonArray checks = QJsonDocument::fromJson(checked).array();
         QCOMPARE(checks.size(), 1);

@@ -135,13 +135,12 @@ private:
                                              [](const auto &lap) { return lap->isComplete(); });
         if (!hasComplete)
             warn({Kind::NoLapComplete, Line, -1, {}});
-        MapWarning twice {Kind::CountedTwice, Line, -1, {}};
         for (std::size_t i = 1; i + 1 < laps.size(); ++i) {
             if (staysInLine(*laps[i]))
-                twice.laps.append(laps[i]->lapNumber());
+                m_repeats.append(laps[i]->lapNumber());
         }
-        if (!twice.laps.isEmpty())
-            warn(twice);
+        if (!m_repeats.isEmpty())
+            warn({Kind::CountedTwice, Line, -1, m_repeats});
     }
 
     [[nodiscard]] bool staysInLine(const Lap &lap) const
@@ -247,6 +246,8 @@ private:
         const LapList &laps = m_cut.laps();
         for (std::size_t i = 0; i + 1 < laps.size(); ++i) {
             const Lap &lap = *laps[i];
+            if (m_repeats.contains(lap.lapNumber()))
+                continue;
             if (gate == Line) {
                 addCrossing(crossings, lap, lap.points().back().dataTimeStamp);
             } else if (lap.isComplete()) {
@@ -268,7 +269,7 @@ private:
     void checkPasses(int gate)
     {
         const auto along = m_along[gate];
-        if (!along)
+        if (!along || isLastOnLine(gate))
             return;
         MapWarning second {Kind::SecondTrack, gate, -1, {}};
         MapWarning otherWay {Kind::OtherWay, gate, -1, {}};
@@ -323,6 +324,8 @@ private:
     OutlinePath m_outline;
     DraftLaps m_cut;
     std::vector<PlaneVector> m_gates;
+    // The laps that only lead from one counting of a pass of the line to the next.
+    QList<int> m_repeats;
     // By gate, the line's included.
     std::map<int, std::optional<double>> m_along;
     // The first point that comes before the one before it.
