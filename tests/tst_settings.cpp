@@ -82,6 +82,14 @@ private Q_SLOTS:
             QCOMPARE(settings().mapChoice(session), session);
             QCOMPARE(settings().mapChoice(u"run.ra1"_s), u"/lower.map"_s);
             QVERIFY(!settings().isOn(Setting::ShowLapType));
+            settings().renameMapChoices(session, u"/second.map"_s);
+            QCOMPARE(settings().mapChoice(session), u"/second.map"_s);
+            QCOMPARE(settings().mapChoice(u"run.ra1"_s), u"/lower.map"_s);
+            // A setting that happens to hold a map's name is no choice of it.
+            settings().renameMapChoices(u"false"_s, u"true"_s);
+            settings().removeMapChoices(u"/second.map"_s);
+            QCOMPARE(content(SettingsFile::Analyzer), before);
+            settings().setMapChoice(session, u"/first.map"_s);
             settings().removeMapChoice(session);
             QCOMPARE(content(SettingsFile::Analyzer), before);
         }

@@ -25,7 +25,9 @@ MapFolder::MapFolder(QObject *parent) : QObject(parent)
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, [this] { m_rest.start(); });
     connect(&m_rest, &QTimer::timeout, this, [this] {
         watch();
-        Q_EMIT changed();
+        // What the program itself has written is loaded already.
+        if (stamps() != m_loaded)
+            Q_EMIT changed();
     });
 }
 
@@ -33,13 +35,26 @@ bool MapFolder::open(const QString &folder)
 {
     m_folder = QDir::cleanPath(folder);
     load();
-    watch();
     return QDir(m_folder).exists();
 }
 
 void MapFolder::load()
 {
+    // Before the maps: what changes meanwhile is loaded once more.
+    m_loaded = stamps();
     m_library.loadMaps(m_folder);
+    watch();
+}
+
+QList<MapFolder::FileStamp> MapFolder::stamps() const
+{
+    QList<FileStamp> stamps;
+    QDirIterator files(m_folder, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        stamps.append({path, files.fileInfo().size(), files.fileInfo().lastModified()});
+    }
+    return stamps;
 }
 
 // Folders that appeared and files that were replaced are not watched yet.

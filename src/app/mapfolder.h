@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <QDateTime>
 #include <QFileSystemWatcher>
+#include <QList>
 #include <QObject>
 #include <QTimer>
 
@@ -24,17 +26,31 @@ public:
     /// there are no maps.
     bool open(const QString &folder);
     [[nodiscard]] const MapLibrary &library() const { return m_library; }
-    /// Loads the maps again. Every map of before is gone; whoever points at one must have let go.
+    /// Loads the maps again, and watches folders that are new. Every map of before is gone; whoever
+    /// points at one must have let go.
     void load();
 
 Q_SIGNALS:
-    /// The folder has changed, and has been at rest since. The maps are those of before still.
+    /// The folder is another than when it was loaded, and has been at rest since. The maps are
+    /// those of before still.
     void changed();
 
 private:
+    /// Tells whether a file is still the one that was loaded.
+    struct FileStamp
+    {
+        QString path;
+        qint64 size = 0;
+        QDateTime modified;
+
+        friend bool operator==(const FileStamp &, const FileStamp &) = default;
+    };
+
+    [[nodiscard]] QList<FileStamp> stamps() const;
     void watch();
 
     MapLibrary m_library;
+    QList<FileStamp> m_loaded;
     QFileSystemWatcher m_watcher;
     QTimer m_rest;
     QString m_folder;

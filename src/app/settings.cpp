@@ -189,4 +189,31 @@ void Settings::removeMapChoice(const QString &sessionFileName) const
     QSettings(path(SettingsFile::Analyzer), QSettings::IniFormat).remove(sessionFileName);
 }
 
+// Every key that is none of the table's is a session's.
+QStringList Settings::sessionsOnMap(const QString &mapName) const
+{
+    const QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
+    QStringList keys = settings.allKeys();
+    for (const Entry &entry : Table)
+        keys.removeOne(QString::fromUtf16(entry.key));
+    keys.removeIf([&](const QString &key) { return settings.value(key).toString() != mapName; });
+    return keys;
+}
+
+void Settings::renameMapChoices(const QString &from, const QString &to) const
+{
+    const QStringList sessions = sessionsOnMap(from);
+    QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
+    for (const QString &session : sessions)
+        settings.setValue(session, to);
+}
+
+void Settings::removeMapChoices(const QString &mapName) const
+{
+    const QStringList sessions = sessionsOnMap(mapName);
+    QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
+    for (const QString &session : sessions)
+        settings.remove(session);
+}
+
 } // namespace zuno

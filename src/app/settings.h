@@ -7,6 +7,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 namespace zuno {
@@ -88,8 +89,14 @@ public:
     [[nodiscard]] QString mapChoice(const QString &sessionFileName) const;
     void setMapChoice(const QString &sessionFileName, const QString &mapName) const;
     void removeMapChoice(const QString &sessionFileName) const;
+    /// Makes every stored choice of the map @p from one of the map @p to.
+    void renameMapChoices(const QString &from, const QString &to) const;
+    /// Forgets every stored choice of a map.
+    void removeMapChoices(const QString &mapName) const;
 
 private:
+    [[nodiscard]] QStringList sessionsOnMap(const QString &mapName) const;
+
     QString m_root;
 };
 
