@@ -20,6 +20,7 @@
 #include <app/help.h>
 #include <app/librarytree.h>
 #include <app/makerlinks.h>
+#include <app/mapmaker.h>
 #include <app/sessionimport.h>
 #include <app/upgradepass.h>
 #include <maps/map.h>
@@ -64,9 +65,10 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
     m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
     m_ui->tw_arbo->installEventFilter(this);
-    m_summary = std::make_unique<SessionSummary>(SessionSummary::Widgets {
-        m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap, m_ui->lb_idealTime,
-        m_ui->lb_traveledDistance, m_ui->lb_firstLapSelected, m_ui->tableWidget, m_ui->tw_tours});
+    m_summary = std::make_unique<SessionSummary>(
+        SessionSummary::Widgets {m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap,
+                                 m_ui->pb_newMapHere, m_ui->lb_idealTime, m_ui->lb_traveledDistance,
+                                 m_ui->lb_firstLapSelected, m_ui->tableWidget, m_ui->tw_tours});
     m_mapView = new MapViewController(this);
     m_mapView->init(this, m_ui->webview_layout);
     createActions();
@@ -194,6 +196,10 @@ void ZunoAnalyzer::connectParts()
             [this](const ImportResult &result) { result.showIn(*statusBar()); });
     connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
+    m_mapMaker = new MapMaker({m_library, m_maps.library(), m_display, m_settings}, this);
+    connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::loadMaps);
+    for (const QPushButton *button : {m_ui->pb_newMap, m_ui->pb_newMapHere})
+        connect(button, &QPushButton::clicked, m_mapMaker, &MapMaker::newMap);
     connect(m_mapView, &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
     connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
     connect(&m_selection, &LapSelection::comparisonRequested, m_mapView,
@@ -313,6 +319,7 @@ void ZunoAnalyzer::loadMaps()
     onSessionDisplayedChange();
     if (m_display.session() == nullptr)
         showNothing();
+    Q_EMIT mapsLoaded();
 }
 
 void ZunoAnalyzer::saveSplitterStates()
@@ -374,7 +381,12 @@ void ZunoAnalyzer::openMaps()
     MapsWidget dialog(m_maps.library().maps(), m_display.session(), this);
     connect(&dialog, &MapsWidget::mapChanged, this, &ZunoAnalyzer::onMapChanged);
     connect(&dialog, &MapsWidget::autoFindMap, this, &ZunoAnalyzer::detectMap);
-    connect(&m_maps, &MapFolder::changed, &dialog,
+    connect(&dialog, &MapsWidget::newMap, m_mapMaker, &MapMaker::newMap);
+    connect(&dialog, &MapsWidget::editMap, m_mapMaker, &MapMaker::editMap);
+    connect(&dialog, &MapsWidget::renameMap, m_mapMaker, &MapMaker::renameMap);
+    connect(&dialog, &MapsWidget::deleteMap, m_mapMaker, &MapMaker::deleteMap);
+    connect(&dialog, &MapsWidget::reloadMaps, this, &ZunoAnalyzer::loadMaps);
+    connect(this, &ZunoAnalyzer::mapsLoaded, &dialog,
             [this, &dialog] { dialog.setMaps(m_maps.library().maps(), m_display.session()); });
     dialog.exec();
 }
@@ -460,6 +472,8 @@ void ZunoAnalyzer::showSession(Session *session)
 void ZunoAnalyzer::showState(const QString &text)
 {
     m_ui->lb_state->setText(text);
+    const Session *session = m_display.session();
+    m_ui->pb_newMap->setVisible(session != nullptr && session->sampleCount() > 0);
     m_ui->lapsStack->setCurrentWidget(m_ui->statePage);
 }
 

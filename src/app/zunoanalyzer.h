@@ -23,6 +23,7 @@ namespace zuno {
 class LapCharts;
 class LapsView;
 class LibraryTree;
+class MapMaker;
 class MapViewController;
 class SessionImport;
 class SessionInfos;
@@ -75,6 +76,10 @@ public Q_SLOTS:
     /// Shows a message in the status bar for a while.
     void tell(const QString &message);
 
+Q_SIGNALS:
+    /// Other maps are loaded, and sessions stand on them.
+    void mapsLoaded();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -110,6 +115,7 @@ private:
     LapsView *m_lapsView = nullptr;
     LapCharts *m_charts = nullptr;
     LibraryTree *m_tree = nullptr;
+    MapMaker *m_mapMaker = nullptr;
     MapViewController *m_mapView = nullptr;
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;

@@ -9,6 +9,7 @@
 
 #include <app/downloadinprogress.h>
 #include <app/librarytree.h>
+#include <app/mapmaker.h>
 #include <manual/stage.h>
 
 namespace zuno {
@@ -110,6 +111,7 @@ constexpr Window Windows[] {
     {"maps", [](Stage &stage) { stage.menu(Maps).trigger(); }},
     {"statistics", openStatistics},
     {"ideal-time", openIdealTime},
+    {"map-editor", [](Stage &stage) { stage.object<MapMaker>().newMap(); }},
     {"about", [](Stage &stage) { stage.menu(About).trigger(); }},
     {"progress", openProgress},
     {"rename", [](Stage &stage) { stage.object<LibraryTree>().renameCurrent(); }},

@@ -83,10 +83,35 @@ MapsWidget::MapsWidget(const QList<const Map *> &maps, Session *session, QWidget
     connect(m_ui->cb_otherMap, &QComboBox::textActivated, this, &MapsWidget::chooseMap);
     connect(m_ui->pb_autoDetectMap, &QPushButton::clicked, this, &MapsWidget::autoFindMap);
     connect(m_ui->pb_ok, &QPushButton::clicked, this, &QDialog::accept);
+    connectMapButtons();
     setMaps(maps, session);
 }
 
 MapsWidget::~MapsWidget() = default;
+
+void MapsWidget::connectMapButtons()
+{
+    connect(m_ui->pb_newMap, &QPushButton::clicked, this, &MapsWidget::newMap);
+    connect(m_ui->pb_reloadMaps, &QPushButton::clicked, this, &MapsWidget::reloadMaps);
+    const auto connectWish = [this](QPushButton *button, auto wish) {
+        connect(button, &QPushButton::clicked, this, [this, wish] {
+            Q_EMIT(this->*wish)(m_ui->cb_otherMap->currentText());
+        });
+    };
+    connectWish(m_ui->pb_editMap, &MapsWidget::editMap);
+    connectWish(m_ui->pb_renameMap, &MapsWidget::renameMap);
+    connectWish(m_ui->pb_deleteMap, &MapsWidget::deleteMap);
+    connect(m_ui->cb_otherMap, &QComboBox::activated, this, &MapsWidget::enableMapButtons);
+}
+
+// Not while the box is filled anew: a button that is disabled for a moment loses the focus, and
+// the next one in line would have the enter key.
+void MapsWidget::enableMapButtons()
+{
+    const bool hasMap = !m_ui->cb_otherMap->currentText().isEmpty();
+    for (QPushButton *button : {m_ui->pb_editMap, m_ui->pb_renameMap, m_ui->pb_deleteMap})
+        button->setEnabled(hasMap);
+}
 
 void MapsWidget::setMaps(const QList<const Map *> &maps, Session *session)
 {
@@ -116,19 +141,20 @@ void MapsWidget::showSession()
         m_session != nullptr ? tr("Choose other Map for session : %1").arg(m_session->fileName())
                              : tr("No session loaded"));
     m_ui->pb_autoDetectMap->setEnabled(m_session != nullptr);
+    m_ui->pb_newMap->setEnabled(m_session != nullptr);
     selectSessionMap();
 }
 
 void MapsWidget::selectSessionMap()
 {
-    if (m_session == nullptr) {
-        m_ui->cb_otherMap->setCurrentIndex(0);
-        return;
+    int index = 0;
+    if (m_session != nullptr) {
+        // A session whose map is none of the list shows the first map.
+        const qsizetype position = std::max<qsizetype>(m_maps.lastIndexOf(m_session->map()), 0);
+        index = std::min(static_cast<int>(position) + 1, m_ui->cb_otherMap->count() - 1);
     }
-    // A session whose map is none of the list shows the first map.
-    const qsizetype position = std::max<qsizetype>(m_maps.lastIndexOf(m_session->map()), 0);
-    const int last = m_ui->cb_otherMap->count() - 1;
-    m_ui->cb_otherMap->setCurrentIndex(std::min(static_cast<int>(position) + 1, last));
+    m_ui->cb_otherMap->setCurrentIndex(index);
+    enableMapButtons();
 }
 
 void MapsWidget::chooseMap(const QString &name)

@@ -65,8 +65,14 @@ Q_SIGNALS:
     void autoFindMap();
     void autoDetectMap();
     void reloadMaps();
+    /// What is wished for the map of that name.
+    void editMap(const QString &name);
+    void renameMap(const QString &name);
+    void deleteMap(const QString &name);
 
 private:
+    void connectMapButtons();
+    void enableMapButtons();
     void showSession();
     void selectSessionMap();
     void chooseMap(const QString &name);

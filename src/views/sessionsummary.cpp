@@ -38,8 +38,9 @@ QString SessionSummary::reasonForNoLaps(const Session &session, const QString &m
     const Map *map = session.map();
     if (map == nullptr) {
         return tr("No map is known for the place where this session was recorded, so it cannot be "
-                  "cut into laps.\n\nChoose a map with \"Maps\" (Ctrl+M), or copy the circuit's "
-                  "map file to\n%1")
+                  "cut into laps.\n\nMake a new map from it, choose a map with \"Maps\" (Ctrl+M), "
+                  "or "
+                  "copy the circuit's map file to\n%1")
             .arg(QDir::toNativeSeparators(mapsFolder));
     }
     if (!map->isUsable()) {
@@ -67,6 +68,7 @@ void SessionSummary::showLabels(const Session *session)
     m_w.idealTime->setVisible(hasMap);
     m_w.distance->setVisible(hasMap);
     m_w.mapError->setVisible(session != nullptr && !hasMap);
+    m_w.newMap->setVisible(session != nullptr && !hasMap && session->sampleCount() > 0);
     m_w.mapError->setText(
         tr("No map found, please try to select one from the Map configuraton panel"));
     if (session == nullptr || !hasMap)

@@ -9,6 +9,7 @@
 class QLabel;
 class QTableView;
 class QTableWidget;
+class QWidget;
 
 namespace zuno {
 
@@ -27,6 +28,8 @@ public:
         QLabel *map;
         QLabel *mapLength;
         QLabel *mapError;
+        /// Offers to make a map where none is found.
+        QWidget *newMap;
         QLabel *idealTime;
         QLabel *distance;
         QLabel *firstLap;

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <app/acquisitionlibrary.h>
+#include <app/informationwriter.h>
+#include <app/mapmaker.h>
+#include <app/sessiondisplay.h>
+#include <app/settings.h>
+#include <maps/mapedit.h>
+#include <maps/mapfile.h>
+#include <maps/mapname.h>
+
+#include "builders.h"
+
+using namespace zuno;
+using namespace zuno::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A square of 100 metres a side, clockwise from its south-west corner, with three timing points.
+MapDraft square()
+{
+    MapDraft draft;
+    draft.outline = {place(0), place(50), place(100), place(100, 100), place(0, 100), place(0)};
+    draft.start = place(0);
+    draft.timingPoints = {place(100), place(100, 100), place(0)};
+    draft.gateSize = 5.0;
+    return draft;
+}
+
+// Does what a text says: "0 20 -5" moves point 0 by 20 metres and back by 5 in one gesture; "add
+// 30", "remove 1", "gate 12", "undo".
+void run(MapEdit &edit, const QString &command)
+{
+    QStringList words = command.split(u' ');
+    const QString what = words.takeFirst();
+    const int number = words.value(0).toInt();
+    edit.beginGesture();
+    if (what == u"add")
+        words.isEmpty() ? edit.addPoint() : edit.addPoint(place(number));
+    else if (what == u"remove")
+        edit.removePoint(number);
+    else if (what == u"gate")
+        edit.setGateSize(number);
+    else if (what == u"undo")
+        edit.history().undo();
+    else
+        for (const QString &metres : words)
+            edit.nudgePoint(what.toInt(), metres.toInt());
+    edit.settle(MapEdit::NoPoint);
+}
+
+// Where the line has moved to, the distances of the timing points from it, and the gate.
+QString textOf(const MapEdit &edit)
+{
+    QStringList distances;
+    for (int point = 0; point < edit.pointCount(); ++point)
+        distances.append(QString::number(qRound(edit.distance(point))));
+    return u"%1: %2 / %3"_s.arg(qRound(edit.draft().start.distanceTo(place(0))))
+        .arg(distances.join(u' '))
+        .arg(edit.draft().gateSize);
+}
+
+} // namespace
+
+class TestMapEditor : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void edits_data()
+    {
+        QTest::addColumn<QString>("commands");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("past another") << u"0 150"_s << u"0: 200 250 400 / 5"_s;
+        QTest::newRow("past the line") << u"0 -120"_s << u"0: 200 380 400 / 5"_s;
+        QTest::newRow("line") << u"-1 30"_s << u"30: 70 170 400 / 5"_s;
+        QTest::newRow("line past a point") << u"-1 20 40 36 3 -19"_s << u"80: 20 120 400 / 5"_s;
+        QTest::newRow("line alone") << u"remove 2,-1 30"_s << u"30: 70 170 / 5"_s;
+        QTest::newRow("a gesture is a step")
+            << u"0 -10 -20,gate 9,undo,undo"_s << u"0: 100 200 400 / 5"_s;
+        QTest::newRow("in the longest") << u"add"_s << u"0: 100 200 300 400 / 5"_s;
+        QTest::newRow("eight at most") << u"add 10,add 20,add 30,add 40,add 50,add 60,gate 0"_s
+                                       << u"0: 10 20 30 40 50 100 200 400 / 1"_s;
+    }
+    void edits()
+    {
+        QFETCH(const QString, commands);
+        MapEdit edit(square());
+        const QStringList list = commands.split(u',');
+        for (const QString &command : list)
+            run(edit, command);
+        QTEST(textOf(edit), "expected");
+        QCOMPARE(edit.draft().outline.first(), edit.draft().start);
+        QCOMPARE(edit.draft().outline.last(), edit.draft().start);
+        QVERIFY(qAbs(TrackRing(edit.draft().outline).length() - 400.0) < 0.1);
+        while (edit.history().canUndo())
+            edit.history().undo();
+        QCOMPARE(edit.draft(), square());
+    }
+
+    // At a crossing a dragged point stays on its piece of track.
+    void crossing()
+    {
+        const TrackRing ring(
+            {place(-100, -100), place(100, 100), place(100, -100), place(-100, 100)});
+        const double along = ring.nearest(place(-50, -50)).along;
+        QVERIFY(qAbs(ring.nearest(place(1, -1), along).along - along) < 80.0);
+    }
+
+    void names()
+    {
+        using enum MapNameFault;
+        for (const auto &[name, fault] : {std::pair(u"Brünn 2"_s, None),
+                                          {u" "_s, Empty},
+                                          {u".a"_s, Dot},
+                                          {u"a/b"_s, Character},
+                                          {u"a\tb"_s, Character},
+                                          {u"NUL"_s, Reserved},
+                                          {u"com1"_s, Reserved},
+                                          {u"x"_s.repeated(MaximumMapName), None},
+                                          {u"x"_s.repeated(MaximumMapName + 1), TooLong}})
+            QCOMPARE(faultOfMapName(name), fault);
+        QCOMPARE(faultOfMapFolder(u"Spain/South"_s), None);
+        QCOMPARE(faultOfMapFolder(u"../Spain"_s), Dot);
+        QCOMPARE(faultOfMapFolder(u"Spain/"_s), Empty);
+        QCOMPARE(freeMapName(u"Jerez"_s, {u"/Spain/jerez.map"_s, u"/Jerez 2.map"_s}), u"Jerez 3"_s);
+        QCOMPARE(proposedMapName({}, u"2026-07-11 13h45 Le_Mans.ra1"_s, u"Cup"_s), u"Le Mans"_s);
+        QCOMPARE(proposedMapName({}, u"0012.ra1"_s, u"Cup: 1."_s), u"Cup 1"_s);
+    }
+
+    // The whole way: proposed, named, saved, changed, renamed, deleted; a map of the demo's is not
+    // ours, so a copy of it is changed.
+    void files()
+    {
+        const QTemporaryDir root;
+        // Where the trash is.
+        qputenv("XDG_DATA_HOME", root.path().toUtf8());
+        const Settings settings(root.path());
+        const QString folder = settings.mapsFolder();
+        const QString session = settings.acquisitionFolder() + u"/" + AtValmora;
+        putFile(session, demoFile(AtValmora));
+        putFile(folder + u"/Karoosberg.map", demoFile(u"Karoosberg.map"_s));
+        AcquisitionLibrary library;
+        library.load(settings.acquisitionFolder());
+        MapLibrary maps;
+        maps.loadMaps(folder);
+        InformationWriter writer;
+        SessionDisplay display({library, maps, settings, writer});
+        MapMaker maker({library, maps, display, settings}, nullptr);
+        connect(&maker, &MapMaker::mapsChanged, &display, [&] {
+            display.clear();
+            library.reload(settings.acquisitionFolder());
+            maps.loadMaps(folder);
+            display.display(session);
+        });
+        const auto shownMap = [&display] {
+            const Map *map = display.session()->map();
+            return map != nullptr ? map->name() : QString();
+        };
+        display.display(session);
+        QCOMPARE(shownMap(), QString());
+        const QByteArray foreign = contents(folder + u"/Karoosberg.map");
+
+        answer({u"a.b"_s, u"Hill"_s});
+        maker.newMap();
+        QCOMPARE(shownMap(), u"/Hill.map"_s);
+        QVERIFY(display.session()->laps().size() > 3);
+
+        answer({u"Moved"_s});
+        maker.editMap(u"/Hill.map"_s);
+        QCOMPARE(shownMap(), u"/Moved.map"_s);
+        answer({QString()});
+        maker.editMap(u"/Karoosberg.map"_s);
+        answer({u"Karoosberg"_s, u"Turn"_s});
+        maker.renameMap(u"/Moved.map"_s);
+        QCOMPARE(shownMap(), u"/Turn.map"_s);
+        QCOMPARE(settings.mapChoice(AtValmora), u"/Turn.map"_s);
+        QCOMPARE(filesIn(folder).keys(),
+                 QStringList({u"Karoosberg 2.map"_s, u"Karoosberg.map"_s, u"Turn.map"_s}));
+        QCOMPARE(contents(folder + u"/Karoosberg.map"), foreign);
+
+        answer({u""_s});
+        maker.deleteMap(u"/Turn.map"_s);
+        QCOMPARE(shownMap(), QString());
+        QVERIFY(settings.mapChoice(AtValmora).isNull());
+        QVERIFY(QFile::exists(root.filePath(u"Trash/files/Turn.map"_s)));
+    }
+
+private:
+    // Types the names into the dialogs that come, one after the other, and says yes.
+    static void answer(const QStringList &names)
+    {
+        QTimer::singleShot(0, qApp, [names] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
+                answer(names);
+                QAbstractButton *yes = box->button(QMessageBox::Yes);
+                (yes != nullptr ? yes : box->button(QMessageBox::Ok))->click();
+                return;
+            }
+            auto *edit = dialog->findChild<QLineEdit *>();
+            if (!names[0].isNull())
+                edit->setText(names[0]);
+            // A name that cannot be had leaves the dialog open, or brings a message.
+            if (names.size() > 1)
+                answer(names.mid(1));
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+    }
+};
+
+QTEST_MAIN(TestMapEditor)
+#include "tst_mapeditor.moc"
