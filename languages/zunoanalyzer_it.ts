@@ -216,16 +216,6 @@
         <translation>%1 campioni senza GPS</translation>
     </message>
     <message>
-        <source>No map is known for the place where this session was recorded, so it cannot be cut into laps.
-
-Choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
-%1</source>
-        <translation>Nessuna mappa è nota per il luogo in cui è stata registrata questa sessione, perciò non si può dividere in giri.
-
-Scegli una mappa con «Mappe» (Ctrl+M) o copia il file di mappa del circuito in
-%1</translation>
-    </message>
-    <message>
         <source>The map &quot;%1&quot; has no start point, so laps cannot be cut.
 
 Choose another map with &quot;Maps&quot; (Ctrl+M).</source>
@@ -276,6 +266,40 @@ Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).<
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
         <translation>Primo giro scelto: Mappa: %1 --- Sessione: %2 --- Giro n.: %3 --- Tempo: %4 --- Velocità max: %5 km/h</translation>
+    </message>
+    <message>
+        <source>No map is known for the place where this session was recorded, so it cannot be cut into laps.
+
+Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>zuno</name>
+    <message>
+        <source>Give the map a name to save it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dots cannot stand in a map&apos;s name or folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These cannot stand in a map&apos;s name or folder: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This name is too long; %1 characters are the most.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New track</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -607,10 +631,6 @@ Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).<
 <context>
     <name>zuno::InformationWriter</name>
     <message>
-        <source>the file ends too early</source>
-        <translation>il file finisce troppo presto</translation>
-    </message>
-    <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
         <translation>%1 non è stato modificato: %2. Le modifiche restano fino alla chiusura del programma.</translation>
     </message>
@@ -621,6 +641,14 @@ Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).<
     <message>
         <source>%1 was changed by another program meanwhile; its changes were kept.</source>
         <translation>%1 è stato modificato nel frattempo da un altro programma; le sue modifiche sono state mantenute.</translation>
+    </message>
+    <message>
+        <source>the file is write-protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is damaged, or ends too early</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -827,10 +855,317 @@ Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).<
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckModel</name>
+    <message>
+        <source>Incomplete</source>
+        <translation type="unfinished">Incompleto</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation type="unfinished">Giro</translation>
+    </message>
+    <message>
+        <source>Lap time</source>
+        <translation type="unfinished">Tempo giro</translation>
+    </message>
+    <message>
+        <source>Section %1</source>
+        <translation type="unfinished">Settore %1</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
         <translation>Non è stato possibile creare la cartella «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapEdit</name>
+    <message>
+        <source>Move point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add timing point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove timing point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change gate size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change outline</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapEditor</name>
+    <message>
+        <source>Map editor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Country :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder below the maps folder; may be empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Session :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The session whose laps are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outline :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lap that the outline of the track follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gate size :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far from a timing point a lap is timed; twice as far at the start/finish line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Annulla</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map has no start/finish line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map has been changed. Do you want to save it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 m</source>
+        <translation type="unfinished">%1 m</translation>
+    </message>
+    <message>
+        <source>As it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lap %1: %2, %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapMaker</name>
+    <message>
+        <source>Hardly a sample of this session says where the motorcycle was, so no map can be made from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The motorcycle stood still for the whole session, so no map can be made from it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This session never comes back to where it was, in the same direction: it holds no lap to make a map from. Take a session with one whole lap and a bit more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is a proposal. Give it a name and save it, or drag its points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; was not made with this program and stays as it is. You are changing a copy of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a map &quot;%1&quot; already. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map could not be saved: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename map</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is a map &quot;%1&quot; already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; could not be renamed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to delete the map &quot;%1&quot;?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map cannot be moved to the trash. Do you want to delete it for good?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The map &quot;%1&quot; could not be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapWarning</name>
+    <message>
+        <source>the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>timing point %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (%1 laps)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (lap %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (laps %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no start/finish point, so there are no laps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This session never passes the line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laps pass by %1 outside of its circle%3. Move the point onto their way or make the gate larger.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laps come to %1 before they come to %2. Number the points in riding order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another piece of the track runs through the circle of %1%3. Make the gate smaller or move the point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A pit lane, or a ride in the other direction, passes through the circle of %1%3. Make the gate smaller or move the point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The circles of %1 and %2 touch. Move the points apart or make the gate smaller.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One pass of the line counts twice%3: the rider was still inside its circle when it could count again. Make the gate smaller or move the line to where everybody is fast.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No lap is as long as the outline, so none counts as complete.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last point, %1, is not on the line: the rest of the lap belongs to no section.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -854,6 +1189,26 @@ Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).<
     <message>
         <source>No session loaded</source>
         <translation>Nessuna sessione caricata</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reload maps</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1209,6 +1564,20 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Giro %1 (%2) contro giro %3 (%4): %5 s</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
+
+%1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
