@@ -26,7 +26,10 @@ fi
 build=build/$preset
 scripts/install-dependencies.sh --gui
 cmake --preset "$preset" >/dev/null
-cmake --build --preset "$preset" --target zunoanalyzer zuno zuno-pictures
+# The program comes with the manual, which wants pictures that may be taken here for the first time.
+targets=(zuno zuno-pictures languages)
+[[ $mode ]] || targets+=(zunoanalyzer)
+cmake --build --preset "$preset" --target "${targets[@]}"
 
 # Few colours, and nothing that would differ from one day to the next.
 pack() { # pack FROM TO

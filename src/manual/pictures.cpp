@@ -7,12 +7,14 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
 #include <QWebEngineView>
 
 #include <app/librarytree.h>
+#include <app/mapmaker.h>
 #include <manual/stage.h>
 #include <maps/mapviewcontroller.h>
 #include <views/lapcharts.h>
@@ -29,7 +31,7 @@ enum Menu { Settings = 1, Maps = 2, Statistics = 3 };
 
 constexpr QSize WindowSize(1360, 850);
 // Where the cursor of the charts stands, metres from the line: where riders brake.
-constexpr double CursorPlace = 430;
+constexpr double CursorPlace = 350;
 constexpr double ApartTime = 63; // seconds
 constexpr int LastSector = 3;
 // What is left around a text that is cut out, pixels.
@@ -124,10 +126,13 @@ void takeNoMap(Stage &stage, const Take &take)
     auto &state = stage.part<QLabel>("lb_state");
     QString text = state.text();
     state.setText(text.replace(stage.home(), QStringLiteral("/home/laura/.local/share")));
-    const QRect part = state.fontMetrics()
-                           .boundingRect(state.rect(), Qt::AlignCenter | Qt::TextWordWrap, text)
-                           .marginsAdded({Around, Around, Around, Around});
-    take(QStringLiteral("no-map"), state.grab(part));
+    stage.settle();
+    const QRect words = state.fontMetrics()
+                            .boundingRect(state.rect(), state.alignment() | Qt::TextWordWrap, text)
+                            .translated(state.pos());
+    const QRect all = words | stage.part<QPushButton>("pb_newMap").geometry();
+    take(QStringLiteral("no-map"),
+         state.parentWidget()->grab(all.marginsAdded({Around, Around, Around, Around})));
 }
 
 void openIdealTime(Stage &stage)
@@ -144,6 +149,7 @@ void takeDialogs(Stage &stage, const Take &take)
 {
     const auto visit = [&](const char *name, const std::function<void()> &open) {
         const bool isSeen = stage.visit(open, [&](QWidget &dialog) {
+            stage.settle();
             take(QString::fromLatin1(name), Stage::picture(dialog));
         });
         if (!isSeen)
@@ -153,6 +159,7 @@ void takeDialogs(Stage &stage, const Take &take)
     stage.show(QStringLiteral("2026-07-12 09h27"));
     visit("settings", [&] { stage.menu(Settings).trigger(); });
     visit("maps", [&] { stage.menu(Maps).trigger(); });
+    visit("map-editor", [&] { stage.object<MapMaker>().newMap(); });
     visit("statistics", [&] { stage.menu(Statistics).trigger(); });
 }
 
