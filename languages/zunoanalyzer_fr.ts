@@ -272,34 +272,37 @@ Si elle a été roulée sur un autre circuit, choisissez la carte de ce circuit 
 
 Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune carte n&apos;est connue pour le lieu où cette session a été enregistrée&#xa0;: elle ne peut pas être découpée en tours.
+
+Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (Ctrl+M) ou copiez le fichier de carte du circuit dans
+%1</translation>
     </message>
 </context>
 <context>
     <name>zuno</name>
     <message>
         <source>Give the map a name to save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donnez un nom à la carte pour l&apos;enregistrer.</translation>
     </message>
     <message>
         <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom et le dossier d&apos;une carte ne peuvent pas contenir de points.</translation>
     </message>
     <message>
         <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom et le dossier d&apos;une carte ne peuvent pas contenir&#xa0;: %1</translation>
     </message>
     <message>
         <source>Windows keeps this name for a device; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows réserve ce nom à un périphérique&#xa0;; choisissez-en un autre.</translation>
     </message>
     <message>
         <source>This name is too long; %1 characters are the most.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce nom est trop long&#xa0;; il a %1 caractères au plus.</translation>
     </message>
     <message>
         <source>New track</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau circuit</translation>
     </message>
 </context>
 <context>
@@ -644,11 +647,11 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>the file is write-protected</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est protégé en écriture</translation>
     </message>
     <message>
         <source>the file is damaged, or ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier est endommagé ou tronqué</translation>
     </message>
 </context>
 <context>
@@ -858,19 +861,19 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapCheckModel</name>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished">Incomplet</translation>
+        <translation>Incomplet</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished">Tour</translation>
+        <translation>Tour</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished">Temps au tour</translation>
+        <translation>Temps au tour</translation>
     </message>
     <message>
         <source>Section %1</source>
-        <translation type="unfinished">Secteur %1</translation>
+        <translation>Secteur %1</translation>
     </message>
 </context>
 <context>
@@ -884,288 +887,288 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapEdit</name>
     <message>
         <source>Move point</source>
-        <translation type="unfinished"></translation>
+        <translation>le déplacement du point</translation>
     </message>
     <message>
         <source>Add timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;ajout du point de chronométrage</translation>
     </message>
     <message>
         <source>Remove timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>le retrait du point de chronométrage</translation>
     </message>
     <message>
         <source>Change gate size</source>
-        <translation type="unfinished"></translation>
+        <translation>le changement de taille des portes</translation>
     </message>
     <message>
         <source>Change outline</source>
-        <translation type="unfinished"></translation>
+        <translation>le changement de tracé</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
     <message>
         <source>Map editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Éditeur de carte</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Country :</source>
-        <translation type="unfinished"></translation>
+        <translation>Pays&#xa0;:</translation>
     </message>
     <message>
         <source>The folder below the maps folder; may be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Le sous-dossier du dossier des cartes&#xa0;; peut rester vide</translation>
     </message>
     <message>
         <source>Session :</source>
-        <translation type="unfinished"></translation>
+        <translation>Session&#xa0;:</translation>
     </message>
     <message>
         <source>The session whose laps are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La session dont les tours sont affichés</translation>
     </message>
     <message>
         <source>Outline :</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracé&#xa0;:</translation>
     </message>
     <message>
         <source>The lap that the outline of the track follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tour que suit le tracé du circuit</translation>
     </message>
     <message>
         <source>Gate size :</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille des portes&#xa0;:</translation>
     </message>
     <message>
         <source>How far from a timing point a lap is timed; twice as far at the start/finish line</source>
-        <translation type="unfinished"></translation>
+        <translation>Jusqu&apos;à quelle distance d&apos;un point de chronométrage un tour est chronométré&#xa0;; le double sur la ligne de départ/arrivée</translation>
     </message>
     <message>
         <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Les flèches gauche et droite déplacent le point sélectionné de 1 m, avec Maj de 10 m</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>From the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Depuis la ligne</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute un point de chronométrage dans le secteur le plus long&#xa0;; un clic sur la piste en ajoute un à cet endroit</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Défaire</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Refaire</translation>
     </message>
     <message>
         <source>The map has no start/finish line.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n&apos;a pas de ligne de départ/arrivée.</translation>
     </message>
     <message>
         <source>The map has been changed. Do you want to save it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte a été modifiée. Voulez-vous l&apos;enregistrer&#xa0;?</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1&#xa0;m</translation>
     </message>
     <message>
         <source>As it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Tel quel</translation>
     </message>
     <message>
         <source>Lap %1: %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour %1&#xa0;: %2, %3</translation>
     </message>
     <message>
         <source>Start/finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ/arrivée</translation>
     </message>
     <message>
         <source>%1 (on the line)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (sur la ligne)</translation>
     </message>
     <message>
         <source>Choose a session to see the laps that the map gives.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une session pour voir les tours que donne la carte.</translation>
     </message>
     <message>
         <source>No complete lap. Length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun tour complet. Longueur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Complets&#xa0;: %1. Meilleur&#xa0;: %2 (tour %3). Idéal&#xa0;: %4. Longueur&#xa0;: %5</translation>
     </message>
     <message>
         <source>No problems found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun problème trouvé.</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
     <message>
         <source>Hardly a sample of this session says where the motorcycle was, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presque aucun point de mesure de cette session ne dit où était la moto&#xa0;: il n&apos;est pas possible d&apos;en faire une carte.</translation>
     </message>
     <message>
         <source>The motorcycle stood still for the whole session, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moto est restée immobile pendant toute la session&#xa0;: il n&apos;est pas possible d&apos;en faire une carte.</translation>
     </message>
     <message>
         <source>This session never comes back to where it was, in the same direction: it holds no lap to make a map from. Take a session with one whole lap and a bit more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette session ne repasse jamais au même endroit dans le même sens&#xa0;: elle ne contient aucun tour dont on puisse faire une carte. Prenez une session avec un tour entier et un peu plus.</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartes</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle carte</translation>
     </message>
     <message>
         <source>This is a proposal. Give it a name and save it, or drag its points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci est une proposition. Nommez-la et enregistrez-la, ou déplacez ses points.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; was not made with this program and stays as it is. You are changing a copy of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte «&#xa0;%1&#xa0;» n&apos;a pas été faite avec ce programme et reste telle quelle. Vous en modifiez une copie.</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte «&#xa0;%1&#xa0;» existe déjà. Voulez-vous la remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>The map could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte n&apos;a pas pu être enregistrée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Rename map</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer la carte</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom&#xa0;:</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte «&#xa0;%1&#xa0;» existe déjà.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte «&#xa0;%1&#xa0;» n&apos;a pas pu être renommée.</translation>
     </message>
     <message>
         <source>Do you want to delete the map &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous supprimer la carte «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>The map cannot be moved to the trash. Do you want to delete it for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte ne peut pas être mise à la corbeille. Voulez-vous la supprimer définitivement&#xa0;?</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte «&#xa0;%1&#xa0;» n&apos;a pas pu être supprimée.</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne</translation>
     </message>
     <message>
         <source>timing point %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le point de chronométrage %1</translation>
     </message>
     <message>
         <source> (%1 laps)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 tours)</translation>
     </message>
     <message>
         <source> (lap %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (tour %1)</translation>
     </message>
     <message>
         <source> (laps %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (tours %1)</translation>
     </message>
     <message>
         <source>There is no start/finish point, so there are no laps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de point de départ/arrivée, donc pas de tours.</translation>
     </message>
     <message>
         <source>This session never passes the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette session ne franchit jamais la ligne.</translation>
     </message>
     <message>
         <source>Laps pass by %1 outside of its circle%3. Move the point onto their way or make the gate larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des tours manquent %1%3&#xa0;: ils passent hors de son cercle. Mettez le point sur leur trajet ou agrandissez la porte.</translation>
     </message>
     <message>
         <source>Laps come to %1 before they come to %2. Number the points in riding order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des tours atteignent %1 avant %2. Numérotez les points dans l&apos;ordre de passage.</translation>
     </message>
     <message>
         <source>Another piece of the track runs through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre morceau de la piste traverse le cercle qui entoure %1%3. Réduisez la porte ou déplacez le point.</translation>
     </message>
     <message>
         <source>A pit lane, or a ride in the other direction, passes through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une voie des stands, ou un passage en sens inverse, traverse le cercle qui entoure %1%3. Réduisez la porte ou déplacez le point.</translation>
     </message>
     <message>
         <source>The circles of %1 and %2 touch. Move the points apart or make the gate smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les cercles qui entourent %1 et %2 se touchent. Écartez les points ou réduisez la porte.</translation>
     </message>
     <message>
         <source>One pass of the line counts twice%3: the rider was still inside its circle when it could count again. Make the gate smaller or move the line to where everybody is fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un passage sur la ligne compte deux fois%3&#xa0;: le pilote était encore dans son cercle quand elle pouvait compter de nouveau. Réduisez la porte ou déplacez la ligne là où tout le monde est rapide.</translation>
     </message>
     <message>
         <source>No lap is as long as the outline, so none counts as complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun tour n&apos;est aussi long que le tracé&#xa0;: aucun ne compte comme complet.</translation>
     </message>
     <message>
         <source>The last point, %1, is not on the line: the rest of the lap belongs to no section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier point, %1, n&apos;est pas sur la ligne&#xa0;: le reste du tour n&apos;appartient à aucun secteur.</translation>
     </message>
     <message>
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tour a %4 secteurs au plus&#xa0;; les points de chronométrage après %1 sont ignorés.</translation>
     </message>
 </context>
 <context>
@@ -1192,23 +1195,23 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle carte à partir de cette session...</translation>
     </message>
     <message>
         <source>Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier...</translation>
     </message>
     <message>
         <source>Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer...</translation>
     </message>
     <message>
         <source>Delete...</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer...</translation>
     </message>
     <message>
         <source>Reload maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Recharger les cartes</translation>
     </message>
 </context>
 <context>
@@ -1567,17 +1570,19 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle carte à partir de cette session...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est plus là&#xa0;: le fichier a été supprimé ou déplacé.</translation>
     </message>
     <message>
         <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier de vos sessions n&apos;est plus là&#xa0;: il a été déplacé, ou son disque a été retiré.
+
+%1</translation>
     </message>
 </context>
 </TS>
