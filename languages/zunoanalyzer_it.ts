@@ -272,34 +272,37 @@ Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).<
 
 Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna mappa è nota per il luogo in cui è stata registrata questa sessione, perciò non si può dividere in giri.
+
+Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copia il file di mappa del circuito in
+%1</translation>
     </message>
 </context>
 <context>
     <name>zuno</name>
     <message>
         <source>Give the map a name to save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per salvare la mappa, dalle un nome.</translation>
     </message>
     <message>
         <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome e la cartella di una mappa non possono contenere punti.</translation>
     </message>
     <message>
         <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome e la cartella di una mappa non possono contenere: %1</translation>
     </message>
     <message>
         <source>Windows keeps this name for a device; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows riserva questo nome a un dispositivo; scegline un altro.</translation>
     </message>
     <message>
         <source>This name is too long; %1 characters are the most.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo nome è troppo lungo; può avere al massimo %1 caratteri.</translation>
     </message>
     <message>
         <source>New track</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo circuito</translation>
     </message>
 </context>
 <context>
@@ -644,11 +647,11 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>the file is write-protected</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è protetto da scrittura</translation>
     </message>
     <message>
         <source>the file is damaged, or ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è danneggiato o finisce troppo presto</translation>
     </message>
 </context>
 <context>
@@ -858,19 +861,19 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapCheckModel</name>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished">Incompleto</translation>
+        <translation>Incompleto</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished">Giro</translation>
+        <translation>Giro</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished">Tempo giro</translation>
+        <translation>Tempo giro</translation>
     </message>
     <message>
         <source>Section %1</source>
-        <translation type="unfinished">Settore %1</translation>
+        <translation>Settore %1</translation>
     </message>
 </context>
 <context>
@@ -884,288 +887,288 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapEdit</name>
     <message>
         <source>Move point</source>
-        <translation type="unfinished"></translation>
+        <translation>lo spostamento del punto</translation>
     </message>
     <message>
         <source>Add timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;aggiunta del punto di intertempo</translation>
     </message>
     <message>
         <source>Remove timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>la rimozione del punto di intertempo</translation>
     </message>
     <message>
         <source>Change gate size</source>
-        <translation type="unfinished"></translation>
+        <translation>la modifica della dimensione delle porte</translation>
     </message>
     <message>
         <source>Change outline</source>
-        <translation type="unfinished"></translation>
+        <translation>la modifica del tracciato</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
     <message>
         <source>Map editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor della mappa</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>Country :</source>
-        <translation type="unfinished"></translation>
+        <translation>Paese:</translation>
     </message>
     <message>
         <source>The folder below the maps folder; may be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La sottocartella della cartella delle mappe; può restare vuota</translation>
     </message>
     <message>
         <source>Session :</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessione:</translation>
     </message>
     <message>
         <source>The session whose laps are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La sessione di cui si vedono i giri</translation>
     </message>
     <message>
         <source>Outline :</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracciato:</translation>
     </message>
     <message>
         <source>The lap that the outline of the track follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Il giro seguito dal tracciato del circuito</translation>
     </message>
     <message>
         <source>Gate size :</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione porte:</translation>
     </message>
     <message>
         <source>How far from a timing point a lap is timed; twice as far at the start/finish line</source>
-        <translation type="unfinished"></translation>
+        <translation>Fino a che distanza da un punto di intertempo un giro viene cronometrato; il doppio sul traguardo</translation>
     </message>
     <message>
         <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Le frecce sinistra e destra spostano il punto selezionato di 1 m, con Shift di 10 m</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>From the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dal traguardo</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi</translation>
     </message>
     <message>
         <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunge un punto di intertempo nel settore più lungo; un clic sulla pista ne aggiunge uno in quel punto</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annulla</translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripeti</translation>
     </message>
     <message>
         <source>The map has no start/finish line.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mappa non ha un traguardo.</translation>
     </message>
     <message>
         <source>The map has been changed. Do you want to save it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La mappa è stata modificata. Salvarla?</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1&#xa0;m</translation>
     </message>
     <message>
         <source>As it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Così com&apos;è</translation>
     </message>
     <message>
         <source>Lap %1: %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro %1: %2, %3</translation>
     </message>
     <message>
         <source>Start/finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Traguardo</translation>
     </message>
     <message>
         <source>%1 (on the line)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (sul traguardo)</translation>
     </message>
     <message>
         <source>Choose a session to see the laps that the map gives.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli una sessione per vedere i giri che la mappa ne ricava.</translation>
     </message>
     <message>
         <source>No complete lap. Length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun giro completo. Lunghezza: %1</translation>
     </message>
     <message>
         <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Completi: %1. Migliore: %2 (giro %3). Ideale: %4. Lunghezza: %5</translation>
     </message>
     <message>
         <source>No problems found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun problema trovato.</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
     <message>
         <source>Hardly a sample of this session says where the motorcycle was, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quasi nessun campione di questa sessione dice dov&apos;era la moto, perciò non si può ricavarne una mappa.</translation>
     </message>
     <message>
         <source>The motorcycle stood still for the whole session, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moto è rimasta ferma per tutta la sessione, perciò non si può ricavarne una mappa.</translation>
     </message>
     <message>
         <source>This session never comes back to where it was, in the same direction: it holds no lap to make a map from. Take a session with one whole lap and a bit more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa sessione non torna mai in un punto già percorso nella stessa direzione: non contiene nessun giro da cui ricavare una mappa. Prendi una sessione con un giro intero e qualcosa in più.</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappe</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuova mappa</translation>
     </message>
     <message>
         <source>This is a proposal. Give it a name and save it, or drag its points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa è una proposta. Dalle un nome e salvala, o trascina i punti.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; was not made with this program and stays as it is. You are changing a copy of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mappa «%1» non è stata creata con questo programma e resta com&apos;è. Stai modificando una sua copia.</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La mappa «%1» esiste già. Sostituirla?</translation>
     </message>
     <message>
         <source>The map could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile salvare la mappa: %1</translation>
     </message>
     <message>
         <source>Rename map</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina la mappa</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome:</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mappa «%1» esiste già.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile rinominare la mappa «%1».</translation>
     </message>
     <message>
         <source>Do you want to delete the map &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare la mappa «%1»?</translation>
     </message>
     <message>
         <source>The map cannot be moved to the trash. Do you want to delete it for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>La mappa non si può spostare nel cestino. Eliminarla definitivamente?</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile eliminare la mappa «%1».</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
-        <translation type="unfinished"></translation>
+        <translation>il traguardo</translation>
     </message>
     <message>
         <source>timing point %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il punto di intertempo %1</translation>
     </message>
     <message>
         <source> (%1 laps)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 giri)</translation>
     </message>
     <message>
         <source> (lap %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (giro %1)</translation>
     </message>
     <message>
         <source> (laps %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (giri %1)</translation>
     </message>
     <message>
         <source>There is no start/finish point, so there are no laps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un traguardo, perciò non ci sono giri.</translation>
     </message>
     <message>
         <source>This session never passes the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa sessione non passa mai sul traguardo.</translation>
     </message>
     <message>
         <source>Laps pass by %1 outside of its circle%3. Move the point onto their way or make the gate larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcuni giri saltano %1%3: passano fuori dal suo cerchio. Metti il punto sul loro percorso o allarga la porta.</translation>
     </message>
     <message>
         <source>Laps come to %1 before they come to %2. Number the points in riding order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcuni giri raggiungono %1 prima di raggiungere %2. Numera i punti nell&apos;ordine in cui li percorri.</translation>
     </message>
     <message>
         <source>Another piece of the track runs through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro tratto della pista attraversa il cerchio che circonda %1%3. Stringi la porta o sposta il punto.</translation>
     </message>
     <message>
         <source>A pit lane, or a ride in the other direction, passes through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una corsia dei box, o un passaggio in senso contrario, attraversa il cerchio che circonda %1%3. Stringi la porta o sposta il punto.</translation>
     </message>
     <message>
         <source>The circles of %1 and %2 touch. Move the points apart or make the gate smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>I cerchi che circondano %1 e %2 si toccano. Allontana i punti o stringi la porta.</translation>
     </message>
     <message>
         <source>One pass of the line counts twice%3: the rider was still inside its circle when it could count again. Make the gate smaller or move the line to where everybody is fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un passaggio sul traguardo conta due volte%3: il pilota era ancora nel suo cerchio quando poteva contare di nuovo. Stringi la porta o sposta il traguardo dove tutti sono veloci.</translation>
     </message>
     <message>
         <source>No lap is as long as the outline, so none counts as complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun giro è lungo quanto il tracciato, perciò nessuno conta come completo.</translation>
     </message>
     <message>
         <source>The last point, %1, is not on the line: the rest of the lap belongs to no section.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ultimo punto, %1, non è sul traguardo: il resto del giro non appartiene a nessun settore.</translation>
     </message>
     <message>
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un giro ha al massimo %4 settori; i punti di intertempo dopo %1 non contano.</translation>
     </message>
 </context>
 <context>
@@ -1192,23 +1195,23 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuova mappa da questa sessione...</translation>
     </message>
     <message>
         <source>Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica...</translation>
     </message>
     <message>
         <source>Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina...</translation>
     </message>
     <message>
         <source>Delete...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina...</translation>
     </message>
     <message>
         <source>Reload maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarica le mappe</translation>
     </message>
 </context>
 <context>
@@ -1567,17 +1570,19 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuova mappa da questa sessione...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» non c&apos;è più: è stato eliminato o spostato.</translation>
     </message>
     <message>
         <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella delle tue sessioni non c&apos;è più: è stata spostata, o il suo disco è stato scollegato.
+
+%1</translation>
     </message>
 </context>
 </TS>
