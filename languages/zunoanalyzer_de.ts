@@ -272,34 +272,37 @@ Wurde sie auf einer anderen Strecke gefahren, so wählen Sie deren Karte mit „
 
 Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Ort dieser Aufzeichnung ist keine Karte bekannt, daher kann die Session nicht in Runden geteilt werden.
+
+Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder kopieren Sie die Kartendatei der Strecke nach
+%1</translation>
     </message>
 </context>
 <context>
     <name>zuno</name>
     <message>
         <source>Give the map a name to save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie der Karte einen Namen, um sie zu speichern.</translation>
     </message>
     <message>
         <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Name und Ordner einer Karte dürfen keinen Punkt (.) enthalten.</translation>
     </message>
     <message>
         <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Zeichen dürfen in Name und Ordner einer Karte nicht stehen: %1</translation>
     </message>
     <message>
         <source>Windows keeps this name for a device; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows benutzt diesen Namen für ein Gerät; wählen Sie einen anderen.</translation>
     </message>
     <message>
         <source>This name is too long; %1 characters are the most.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Name ist zu lang; höchstens %1 Zeichen sind möglich.</translation>
     </message>
     <message>
         <source>New track</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Strecke</translation>
     </message>
 </context>
 <context>
@@ -644,11 +647,11 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>the file is write-protected</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist schreibgeschützt</translation>
     </message>
     <message>
         <source>the file is damaged, or ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>die Datei ist beschädigt oder endet zu früh</translation>
     </message>
 </context>
 <context>
@@ -858,19 +861,19 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapCheckModel</name>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished">Unvollständig</translation>
+        <translation>Unvollständig</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished">Runde</translation>
+        <translation>Runde</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished">Rundenzeit</translation>
+        <translation>Rundenzeit</translation>
     </message>
     <message>
         <source>Section %1</source>
-        <translation type="unfinished">Sektor %1</translation>
+        <translation>Sektor %1</translation>
     </message>
 </context>
 <context>
@@ -884,288 +887,288 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapEdit</name>
     <message>
         <source>Move point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt verschieben</translation>
     </message>
     <message>
         <source>Add timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitnahmepunkt hinzufügen</translation>
     </message>
     <message>
         <source>Remove timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitnahmepunkt entfernen</translation>
     </message>
     <message>
         <source>Change gate size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe der Tore ändern</translation>
     </message>
     <message>
         <source>Change outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf ändern</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
     <message>
         <source>Map editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Karteneditor</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>Country :</source>
-        <translation type="unfinished"></translation>
+        <translation>Land:</translation>
     </message>
     <message>
         <source>The folder below the maps folder; may be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner im Ordner der Karten; darf leer sein</translation>
     </message>
     <message>
         <source>Session :</source>
-        <translation type="unfinished"></translation>
+        <translation>Session:</translation>
     </message>
     <message>
         <source>The session whose laps are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Session, deren Runden gezeigt werden</translation>
     </message>
     <message>
         <source>Outline :</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf:</translation>
     </message>
     <message>
         <source>The lap that the outline of the track follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Runde, der der Verlauf der Strecke folgt</translation>
     </message>
     <message>
         <source>Gate size :</source>
-        <translation type="unfinished"></translation>
+        <translation>Torgröße:</translation>
     </message>
     <message>
         <source>How far from a timing point a lap is timed; twice as far at the start/finish line</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit von einem Zeitnahmepunkt entfernt eine Runde noch gemessen wird; an der Start-Ziel-Linie doppelt so weit</translation>
     </message>
     <message>
         <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Pfeiltasten links und rechts verschieben den gewählten Punkt um 1 m, mit Umschalt um 10 m</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punkt</translation>
     </message>
     <message>
         <source>From the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab der Linie</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügt im längsten Sektor einen Zeitnahmepunkt hinzu; ein Klick auf die Strecke fügt dort einen hinzu</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keines</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>The map has no start/finish line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte hat keine Start-Ziel-Linie.</translation>
     </message>
     <message>
         <source>The map has been changed. Do you want to save it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte wurde geändert. Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>As it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Unverändert</translation>
     </message>
     <message>
         <source>Lap %1: %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Runde %1: %2, %3</translation>
     </message>
     <message>
         <source>Start/finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Start-Ziel</translation>
     </message>
     <message>
         <source>%1 (on the line)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (auf der Linie)</translation>
     </message>
     <message>
         <source>Choose a session to see the laps that the map gives.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Session, um die Runden dieser Karte zu sehen.</translation>
     </message>
     <message>
         <source>No complete lap. Length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine vollständige Runde. Länge: %1</translation>
     </message>
     <message>
         <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständig: %1. Beste: %2 (Runde %3). Ideal: %4. Länge: %5</translation>
     </message>
     <message>
         <source>No problems found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Probleme gefunden.</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
     <message>
         <source>Hardly a sample of this session says where the motorcycle was, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaum ein Messpunkt dieser Session sagt, wo das Motorrad war, daher lässt sich daraus keine Karte machen.</translation>
     </message>
     <message>
         <source>The motorcycle stood still for the whole session, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Motorrad stand die ganze Session lang still, daher lässt sich daraus keine Karte machen.</translation>
     </message>
     <message>
         <source>This session never comes back to where it was, in the same direction: it holds no lap to make a map from. Take a session with one whole lap and a bit more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Session kommt nie in derselben Richtung an eine Stelle zurück: Sie enthält keine Runde für eine Karte. Nehmen Sie eine Session mit einer ganzen Runde und etwas mehr.</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Karte</translation>
     </message>
     <message>
         <source>This is a proposal. Give it a name and save it, or drag its points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Vorschlag: benennen und speichern, oder die Punkte ziehen.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; was not made with this program and stays as it is. You are changing a copy of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte „%1“ stammt nicht aus diesem Programm und bleibt, wie sie ist. Sie ändern eine Kopie davon.</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Karte „%1“ gibt es schon. Möchten Sie sie ersetzen?</translation>
     </message>
     <message>
         <source>The map could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte konnte nicht gespeichert werden: %1</translation>
     </message>
     <message>
         <source>Rename map</source>
-        <translation type="unfinished"></translation>
+        <translation>Karte umbenennen</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Name:</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Karte „%1“ gibt es schon.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte „%1“ konnte nicht umbenannt werden.</translation>
     </message>
     <message>
         <source>Do you want to delete the map &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Karte „%1“ löschen?</translation>
     </message>
     <message>
         <source>The map cannot be moved to the trash. Do you want to delete it for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte kann nicht in den Papierkorb verschoben werden. Möchten Sie sie endgültig löschen?</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte „%1“ konnte nicht gelöscht werden.</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Start-Ziel-Linie</translation>
     </message>
     <message>
         <source>timing point %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitnahmepunkt %1</translation>
     </message>
     <message>
         <source> (%1 laps)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 Runden)</translation>
     </message>
     <message>
         <source> (lap %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (Runde %1)</translation>
     </message>
     <message>
         <source> (laps %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (Runden %1)</translation>
     </message>
     <message>
         <source>There is no start/finish point, so there are no laps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Karte hat keinen Startpunkt, daher gibt es keine Runden.</translation>
     </message>
     <message>
         <source>This session never passes the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Session überquert nie die Start-Ziel-Linie.</translation>
     </message>
     <message>
         <source>Laps pass by %1 outside of its circle%3. Move the point onto their way or make the gate larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Runden führen außen am Kreis vorbei%3. Verschieben Sie den Punkt auf ihren Weg, oder vergrößern Sie das Tor.</translation>
     </message>
     <message>
         <source>Laps come to %1 before they come to %2. Number the points in riding order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Runden erreichen %1 vor %2. Nummerieren Sie die Punkte in der Reihenfolge der Fahrt.</translation>
     </message>
     <message>
         <source>Another piece of the track runs through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Ein anderes Stück der Strecke führt durch den Kreis%3. Verkleinern Sie das Tor, oder verschieben Sie den Punkt.</translation>
     </message>
     <message>
         <source>A pit lane, or a ride in the other direction, passes through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Eine Boxengasse oder eine Fahrt in Gegenrichtung führt durch den Kreis%3. Verkleinern Sie das Tor, oder verschieben Sie den Punkt.</translation>
     </message>
     <message>
         <source>The circles of %1 and %2 touch. Move the points apart or make the gate smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kreise von %1 und %2 berühren sich. Ziehen Sie die Punkte auseinander, oder verkleinern Sie das Tor.</translation>
     </message>
     <message>
         <source>One pass of the line counts twice%3: the rider was still inside its circle when it could count again. Make the gate smaller or move the line to where everybody is fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Fahrt über die Linie zählt doppelt%3: Der Fahrer war noch in ihrem Kreis, als sie wieder zählen konnte. Verkleinern Sie das Tor, oder verschieben Sie die Linie dorthin, wo alle schnell sind.</translation>
     </message>
     <message>
         <source>No lap is as long as the outline, so none counts as complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Runde ist so lang wie der Verlauf der Strecke, daher gilt keine als vollständig.</translation>
     </message>
     <message>
         <source>The last point, %1, is not on the line: the rest of the lap belongs to no section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte Punkt, %1, liegt nicht auf der Start-Ziel-Linie: Der Rest der Runde gehört zu keinem Sektor.</translation>
     </message>
     <message>
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Runde hat Platz für %4 Sektoren; die Punkte nach %1 werden ausgelassen.</translation>
     </message>
 </context>
 <context>
@@ -1192,23 +1195,23 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Karte aus dieser Session...</translation>
     </message>
     <message>
         <source>Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten...</translation>
     </message>
     <message>
         <source>Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen...</translation>
     </message>
     <message>
         <source>Delete...</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen...</translation>
     </message>
     <message>
         <source>Reload maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Karten neu laden</translation>
     </message>
 </context>
 <context>
@@ -1567,17 +1570,19 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Karte aus dieser Session...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht mehr da: die Datei wurde gelöscht oder verschoben.</translation>
     </message>
     <message>
         <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner Ihrer Sessions ist nicht mehr da: Er wurde verschoben, oder sein Laufwerk wurde entfernt.
+
+%1</translation>
     </message>
 </context>
 </TS>
