@@ -272,34 +272,37 @@ Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation
 
 Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the circuit&apos;s map file to
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce ningún mapa del lugar donde se grabó esta sesión, por lo que no se puede dividir en vueltas.
+
+Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el archivo de mapa del circuito en
+%1</translation>
     </message>
 </context>
 <context>
     <name>zuno</name>
     <message>
         <source>Give the map a name to save it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dé un nombre al mapa para guardarlo.</translation>
     </message>
     <message>
         <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre y la carpeta de un mapa no pueden llevar puntos (.).</translation>
     </message>
     <message>
         <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre y la carpeta de un mapa no pueden llevar estos caracteres: %1</translation>
     </message>
     <message>
         <source>Windows keeps this name for a device; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows reserva este nombre para un dispositivo; elija otro.</translation>
     </message>
     <message>
         <source>This name is too long; %1 characters are the most.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este nombre es demasiado largo; puede tener como máximo %1 caracteres.</translation>
     </message>
     <message>
         <source>New track</source>
-        <translation type="unfinished"></translation>
+        <translation>Circuito nuevo</translation>
     </message>
 </context>
 <context>
@@ -644,11 +647,11 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>the file is write-protected</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está protegido contra escritura</translation>
     </message>
     <message>
         <source>the file is damaged, or ends too early</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está dañado o termina antes de tiempo</translation>
     </message>
 </context>
 <context>
@@ -858,19 +861,19 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapCheckModel</name>
     <message>
         <source>Incomplete</source>
-        <translation type="unfinished">Incompleta</translation>
+        <translation>Incompleta</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished">Vuelta</translation>
+        <translation>Vuelta</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished">Tiempo vuelta</translation>
+        <translation>Tiempo vuelta</translation>
     </message>
     <message>
         <source>Section %1</source>
-        <translation type="unfinished">Sector %1</translation>
+        <translation>Sector %1</translation>
     </message>
 </context>
 <context>
@@ -884,288 +887,288 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     <name>zuno::MapEdit</name>
     <message>
         <source>Move point</source>
-        <translation type="unfinished"></translation>
+        <translation>mover punto</translation>
     </message>
     <message>
         <source>Add timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>añadir punto de cronometraje</translation>
     </message>
     <message>
         <source>Remove timing point</source>
-        <translation type="unfinished"></translation>
+        <translation>quitar punto de cronometraje</translation>
     </message>
     <message>
         <source>Change gate size</source>
-        <translation type="unfinished"></translation>
+        <translation>cambiar el tamaño de las puertas</translation>
     </message>
     <message>
         <source>Change outline</source>
-        <translation type="unfinished"></translation>
+        <translation>cambiar el trazado</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
     <message>
         <source>Map editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Editor de mapas</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre:</translation>
     </message>
     <message>
         <source>Country :</source>
-        <translation type="unfinished"></translation>
+        <translation>País:</translation>
     </message>
     <message>
         <source>The folder below the maps folder; may be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta dentro de la carpeta de mapas; puede quedar vacía</translation>
     </message>
     <message>
         <source>Session :</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión:</translation>
     </message>
     <message>
         <source>The session whose laps are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La sesión cuyas vueltas se muestran</translation>
     </message>
     <message>
         <source>Outline :</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazado:</translation>
     </message>
     <message>
         <source>The lap that the outline of the track follows</source>
-        <translation type="unfinished"></translation>
+        <translation>La vuelta que sigue el trazado del circuito</translation>
     </message>
     <message>
         <source>Gate size :</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de puerta:</translation>
     </message>
     <message>
         <source>How far from a timing point a lap is timed; twice as far at the start/finish line</source>
-        <translation type="unfinished"></translation>
+        <translation>A qué distancia de un punto de cronometraje se toma aún el tiempo; el doble en la línea de meta</translation>
     </message>
     <message>
         <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation type="unfinished"></translation>
+        <translation>Las flechas izquierda y derecha mueven el punto elegido 1 m; con Mayús, 10 m</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>From the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde la línea</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un punto de cronometraje en el sector más largo; un clic en la pista lo añade allí</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>The map has no start/finish line.</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa no tiene línea de meta.</translation>
     </message>
     <message>
         <source>The map has been changed. Do you want to save it?</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa se ha modificado. ¿Desea guardarlo?</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished">%1 m</translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>As it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Como está</translation>
     </message>
     <message>
         <source>Lap %1: %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelta %1: %2, %3</translation>
     </message>
     <message>
         <source>Start/finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Meta</translation>
     </message>
     <message>
         <source>%1 (on the line)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (en la línea)</translation>
     </message>
     <message>
         <source>Choose a session to see the laps that the map gives.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una sesión para ver las vueltas que da el mapa.</translation>
     </message>
     <message>
         <source>No complete lap. Length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna vuelta completa. Longitud: %1</translation>
     </message>
     <message>
         <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Completas: %1. Mejor: %2 (vuelta %3). Ideal: %4. Longitud: %5</translation>
     </message>
     <message>
         <source>No problems found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han encontrado problemas.</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
     <message>
         <source>Hardly a sample of this session says where the motorcycle was, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Casi ninguna muestra de esta sesión dice dónde estaba la moto, por lo que no se puede crear un mapa con ella.</translation>
     </message>
     <message>
         <source>The motorcycle stood still for the whole session, so no map can be made from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moto estuvo parada durante toda la sesión, por lo que no se puede crear un mapa con ella.</translation>
     </message>
     <message>
         <source>This session never comes back to where it was, in the same direction: it holds no lap to make a map from. Take a session with one whole lap and a bit more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta sesión nunca vuelve a un mismo lugar en el mismo sentido: no contiene ninguna vuelta para crear un mapa. Use una sesión con una vuelta entera y un poco más.</translation>
     </message>
     <message>
         <source>Maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapas</translation>
     </message>
     <message>
         <source>New map</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo mapa</translation>
     </message>
     <message>
         <source>This is a proposal. Give it a name and save it, or drag its points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es una propuesta: póngale nombre y guárdela, o arrastre sus puntos.</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; was not made with this program and stays as it is. You are changing a copy of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa «%1» no se creó con este programa y se queda como está. Usted modifica una copia.</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un mapa «%1». ¿Desea reemplazarlo?</translation>
     </message>
     <message>
         <source>The map could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el mapa: %1</translation>
     </message>
     <message>
         <source>Rename map</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar el nombre del mapa</translation>
     </message>
     <message>
         <source>Name :</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre:</translation>
     </message>
     <message>
         <source>There is a map &quot;%1&quot; already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un mapa «%1».</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cambiar el nombre del mapa «%1».</translation>
     </message>
     <message>
         <source>Do you want to delete the map &quot;%1&quot;?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea eliminar el mapa «%1»?</translation>
     </message>
     <message>
         <source>The map cannot be moved to the trash. Do you want to delete it for good?</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa no se puede mover a la papelera. ¿Desea eliminarlo para siempre?</translation>
     </message>
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo eliminar el mapa «%1».</translation>
     </message>
 </context>
 <context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
-        <translation type="unfinished"></translation>
+        <translation>la línea de meta</translation>
     </message>
     <message>
         <source>timing point %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el punto de cronometraje %1</translation>
     </message>
     <message>
         <source> (%1 laps)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 vueltas)</translation>
     </message>
     <message>
         <source> (lap %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (vuelta %1)</translation>
     </message>
     <message>
         <source> (laps %1)</source>
-        <translation type="unfinished"></translation>
+        <translation> (vueltas %1)</translation>
     </message>
     <message>
         <source>There is no start/finish point, so there are no laps.</source>
-        <translation type="unfinished"></translation>
+        <translation>El mapa no tiene punto de salida, por lo que no hay vueltas.</translation>
     </message>
     <message>
         <source>This session never passes the line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta sesión nunca pasa por la línea de meta.</translation>
     </message>
     <message>
         <source>Laps pass by %1 outside of its circle%3. Move the point onto their way or make the gate larger.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay vueltas que pasan por %1 fuera de su círculo%3. Mueva el punto a su recorrido o haga la puerta más grande.</translation>
     </message>
     <message>
         <source>Laps come to %1 before they come to %2. Number the points in riding order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay vueltas que pasan por %1 antes que por %2. Numere los puntos en el orden de la marcha.</translation>
     </message>
     <message>
         <source>Another piece of the track runs through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro tramo de la pista atraviesa el círculo que rodea %1%3. Haga la puerta más pequeña o mueva el punto.</translation>
     </message>
     <message>
         <source>A pit lane, or a ride in the other direction, passes through the circle of %1%3. Make the gate smaller or move the point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un pit lane, o un paso en sentido contrario, atraviesa el círculo que rodea %1%3. Haga la puerta más pequeña o mueva el punto.</translation>
     </message>
     <message>
         <source>The circles of %1 and %2 touch. Move the points apart or make the gate smaller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los círculos que rodean %1 y %2 se tocan. Separe los puntos o haga la puerta más pequeña.</translation>
     </message>
     <message>
         <source>One pass of the line counts twice%3: the rider was still inside its circle when it could count again. Make the gate smaller or move the line to where everybody is fast.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un paso por la línea de meta cuenta dos veces%3: el piloto seguía dentro de su círculo cuando ya podía volver a contar. Haga la puerta más pequeña o mueva la línea a donde todos van rápido.</translation>
     </message>
     <message>
         <source>No lap is as long as the outline, so none counts as complete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna vuelta es tan larga como el trazado, por lo que ninguna cuenta como completa.</translation>
     </message>
     <message>
         <source>The last point, %1, is not on the line: the rest of the lap belongs to no section.</source>
-        <translation type="unfinished"></translation>
+        <translation>El último, %1, no está en la línea de meta: el resto de la vuelta no pertenece a ningún sector.</translation>
     </message>
     <message>
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>En una vuelta caben %4 sectores; el último acaba en %1, los demás puntos se omiten.</translation>
     </message>
 </context>
 <context>
@@ -1192,23 +1195,23 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo mapa de esta sesión...</translation>
     </message>
     <message>
         <source>Edit...</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar...</translation>
     </message>
     <message>
         <source>Rename...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre...</translation>
     </message>
     <message>
         <source>Delete...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar...</translation>
     </message>
     <message>
         <source>Reload maps</source>
-        <translation type="unfinished"></translation>
+        <translation>Recargar mapas</translation>
     </message>
 </context>
 <context>
@@ -1567,17 +1570,19 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo mapa de esta sesión...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya no está: se ha eliminado o movido.</translation>
     </message>
     <message>
         <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
 
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de sus sesiones ya no está: se ha movido, o se ha retirado su unidad.
+
+%1</translation>
     </message>
 </context>
 </TS>
