@@ -279,33 +279,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
-    <name>zuno</name>
-    <message>
-        <source>Give the map a name to save it.</source>
-        <translation>Geben Sie der Karte einen Namen, um sie zu speichern.</translation>
-    </message>
-    <message>
-        <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation>Name und Ordner einer Karte dürfen keinen Punkt (.) enthalten.</translation>
-    </message>
-    <message>
-        <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation>Diese Zeichen dürfen in Name und Ordner einer Karte nicht stehen: %1</translation>
-    </message>
-    <message>
-        <source>Windows keeps this name for a device; choose another one.</source>
-        <translation>Windows benutzt diesen Namen für ein Gerät; wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>This name is too long; %1 characters are the most.</source>
-        <translation>Dieser Name ist zu lang; höchstens %1 Zeichen sind möglich.</translation>
-    </message>
-    <message>
-        <source>New track</source>
-        <translation>Neue Strecke</translation>
-    </message>
-</context>
-<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -1102,6 +1075,33 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>Die Karte „%1“ konnte nicht gelöscht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapName</name>
+    <message>
+        <source>Give the map a name to save it.</source>
+        <translation>Geben Sie der Karte einen Namen, um sie zu speichern.</translation>
+    </message>
+    <message>
+        <source>Dots cannot stand in a map&apos;s name or folder.</source>
+        <translation>Name und Ordner einer Karte dürfen keinen Punkt (.) enthalten.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a map&apos;s name or folder: %1</source>
+        <translation>Diese Zeichen dürfen in Name und Ordner einer Karte nicht stehen: %1</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows benutzt diesen Namen für ein Gerät; wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>This name is too long; %1 characters are the most.</source>
+        <translation>Dieser Name ist zu lang; höchstens %1 Zeichen sind möglich.</translation>
+    </message>
+    <message>
+        <source>New track</source>
+        <translation>Neue Strecke</translation>
     </message>
 </context>
 <context>

@@ -279,33 +279,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
-    <name>zuno</name>
-    <message>
-        <source>Give the map a name to save it.</source>
-        <translation>Dé un nombre al mapa para guardarlo.</translation>
-    </message>
-    <message>
-        <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation>El nombre y la carpeta de un mapa no pueden llevar puntos (.).</translation>
-    </message>
-    <message>
-        <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation>El nombre y la carpeta de un mapa no pueden llevar estos caracteres: %1</translation>
-    </message>
-    <message>
-        <source>Windows keeps this name for a device; choose another one.</source>
-        <translation>Windows reserva este nombre para un dispositivo; elija otro.</translation>
-    </message>
-    <message>
-        <source>This name is too long; %1 characters are the most.</source>
-        <translation>Este nombre es demasiado largo; puede tener como máximo %1 caracteres.</translation>
-    </message>
-    <message>
-        <source>New track</source>
-        <translation>Circuito nuevo</translation>
-    </message>
-</context>
-<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -1102,6 +1075,33 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>No se pudo eliminar el mapa «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapName</name>
+    <message>
+        <source>Give the map a name to save it.</source>
+        <translation>Dé un nombre al mapa para guardarlo.</translation>
+    </message>
+    <message>
+        <source>Dots cannot stand in a map&apos;s name or folder.</source>
+        <translation>El nombre y la carpeta de un mapa no pueden llevar puntos (.).</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a map&apos;s name or folder: %1</source>
+        <translation>El nombre y la carpeta de un mapa no pueden llevar estos caracteres: %1</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows reserva este nombre para un dispositivo; elija otro.</translation>
+    </message>
+    <message>
+        <source>This name is too long; %1 characters are the most.</source>
+        <translation>Este nombre es demasiado largo; puede tener como máximo %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>New track</source>
+        <translation>Circuito nuevo</translation>
     </message>
 </context>
 <context>

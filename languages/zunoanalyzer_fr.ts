@@ -279,33 +279,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
-    <name>zuno</name>
-    <message>
-        <source>Give the map a name to save it.</source>
-        <translation>Donnez un nom à la carte pour l&apos;enregistrer.</translation>
-    </message>
-    <message>
-        <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation>Le nom et le dossier d&apos;une carte ne peuvent pas contenir de points.</translation>
-    </message>
-    <message>
-        <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation>Le nom et le dossier d&apos;une carte ne peuvent pas contenir&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Windows keeps this name for a device; choose another one.</source>
-        <translation>Windows réserve ce nom à un périphérique&#xa0;; choisissez-en un autre.</translation>
-    </message>
-    <message>
-        <source>This name is too long; %1 characters are the most.</source>
-        <translation>Ce nom est trop long&#xa0;; il a %1 caractères au plus.</translation>
-    </message>
-    <message>
-        <source>New track</source>
-        <translation>Nouveau circuit</translation>
-    </message>
-</context>
-<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -1102,6 +1075,33 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>La carte «&#xa0;%1&#xa0;» n&apos;a pas pu être supprimée.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapName</name>
+    <message>
+        <source>Give the map a name to save it.</source>
+        <translation>Donnez un nom à la carte pour l&apos;enregistrer.</translation>
+    </message>
+    <message>
+        <source>Dots cannot stand in a map&apos;s name or folder.</source>
+        <translation>Le nom et le dossier d&apos;une carte ne peuvent pas contenir de points.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a map&apos;s name or folder: %1</source>
+        <translation>Le nom et le dossier d&apos;une carte ne peuvent pas contenir&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows réserve ce nom à un périphérique&#xa0;; choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>This name is too long; %1 characters are the most.</source>
+        <translation>Ce nom est trop long&#xa0;; il a %1 caractères au plus.</translation>
+    </message>
+    <message>
+        <source>New track</source>
+        <translation>Nouveau circuit</translation>
     </message>
 </context>
 <context>

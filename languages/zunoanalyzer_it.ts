@@ -279,33 +279,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
-    <name>zuno</name>
-    <message>
-        <source>Give the map a name to save it.</source>
-        <translation>Per salvare la mappa, dalle un nome.</translation>
-    </message>
-    <message>
-        <source>Dots cannot stand in a map&apos;s name or folder.</source>
-        <translation>Il nome e la cartella di una mappa non possono contenere punti.</translation>
-    </message>
-    <message>
-        <source>These cannot stand in a map&apos;s name or folder: %1</source>
-        <translation>Il nome e la cartella di una mappa non possono contenere: %1</translation>
-    </message>
-    <message>
-        <source>Windows keeps this name for a device; choose another one.</source>
-        <translation>Windows riserva questo nome a un dispositivo; scegline un altro.</translation>
-    </message>
-    <message>
-        <source>This name is too long; %1 characters are the most.</source>
-        <translation>Questo nome è troppo lungo; può avere al massimo %1 caratteri.</translation>
-    </message>
-    <message>
-        <source>New track</source>
-        <translation>Nuovo circuito</translation>
-    </message>
-</context>
-<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -1102,6 +1075,33 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>Non è stato possibile eliminare la mappa «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapName</name>
+    <message>
+        <source>Give the map a name to save it.</source>
+        <translation>Per salvare la mappa, dalle un nome.</translation>
+    </message>
+    <message>
+        <source>Dots cannot stand in a map&apos;s name or folder.</source>
+        <translation>Il nome e la cartella di una mappa non possono contenere punti.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a map&apos;s name or folder: %1</source>
+        <translation>Il nome e la cartella di una mappa non possono contenere: %1</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows riserva questo nome a un dispositivo; scegline un altro.</translation>
+    </message>
+    <message>
+        <source>This name is too long; %1 characters are the most.</source>
+        <translation>Questo nome è troppo lungo; può avere al massimo %1 caratteri.</translation>
+    </message>
+    <message>
+        <source>New track</source>
+        <translation>Nuovo circuito</translation>
     </message>
 </context>
 <context>

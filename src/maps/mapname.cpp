@@ -13,10 +13,10 @@ namespace zuno {
 
 namespace {
 
-QString tr(const char *text)
+struct MapName
 {
-    return QCoreApplication::translate("zuno::MapName", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(zuno::MapName)
+};
 
 bool isForbidden(QChar c)
 {
@@ -85,15 +85,17 @@ QString describe(MapNameFault fault)
     case MapNameFault::None:
         break;
     case MapNameFault::Empty:
-        return tr("Give the map a name to save it.");
+        return MapName::tr("Give the map a name to save it.");
     case MapNameFault::Dot:
-        return tr("Dots cannot stand in a map's name or folder.");
+        return MapName::tr("Dots cannot stand in a map's name or folder.");
     case MapNameFault::Character:
-        return tr("These cannot stand in a map's name or folder: %1").arg(u"< > : \" / \\ | ? *");
+        return MapName::tr("These cannot stand in a map's name or folder: %1")
+            .arg(u"< > : \" / \\ | ? *");
     case MapNameFault::Reserved:
-        return tr("Windows keeps this name for a device; choose another one.");
+        return MapName::tr("Windows keeps this name for a device; choose another one.");
     case MapNameFault::TooLong:
-        return tr("This name is too long; %1 characters are the most.").arg(MaximumMapName);
+        return MapName::tr("This name is too long; %1 characters are the most.")
+            .arg(MaximumMapName);
     }
     return {};
 }
@@ -143,7 +145,7 @@ QString proposedMapName(const QString &circuit, const QString &fileName, const Q
         if (!name.isEmpty())
             return name;
     }
-    return tr("New track");
+    return MapName::tr("New track");
 }
 
 } // namespace zuno
