@@ -132,7 +132,7 @@ private Q_SLOTS:
             QCOMPARE(faultOfMapName(name), fault);
         QCOMPARE(faultOfMapFolder(u"Spain/South"_s), None);
         QCOMPARE(faultOfMapFolder(u"../Spain"_s), Dot);
-        QCOMPARE(faultOfMapFolder(u"Spain/"_s), Empty);
+        QCOMPARE(faultOfMapFolder(u"Spain/"_s), Character);
         QCOMPARE(freeMapName(u"Jerez"_s, {u"/Spain/jerez.map"_s, u"/Jerez 2.map"_s}), u"Jerez 3"_s);
         QCOMPARE(proposedMapName({}, u"2026-07-11 13h45 Le_Mans.ra1"_s, u"Cup"_s), u"Le Mans"_s);
         QCOMPARE(proposedMapName({}, u"0012.ra1"_s, u"Cup: 1."_s), u"Cup 1"_s);

@@ -70,9 +70,10 @@ MapNameFault faultOfMapFolder(const QString &folder)
         return MapNameFault::None;
     const QStringList parts = folder.split(u'/');
     for (const QString &part : parts) {
-        // Blanks around a folder's name would be another folder on some systems.
-        const MapNameFault fault
-            = part == part.trimmed() ? faultOfMapName(part) : MapNameFault::Character;
+        // Blanks around a folder's name would be another folder on some systems, and a stroke too
+        // many is no missing name of the map.
+        const bool isPlain = !part.isEmpty() && part == part.trimmed();
+        const MapNameFault fault = isPlain ? faultOfMapName(part) : MapNameFault::Character;
         if (fault != MapNameFault::None)
             return fault;
     }
