@@ -96,7 +96,12 @@ QGeoCoordinate MapEdit::place(int point) const
 
 bool MapEdit::canAdd() const
 {
-    return pointCount() < MaximumSectors && !m_state.path->isEmpty() && draft().start.isValid();
+    return !isFull() && !m_state.path->isEmpty() && draft().start.isValid();
+}
+
+bool MapEdit::isFull() const
+{
+    return pointCount() >= MaximumSectors;
 }
 
 void MapEdit::beginGesture()

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] QGeoCoordinate place(int point) const;
     [[nodiscard]] int pointCount() const { return static_cast<int>(draft().timingPoints.size()); }
     [[nodiscard]] bool canAdd() const;
+    /// Whether there are as many timing points as a lap has sectors, or more.
+    [[nodiscard]] bool isFull() const;
     [[nodiscard]] QUndoStack &history() { return m_history; }
 
     /// Begins a gesture: the changes of one kind until the next call are one step.

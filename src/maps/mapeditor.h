@@ -90,6 +90,7 @@ private:
     void onTrackClicked(const QGeoCoordinate &place, double metresPerPixel);
     void nudge(double metres);
     void addPoint();
+    void showAdded(int point);
     void removePoint();
     void joinChanges(int kind);
 
@@ -109,6 +110,8 @@ private:
     MapViewController *m_map = nullptr;
     Points m_samples;
     MapProposal m_proposal;
+    /// What the first entry of the outlines' box brings back.
+    QList<QGeoCoordinate> m_outline;
     /// Which entry of the outlines' box a way around came from.
     QHash<const TrackRing *, int> m_outlines;
     QTimer m_checkSoon;

@@ -9,9 +9,11 @@
 #include <cmath>
 
 #include <QLocale>
+#include <QMessageBox>
 #include <QSignalBlocker>
 
 #include <maps/mapviewcontroller.h>
+#include <session/lap.h>
 #include <session/laptimes.h>
 
 #include "ui_mapeditor.h"
@@ -29,9 +31,10 @@ constexpr qint64 Pause = 1000;
 // Lines of text that a warning takes, and that are seen without scrolling; pixels around them.
 constexpr int WarningLines = 3;
 constexpr int MostWarningLines = 6;
+constexpr int LowWarningLines = 4;
 constexpr int WarningMargin = 8;
 
-// In a low window the list of points scrolls; the laps need the room more.
+// In a low window the lists of points and warnings scroll; the laps need the room more.
 constexpr int LowWindow = 850;
 constexpr int LowRows = 5;
 
@@ -67,13 +70,13 @@ void MapEditor::showSession(int session)
 void MapEditor::fillOutlines()
 {
     m_outlines = {{&m_edit.path(), 0}};
+    m_outline = m_edit.draft().outline;
     m_ui->cb_outline->clear();
     m_ui->cb_outline->addItem(tr("As it is"));
-    for (std::size_t i = 0; i < m_proposal.laps.size(); ++i) {
-        const FoundLap &lap = m_proposal.laps[i];
-        m_ui->cb_outline->addItem(
-            tr("Lap %1: %2, %3")
-                .arg(QString::number(i + 1), timeText(qRound64(lap.time)), metresText(lap.length)));
+    // Without numbers: the laps of the table are counted from the line, which may be elsewhere.
+    for (const FoundLap &lap : m_proposal.laps) {
+        const QString text = timeText(qRound64(lap.time)) + u", " + metresText(lap.length);
+        m_ui->cb_outline->addItem(text);
     }
     m_ui->cb_outline->setEnabled(m_ui->cb_outline->count() > 1);
 }
@@ -81,7 +84,7 @@ void MapEditor::fillOutlines()
 void MapEditor::chooseOutline(int index)
 {
     if (index <= 0) {
-        m_edit.setOutline(m_content.draft.outline);
+        m_edit.setOutline(m_outline);
     } else {
         const FoundLap &lap = m_proposal.laps[static_cast<std::size_t>(index - 1)];
         m_edit.setOutline(outlineOf(m_samples, lap, m_proposal.draft.start));
@@ -136,11 +139,8 @@ void MapEditor::onGateResized(double metres, bool done)
 
 void MapEditor::onTrackClicked(const QGeoCoordinate &place, double metresPerPixel)
 {
-    if (m_edit.path().nearest(place).off > ClickReach * metresPerPixel)
-        return;
-    const int added = m_edit.addPoint(place);
-    if (added != MapEdit::NoPoint)
-        select(added);
+    if (m_edit.path().nearest(place).off <= ClickReach * metresPerPixel)
+        showAdded(m_edit.addPoint(place));
 }
 
 void MapEditor::nudge(double metres)
@@ -158,9 +158,19 @@ void MapEditor::nudge(double metres)
 
 void MapEditor::addPoint()
 {
-    const int added = m_edit.addPoint();
-    if (added != MapEdit::NoPoint)
-        select(added);
+    showAdded(m_edit.addPoint());
+}
+
+void MapEditor::showAdded(int point)
+{
+    if (point != MapEdit::NoPoint)
+        select(point);
+    else if (m_edit.isFull())
+        QMessageBox::information(
+            this, windowTitle(),
+            tr("A map has room for %1 timing points. Remove one of them to add "
+               "another.")
+                .arg(QLocale().toString(MaximumSectors)));
 }
 
 void MapEditor::removePoint()
@@ -200,7 +210,8 @@ void MapEditor::showPoints()
     const int rows = height() < LowWindow ? std::min(table.rowCount(), LowRows) : table.rowCount();
     const int head = table.horizontalHeader()->sizeHint().height() + (2 * table.frameWidth());
     table.setFixedHeight(head + (rows * table.verticalHeader()->defaultSectionSize()));
-    m_ui->pb_add->setEnabled(m_edit.canAdd());
+    // The button says why no more can be added.
+    m_ui->pb_add->setEnabled(m_edit.canAdd() || m_edit.isFull());
     m_ui->pb_remove->setEnabled(m_selected >= 0);
 }
 
@@ -260,7 +271,8 @@ void MapEditor::showWarnings()
         item->setFlags(Qt::NoItemFlags);
     }
     const bool isWarned = !m_laps.check().warnings.isEmpty();
-    const int lines = !isWarned ? 1 : std::min(WarningLines * list.count(), MostWarningLines);
+    const int most = height() < LowWindow ? LowWarningLines : MostWarningLines;
+    const int lines = !isWarned ? 1 : std::min(WarningLines * list.count(), most);
     list.setFixedHeight((lines * list.fontMetrics().lineSpacing()) + (2 * list.frameWidth())
                         + WarningMargin);
 }
