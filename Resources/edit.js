@@ -309,12 +309,13 @@ function showPath() {
     fitPath();
 }
 
-/** Shows the whole of what is edited, until the rider has looked elsewhere. */
+/** Shows the whole circuit, until the rider has looked elsewhere. The way to it is only of interest
+ *  before there is an outline: a session can be tried that was ridden far from the draft. */
 function fitPath() {
     if (map === null || edited === null || isTouched || window.innerWidth === 0)
         return;
     const bounds = new google.maps.LatLngBounds();
-    for (const place of edited.path.length > 0 ? edited.path : edited.outline)
+    for (const place of edited.outline.length > 0 ? edited.outline : edited.path)
         bounds.extend(place);
     if (!bounds.isEmpty())
         map.fitBounds(bounds, EditPadding);
@@ -331,8 +332,6 @@ function showOutline() {
         strokeColor: EditColours.outline, strokeOpacity: 0.9, strokeWeight: 4,
     });
     arrows = [0.12, 0.45, 0.78].map(drawArrow);
-    if (edited.path.length === 0)
-        fitPath();
 }
 
 /** An arrow in riding order. @param {number} share of the outline that lies before it */
@@ -427,6 +426,7 @@ function editDraft(text) {
     const draft = JSON.parse(text);
     const { gateSize, selected, warned } = draft;
     const before = JSON.stringify([edited.selected, pointAt(edited.selected)]);
+    const hadOutline = edited.outline.length > 0;
     edited = {
         path: edited.path,
         outline: draft.outline ? placesOf(draft.outline) : edited.outline,
@@ -436,6 +436,8 @@ function editDraft(text) {
     };
     if (draft.outline)
         showOutline();
+    if (!hadOutline)
+        fitPath();
     showDraft();
     if (JSON.stringify([selected, pointAt(selected)]) !== before)
         keepSelectedInSight();

@@ -127,8 +127,9 @@ MapEditor::Content MapMaker::content(const MapDraft &draft, const QString &mapNa
             return 0;
         return session->circuitName() == nameOfMap(mapName) && !mapName.isEmpty() ? 1 : 2;
     };
-    std::stable_sort(sessions.begin(), sessions.end(),
-                     [&rank](const auto *a, const auto *b) { return rank(a) < rank(b); });
+    std::stable_sort(sessions.begin(), sessions.end(), [&rank](const auto *a, const auto *b) {
+        return std::pair(rank(a), a->fileName()) < std::pair(rank(b), b->fileName());
+    });
     MapEditor::Content content;
     content.draft = draft;
     QStringList paths;
