@@ -38,7 +38,9 @@ QStringList filesBelow(const QString &folder)
 QStringList foldersBelow(const QString &folder)
 {
     QStringList names;
-    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    // Maps behind a link are not found, so none is put there.
+    QDirIterator folders(folder, QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
     while (folders.hasNext())
         names.append(folders.next().mid(folder.size() + 1));
     names.sort(Qt::CaseInsensitive);

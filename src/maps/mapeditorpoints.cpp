@@ -231,7 +231,12 @@ void MapEditor::showCheck()
 {
     const QList<MapWarning> before = m_laps.check().warnings;
     const qsizetype columns = m_laps.columnCount();
-    m_laps.setCheck(checkMap(m_samples, m_edit.draft()), m_edit.pointCount());
+    MapCheck check = checkMap(m_samples, m_edit.draft());
+    if (m_samples.empty()) {
+        check.warnings.removeIf(
+            [](const MapWarning &warning) { return warning.kind == MapWarning::Kind::NoPass; });
+    }
+    m_laps.setCheck(std::move(check), m_edit.pointCount());
     if (m_laps.columnCount() != columns || m_ui->tv_laps->columnWidth(0) == 0)
         m_ui->tv_laps->resizeColumnsToContents();
     m_ui->lb_summary->setText(summary());
