@@ -1,14 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <csignal>
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
 #include <maps/map.h>
 #include <session/sessionfile.h>
 #include <session/sessionrewrite.h>
+#include <session/wholefile.h>
 
 #include "builders.h"
 
@@ -46,6 +53,28 @@ class TestSessionRewrite final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+#ifdef Q_OS_UNIX
+    // Files that may not grow stand for a disk without room.
+    void fullDisk()
+    {
+        putFile(m_path, "before");
+        for (const int size : {10, 16384, 16385}) {
+            rlimit room {};
+            QCOMPARE(getrlimit(RLIMIT_FSIZE, &room), 0);
+            const auto atLimit = std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit none {0, room.rlim_max};
+            setrlimit(RLIMIT_FSIZE, &none);
+            const QString problem = writeWholeFile(m_path, QByteArray(size, 'x'));
+            setrlimit(RLIMIT_FSIZE, &room);
+            std::signal(SIGXFSZ, atLimit);
+            QVERIFY(!problem.isEmpty());
+            QCOMPARE(contents(m_path), "before");
+        }
+        QCOMPARE(writeWholeFile(m_path, "after"), QString());
+        QCOMPARE(contents(m_path), "after");
+    }
+#endif
+
     void rewrites()
     {
         // What a change makes of a file; rewritten again, and opened again, it must stay the same.

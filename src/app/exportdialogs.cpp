@@ -8,12 +8,12 @@
 #include <QFileDialog>
 #include <QLocale>
 #include <QPointer>
-#include <QSaveFile>
 #include <QWidget>
 
 #include <session/csvexport.h>
 #include <session/lap.h>
 #include <session/session.h>
+#include <session/wholefile.h>
 
 namespace zuno {
 
@@ -78,10 +78,8 @@ void ExportDialogs::exportLap(const Lap *lap)
 
 void ExportDialogs::writeText(const QString &path, const QByteArray &text)
 {
-    QSaveFile file(path);
-    const bool isWritten
-        = file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
-    tellWritten(path, isWritten, file.errorString());
+    const QString problem = writeWholeFile(path, text);
+    tellWritten(path, problem.isEmpty(), problem);
 }
 
 void ExportDialogs::tellWritten(const QString &path, bool isWritten, const QString &error)

@@ -212,6 +212,7 @@ QString UpdateApp::save(const QByteArray &installer) const
     QSaveFile file(root.filePath(u"Temp/" + lastComponent(m_name)));
     const bool isSaved
         = file.open(QIODevice::WriteOnly) && file.write(installer) == installer.size()
+          && file.flush()
           && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)
           && file.commit();
     return isSaved ? file.fileName() : QString();

@@ -10,13 +10,13 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGeoRectangle>
-#include <QSaveFile>
 
 #include <maps/map.h>
 #include <maps/mapfile.h>
 #include <session/bytereader.h>
 #include <session/lap.h>
 #include <session/trace.h>
+#include <session/wholefile.h>
 
 namespace zuno {
 
@@ -115,11 +115,7 @@ QString writeMapFile(const MapDraft &draft, const QString &path)
     if (!QDir().mkpath(folder))
         return QCoreApplication::translate("zuno::MapDraft", "The folder \"%1\" cannot be made.")
             .arg(QDir::toNativeSeparators(folder));
-    QSaveFile file(path);
-    const QByteArray bytes = draft.toFile();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        return file.errorString();
-    return {};
+    return writeWholeFile(path, draft.toFile());
 }
 
 } // namespace zuno

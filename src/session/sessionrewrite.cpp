@@ -8,12 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSaveFile>
 
 #include <session/bytereader.h>
 #include <session/session.h>
 #include <session/sessionbuffer.h>
 #include <session/sessionfile.h>
+#include <session/wholefile.h>
 
 namespace zuno {
 
@@ -21,12 +21,9 @@ namespace {
 
 void writeWhole(const QString &path, const QByteArray &bytes, RewriteResult &result)
 {
-    QSaveFile file(path);
-    result.outcome = RewriteOutcome::Written;
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        result.outcome = RewriteOutcome::WriteFailed;
-        result.reason = file.errorString();
-    }
+    result.reason = writeWholeFile(path, bytes);
+    result.outcome
+        = result.reason.isEmpty() ? RewriteOutcome::Written : RewriteOutcome::WriteFailed;
 }
 
 // Copies of the program wait for each other from reading a file to writing it. Without a lock (no
