@@ -182,7 +182,8 @@ QString saveNewFile(const QString &path, const QByteArray &bytes)
     if (!QDir().mkpath(QFileInfo(path).path()))
         return QStringLiteral("%1: the folder cannot be created").arg(path);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()
+        || !file.commit())
         return QStringLiteral("%1: %2").arg(path, file.errorString());
     return {};
 }
