@@ -206,8 +206,9 @@ void MapMaker::editMap(const QString &name)
     const QString saved = run(std::move(opened), isOwn ? name : QString());
     if (saved.isEmpty())
         return;
-    // A map of ours that got another name in the editor has moved there.
-    if (isOwn && saved != name && QFile::remove(path(name)))
+    // A map of ours that got another name in the editor has moved there. The points may be others
+    // as well, so the old file is kept where the rider can get it back.
+    if (isOwn && saved != name && (moveToTrash(path(name)) || QFile::remove(path(name))))
         m_parts.settings.renameMapChoices(name, saved);
     if (isShown)
         m_parts.settings.setMapChoice(file, saved);
