@@ -982,10 +982,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <translation>Unverändert</translation>
     </message>
     <message>
-        <source>Lap %1: %2, %3</source>
-        <translation>Runde %1: %2, %3</translation>
-    </message>
-    <message>
         <source>Start/finish</source>
         <translation>Start-Ziel</translation>
     </message>
@@ -1008,6 +1004,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>No problems found.</source>
         <translation>Keine Probleme gefunden.</translation>
+    </message>
+    <message>
+        <source>A map has room for %1 timing points. Remove one of them to add another.</source>
+        <translation>Eine Karte hat Platz für %1 Zeitnahmepunkte. Entfernen Sie einen, um einen anderen hinzuzufügen.</translation>
     </message>
 </context>
 <context>

@@ -982,10 +982,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <translation>Como está</translation>
     </message>
     <message>
-        <source>Lap %1: %2, %3</source>
-        <translation>Vuelta %1: %2, %3</translation>
-    </message>
-    <message>
         <source>Start/finish</source>
         <translation>Meta</translation>
     </message>
@@ -1008,6 +1004,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>No problems found.</source>
         <translation>No se han encontrado problemas.</translation>
+    </message>
+    <message>
+        <source>A map has room for %1 timing points. Remove one of them to add another.</source>
+        <translation>Un mapa tiene sitio para %1 puntos de cronometraje. Quite uno para añadir otro.</translation>
     </message>
 </context>
 <context>

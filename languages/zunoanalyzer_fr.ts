@@ -982,10 +982,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <translation>Tel quel</translation>
     </message>
     <message>
-        <source>Lap %1: %2, %3</source>
-        <translation>Tour %1&#xa0;: %2, %3</translation>
-    </message>
-    <message>
         <source>Start/finish</source>
         <translation>Départ/arrivée</translation>
     </message>
@@ -1008,6 +1004,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>No problems found.</source>
         <translation>Aucun problème trouvé.</translation>
+    </message>
+    <message>
+        <source>A map has room for %1 timing points. Remove one of them to add another.</source>
+        <translation>Une carte a de la place pour %1 points de chronométrage. Retirez-en un pour en ajouter un autre.</translation>
     </message>
 </context>
 <context>

@@ -982,10 +982,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <translation>Così com&apos;è</translation>
     </message>
     <message>
-        <source>Lap %1: %2, %3</source>
-        <translation>Giro %1: %2, %3</translation>
-    </message>
-    <message>
         <source>Start/finish</source>
         <translation>Traguardo</translation>
     </message>
@@ -1008,6 +1004,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>No problems found.</source>
         <translation>Nessun problema trovato.</translation>
+    </message>
+    <message>
+        <source>A map has room for %1 timing points. Remove one of them to add another.</source>
+        <translation>Una mappa ha posto per %1 punti di intertempo. Rimuovine uno per aggiungerne un altro.</translation>
     </message>
 </context>
 <context>
