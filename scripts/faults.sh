@@ -88,6 +88,17 @@ no_room() {
     cat /dev/zero >"$full/rest" 2>/dev/null
     expect "full disk: the tool says so" tells "$zuno" set "$full/Ride.ra1" notes=full
     expect "full disk: the file stays" cmp -s "$full/Ride.ra1" "$ride"
+    if [[ -x $helper ]]; then
+        # Room for the file that locks the settings, and none for the settings themselves.
+        local ini="$full/Norvale/ZUNO Analyzer/ConfigAnalyzer.ini"
+        rm "$full/rest"
+        mkdir -p "${ini%/*}"
+        printf '[General]\nlastFileSelected=kept\n' >"$ini"
+        cat /dev/zero >"$full/rest" 2>/dev/null
+        truncate -s -4096 "$full/rest"
+        "$helper" settings "$full" 2 2>/dev/null
+        expect "full disk: the settings stay" grep -q kept "$ini"
+    fi
     umount "$full"
 }
 

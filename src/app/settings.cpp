@@ -5,13 +5,19 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 
+#include <QDebug>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
 namespace zuno {
 
 namespace {
+
+// More than the settings take, and the file that locks them; bytes.
+constexpr std::uintmax_t LeastRoom = 1 << 18;
 
 struct Entry
 {
@@ -123,14 +129,32 @@ bool Settings::isStored(Setting setting) const
     return QSettings(path(entry.file), QSettings::IniFormat).value(key(setting)).isValid();
 }
 
+// Qt 6.4 replaces the file without looking whether there was room for the new one: on a full disk
+// all settings would be gone. They stay as they were instead.
+void Settings::change(SettingsFile file, const std::function<void(QSettings &)> &make) const
+{
+    std::error_code unknown;
+    const QString folder = QFileInfo(path(file)).absolutePath();
+    const auto room = std::filesystem::space(folder.toStdU16String(), unknown);
+    if (!unknown && room.available < LeastRoom) {
+        qCritical() << "No room on the disk to store the settings:" << path(file);
+        return;
+    }
+    QSettings settings(path(file), QSettings::IniFormat);
+    make(settings);
+}
+
 void Settings::setValues(const QList<std::pair<Setting, QVariant>> &values) const
 {
     for (const SettingsFile file : {SettingsFile::Config, SettingsFile::Analyzer}) {
-        QSettings settings(path(file), QSettings::IniFormat);
-        for (const auto &[setting, value] : values) {
-            if (entryOf(setting).file == file)
+        QList<std::pair<Setting, QVariant>> own = values;
+        own.removeIf([file](const auto &pair) { return entryOf(pair.first).file != file; });
+        if (own.isEmpty())
+            continue;
+        change(file, [&own](QSettings &settings) {
+            for (const auto &[setting, value] : std::as_const(own))
                 settings.setValue(key(setting), value);
-        }
+        });
     }
 }
 
@@ -180,13 +204,13 @@ QString Settings::mapChoice(const QString &sessionFileName) const
 
 void Settings::setMapChoice(const QString &sessionFileName, const QString &mapName) const
 {
-    QSettings(path(SettingsFile::Analyzer), QSettings::IniFormat)
-        .setValue(sessionFileName, mapName);
+    change(SettingsFile::Analyzer,
+           [&](QSettings &settings) { settings.setValue(sessionFileName, mapName); });
 }
 
 void Settings::removeMapChoice(const QString &sessionFileName) const
 {
-    QSettings(path(SettingsFile::Analyzer), QSettings::IniFormat).remove(sessionFileName);
+    change(SettingsFile::Analyzer, [&](QSettings &settings) { settings.remove(sessionFileName); });
 }
 
 // Every key that is none of the table's is a session's.
@@ -203,17 +227,19 @@ QStringList Settings::sessionsOnMap(const QString &mapName) const
 void Settings::renameMapChoices(const QString &from, const QString &to) const
 {
     const QStringList sessions = sessionsOnMap(from);
-    QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
-    for (const QString &session : sessions)
-        settings.setValue(session, to);
+    change(SettingsFile::Analyzer, [&](QSettings &settings) {
+        for (const QString &session : sessions)
+            settings.setValue(session, to);
+    });
 }
 
 void Settings::removeMapChoices(const QString &mapName) const
 {
     const QStringList sessions = sessionsOnMap(mapName);
-    QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
-    for (const QString &session : sessions)
-        settings.remove(session);
+    change(SettingsFile::Analyzer, [&](QSettings &settings) {
+        for (const QString &session : sessions)
+            settings.remove(session);
+    });
 }
 
 } // namespace zuno

@@ -3,12 +3,15 @@
 
 #pragma once
 
+#include <functional>
 #include <utility>
 
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+
+class QSettings;
 
 namespace zuno {
 
@@ -95,6 +98,7 @@ public:
     void removeMapChoices(const QString &mapName) const;
 
 private:
+    void change(SettingsFile file, const std::function<void(QSettings &)> &make) const;
     [[nodiscard]] QStringList sessionsOnMap(const QString &mapName) const;
 
     QString m_root;
