@@ -17,6 +17,10 @@ constexpr double MostGate = 40.0;
 
 // Metres that a pass may be wider than any yet, and a neighbour nearer.
 constexpr double Margin = 1.0;
+constexpr double LittleMargin = 0.1;
+
+// And a neighbour, where there is room.
+constexpr double NeighbourMargin = 4.0;
 
 // The line is met within this many gate sizes, and at most once in so many samples.
 constexpr double LineReach = 2.0;
@@ -36,8 +40,9 @@ constexpr double ApartGates = 5.0;
 // A speed peak stands out by this part of its speed.
 constexpr double PeakPart = 0.06;
 
-// Whose passes a gate must hold: positions may have been lost in a few.
-enum class Passes { All, Most };
+// Whose passes a gate must hold, the first two with room to spare or just so: positions may have
+// been lost in a few.
+enum class Passes { AllEasily, All, Most };
 
 // Whether every lap from line to line passes a station.
 bool isPassedByAll(const Circuit &circuit, std::size_t line, std::size_t i)
@@ -62,8 +67,9 @@ bool isPassedByAll(const Circuit &circuit, std::size_t line, std::size_t i)
 bool fits(const Circuit &circuit, std::size_t i, double size, Passes passes)
 {
     const Station &station = circuit.at(i);
-    const double need = passes == Passes::All ? station.need : station.usualNeed;
-    return !station.passes.empty() && need + Margin <= size
+    const double need = passes == Passes::Most ? station.usualNeed : station.need;
+    const double margin = passes == Passes::All ? LittleMargin : Margin;
+    return !station.passes.empty() && need + margin <= size
            && size + Margin <= circuit.clearance(i);
 }
 
@@ -194,7 +200,10 @@ GateRoom lineRoom(const Circuit &circuit, std::size_t i)
     GateRoom room;
     room.least
         = std::max({LeastGate, (station.need + Margin) / LineReach, station.spread + Margin});
-    room.most = std::min(MostGate, (circuit.clearance(i) - Margin) / LineReach);
+    // Who stands in the pit lane wanders about there, and receivers err otherwise on other days.
+    const double clear = circuit.clearance(i);
+    const double wish = std::max(room.least, (clear - NeighbourMargin) / LineReach);
+    room.most = std::min({MostGate, wish, (clear - Margin) / LineReach});
     // He who is still inside when the line can be met again is counted twice.
     const double left = station.slowest * CoolDown * circuit.ride().interval();
     room.most = std::min(room.most, CoolDownPart * left / LineReach);
@@ -213,7 +222,7 @@ GateChoice chooseGates(const Circuit &circuit, std::size_t line, double part)
     const double wish = std::max(UsualGateSize, 1.3 * (*usual + Margin));
     GateChoice best;
     // Smaller where the track's pieces are near each other, larger where the samples are not.
-    for (const Passes passes : {Passes::All, Passes::Most}) {
+    for (const Passes passes : {Passes::AllEasily, Passes::All, Passes::Most}) {
         for (const double factor : std::array {1.0, 0.8, 0.65, 0.5, 1.3, 0.4, 1.6}) {
             const double size
                 = std::max(LeastGate, part * std::clamp(factor * wish, room.least, most));
