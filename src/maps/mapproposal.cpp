@@ -10,20 +10,15 @@
 #include <maps/circuit.h>
 #include <maps/draftlaps.h>
 #include <maps/gatechoice.h>
+#include <maps/lapoutline.h>
 #include <maps/linechoice.h>
-#include <maps/mapcheck.h>
+#include <maps/proposalworth.h>
 
 namespace zuno {
 
 namespace {
 
 constexpr double OutlineSpacing = 8.0;
-
-// The parts of a lap's way, at both ends, in which it is at the line.
-constexpr double EndPart = 0.25;
-
-// Metres after the line within which the outline goes over into the lap's own way.
-constexpr double BlendReach = 100.0;
 
 // A recording with fewer positions says nothing.
 constexpr std::size_t LeastPositions = 20;
@@ -37,13 +32,16 @@ constexpr double LengthTolerance = 0.1;
 constexpr double NearlyAround = 0.25;
 
 // How many lines are tried before the best of them is taken.
-constexpr std::size_t TriedLines = 4;
+constexpr std::size_t TriedLines = 6;
 
 // And how large their gates are tried to be.
-constexpr double GateParts[] = {1.0, 0.7, 0.5};
+constexpr double GateParts[] = {1.0, 0.8, 0.6};
 
-// A later one must be better by so much; without a fault nothing else is tried.
-constexpr double BetterBy = 1.05;
+// A later one must be worth so much of a lap more.
+constexpr double BetterBy = 0.2;
+
+// A perfect one may have a lap less: the ride may begin or end on the other side of its line.
+constexpr double PerfectBonus = 1.1;
 
 double median(std::vector<double> values)
 {
@@ -54,70 +52,13 @@ double median(std::vector<double> values)
     return *middle;
 }
 
-// The way of a lap between its ends on the line.
-class LapWay
+std::span<const PointAcquisition> samplesOf(std::span<const PointAcquisition> samples,
+                                            const FoundLap &lap)
 {
-public:
-    LapWay(std::span<const PointAcquisition> samples, const QGeoCoordinate &start)
-        : m_path(refined(lapPath(samples, start, Walk::Forwards)))
-    {
-        if (m_path.size() < 2)
-            return;
-        const double length = m_path.back().driven;
-        m_from = nearest(0.0, EndPart * length);
-        m_to = nearest((1.0 - EndPart) * length, length);
-    }
-
-    [[nodiscard]] double length() const { return m_to - m_from; }
-
-    // At so many metres from the line; the ends are bent to the start point.
-    [[nodiscard]] PlaneVector at(double driven) const
-    {
-        const double reach = std::min(BlendReach, length() / 4.0);
-        const double before = std::max(0.0, 1.0 - (driven / reach));
-        const double after = std::max(0.0, 1.0 - ((length() - driven) / reach));
-        return placeAt(m_from + driven) - (placeAt(m_from) * before) - (placeAt(m_to) * after);
-    }
-
-private:
-    [[nodiscard]] PlaneVector placeAt(double driven) const
-    {
-        const auto next
-            = std::partition_point(m_path.begin(), m_path.end(), [driven](const PathNode &node) {
-                  return node.driven <= driven;
-              });
-        if (next == m_path.begin() || next == m_path.end())
-            return (next == m_path.begin() ? m_path.front() : m_path.back()).place;
-        const PathNode &before = *(next - 1);
-        const double part = (driven - before.driven) / (next->driven - before.driven);
-        return before.place + ((next->place - before.place) * part);
-    }
-
-    // Where, between two distances, the way is nearest to the start point.
-    [[nodiscard]] double nearest(double least, double most) const
-    {
-        double best = least;
-        double bestDistance = placeAt(least).length();
-        for (std::size_t i = 0; i + 1 < m_path.size(); ++i) {
-            const PathNode &from = m_path[i];
-            const PathNode &to = m_path[i + 1];
-            if (to.driven < least || from.driven > most)
-                continue;
-            const PlaneVector step = to.place - from.place;
-            const double part = std::clamp(-(from.place * step) / (step * step), 0.0, 1.0);
-            const double distance = (from.place + (step * part)).length();
-            if (distance < bestDistance) {
-                bestDistance = distance;
-                best = from.driven + (part * (to.driven - from.driven));
-            }
-        }
-        return best;
-    }
-
-    LapPath m_path;
-    double m_from = 0.0;
-    double m_to = 0.0;
-};
+    if (lap.last >= samples.size() || lap.first >= lap.last)
+        return {};
+    return samples.subspan(lap.first, lap.last - lap.first + 1);
+}
 
 FoundLap foundLap(std::span<const PointAcquisition> samples, const Lap &lap)
 {
@@ -180,39 +121,35 @@ std::vector<FoundLap> lapsOfLength(std::span<const PointAcquisition> samples, co
     return found;
 }
 
-QList<QGeoCoordinate> evenOutline(std::span<const PointAcquisition> samples, const FoundLap &lap,
-                                  const QGeoCoordinate &start, double spacing)
-{
-    if (lap.last >= samples.size() || lap.first >= lap.last)
-        return {};
-    const LapWay way(samples.subspan(lap.first, lap.last - lap.first + 1), start);
-    if (!(way.length() > spacing))
-        return {};
-    const auto steps = static_cast<int>(std::round(way.length() / spacing));
-    const Plane plane(start);
-    QList<QGeoCoordinate> outline {start};
-    for (int i = 1; i < steps; ++i)
-        outline.append(plane.coordinate(way.at(way.length() * i / steps)));
-    outline.append(start);
-    return outline;
-}
-
-// An outline by whose length the lap counts as complete, and others with it. A lap is as long as
-// the steps from sample to sample, which on a small circuit are hardly longer than positions
-// wander: an outline through fewer places is too short for it.
+// The outline of a lap by whose length it counts as complete, and most others with it. A lap is as
+// long as the steps from sample to sample, which in a dense recording are hardly longer than
+// positions wander: an outline through fewer places may be too short for it.
 QList<QGeoCoordinate> completeOutline(std::span<const PointAcquisition> samples,
-                                      const FoundLap &lap, const QGeoCoordinate &start)
+                                      const std::vector<FoundLap> &laps, const FoundLap &typical,
+                                      const QGeoCoordinate &start)
 {
-    QList<QGeoCoordinate> outline;
-    for (const double part : {1.0, 0.5, 0.25}) {
-        outline = evenOutline(samples, lap, start, OutlineSpacing * part);
+    QList<QGeoCoordinate> best;
+    std::size_t most = 0;
+    bool isLong = false;
+    for (const double part : {1.0, 0.5, 0.25, 0.125}) {
+        const QList<QGeoCoordinate> outline
+            = lapOutline(samplesOf(samples, typical), start, OutlineSpacing * part);
         double length = 0.0;
         for (qsizetype i = 1; i < outline.size(); ++i)
             length += outline[i - 1].distanceTo(outline[i]);
-        if (lap.length < (1.0 + (LengthTolerance / 2.0)) * length)
+        const auto complete = static_cast<std::size_t>(
+            std::count_if(laps.begin(), laps.end(), [length](const FoundLap &lap) {
+                return std::fabs(lap.length - length) < LengthTolerance * length;
+            }));
+        if (best.isEmpty() || complete > most || (complete == most && !isLong)) {
+            best = outline;
+            most = complete;
+            isLong = typical.length < (1.0 + (LengthTolerance / 2.0)) * length;
+        }
+        if (isLong && most == laps.size())
             break;
     }
-    return outline;
+    return best;
 }
 
 MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit &circuit,
@@ -235,7 +172,8 @@ MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit 
     if (proposal.laps.empty())
         return proposal;
     const FoundLap typical = proposal.laps[typicalOf(proposal.laps)];
-    const QList<QGeoCoordinate> outline = completeOutline(samples, typical, draft.start);
+    const QList<QGeoCoordinate> outline
+        = completeOutline(samples, proposal.laps, typical, draft.start);
     if (outline.size() > 2)
         draft.outline = outline;
     proposal.laps = lapsOfLength(samples, cut.laps(), draft.toMap()->length(), LengthTolerance);
@@ -244,19 +182,6 @@ MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit 
     proposal.typicalLap = typicalOf(proposal.laps);
     proposal.reason = NoProposal::None;
     return proposal;
-}
-
-// What is wrong with a proposal, by how much it matters; the laps that it gives stand against it.
-double faultsOf(const MapCheck &check)
-{
-    double faults = 0.0;
-    for (const MapWarning &warning : check.warnings) {
-        const bool isOneLap
-            = !warning.laps.isEmpty()
-              && static_cast<std::size_t>(warning.laps.size()) * 4 < check.laps.size();
-        faults += isOneLap ? 0.3 : 1.0;
-    }
-    return faults;
 }
 
 } // namespace
@@ -285,14 +210,17 @@ MapProposal proposeMap(std::span<const PointAcquisition> samples)
             MapProposal proposal = proposalAt(samples, circuit, line, part);
             if (proposal.reason != NoProposal::None)
                 continue;
-            const double faults = faultsOf(checkMap(samples, proposal.draft));
-            const double worth = static_cast<double>(proposal.laps.size()) / (1.0 + faults);
-            if (worth > BetterBy * bestWorth) {
+            const ProposalWorth worth = worthOf(samples, proposal, circuit.at(line));
+            const bool isPerfect = worth.isSound && worth.lost == 0;
+            if (worth.laps + (isPerfect ? PerfectBonus : -BetterBy) > bestWorth) {
+                bestWorth = worth.laps;
                 best = std::move(proposal);
-                bestWorth = worth;
             }
-            if (faults == 0.0)
+            if (isPerfect)
                 return best;
+            // What passes beside a sound line does so with smaller gates, too.
+            if (worth.isSound)
+                break;
         }
     }
     return best;
@@ -301,7 +229,7 @@ MapProposal proposeMap(std::span<const PointAcquisition> samples)
 QList<QGeoCoordinate> outlineOf(std::span<const PointAcquisition> samples, const FoundLap &lap,
                                 const QGeoCoordinate &start)
 {
-    return evenOutline(samples, lap, start, OutlineSpacing);
+    return lapOutline(samplesOf(samples, lap), start, OutlineSpacing);
 }
 
 } // namespace zuno
