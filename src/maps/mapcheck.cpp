@@ -9,9 +9,11 @@
 #include <optional>
 #include <utility>
 
+#include <maps/checkedlaps.h>
 #include <maps/draftlaps.h>
 #include <maps/gatecrossing.h>
 #include <maps/outlinepath.h>
+#include <maps/passcheck.h>
 #include <session/trace.h>
 
 namespace zuno {
@@ -32,20 +34,6 @@ constexpr double OutlineReach = 60.0;
 // Metres that a crossing may be before or behind its gate: a position a second is far from dense.
 constexpr double AlongTolerance = 60.0;
 
-// He who is so many metres beside the others, and at less than this part of their speed, is in the
-// pit lane.
-constexpr double PitOffset = 8.0;
-constexpr double PitSpeed = 0.65;
-
-double median(std::vector<double> values)
-{
-    if (values.empty())
-        return 0.0;
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
 // Finds out what is wrong; lives for one call of checkMap.
 class MapChecker
 {
@@ -65,7 +53,7 @@ public:
 
     MapCheck check()
     {
-        describeLaps();
+        describeLaps(m_cut, m_result);
         checkLine();
         if (m_draft.timingPoints.size() > MaximumSectors)
             warn({Kind::TooManyPoints, MaximumSectors, -1, {}});
@@ -106,23 +94,6 @@ private:
     }
 
     void warn(const MapWarning &warning) { m_result.warnings.append(warning); }
-
-    void describeLaps()
-    {
-        const LapResults &results = m_cut.results();
-        for (const auto &lap : results.laps) {
-            CheckedLap checked {
-                lap->lapNumber(), lap->lapTime(), lap->distance(), lap->isComplete(), {}};
-            for (int sector = 0; sector < m_cut.map().sectorCount(); ++sector)
-                checked.sectorTimes.append(lap->sectorTime(sector));
-            m_result.laps.push_back(checked);
-        }
-        m_result.length = m_cut.map().length();
-        m_result.idealTime = results.idealTime;
-        const auto best = static_cast<std::size_t>(results.bestLap);
-        if (best < results.laps.size() && results.laps[best]->isComplete())
-            m_result.bestLap = results.bestLap;
-    }
 
     void checkLine()
     {
@@ -207,6 +178,11 @@ private:
     void checkMissed()
     {
         std::map<int, QList<int>> missed;
+        if (const auto line = m_outline.nearest({})) {
+            const QList<int> laps = lapsBesideLine(m_cut.laps(), m_plane, *line, m_result.length);
+            if (!laps.isEmpty())
+                missed[Line] = laps;
+        }
         for (const auto &lap : m_cut.laps()) {
             const int gate = lap->crossedSectors();
             if (lap->isComplete() && gate < std::min(gateCount(), m_firstLost))
@@ -283,30 +259,12 @@ private:
             else
                 onTrack.emplace_back(crossing, spot->offset);
         }
-        addPitLane(onTrack, otherWay);
+        otherWay.laps += pitLaneLaps(onTrack);
+        std::sort(otherWay.laps.begin(), otherWay.laps.end());
         if (!second.laps.isEmpty() || hasSecondTrack(gate, *along))
             warn(second);
         if (!otherWay.laps.isEmpty())
             warn(otherWay);
-    }
-
-    static void addPitLane(const std::vector<std::pair<GateCrossing, double>> &onTrack,
-                           MapWarning &otherWay)
-    {
-        std::vector<double> offsets;
-        std::vector<double> speeds;
-        for (const auto &[crossing, offset] : onTrack) {
-            offsets.push_back(offset);
-            speeds.push_back(crossing.speed);
-        }
-        const double usualOffset = median(std::move(offsets));
-        const double usualSpeed = median(std::move(speeds));
-        for (const auto &[crossing, offset] : onTrack) {
-            if (std::fabs(offset - usualOffset) > PitOffset
-                && crossing.speed < PitSpeed * usualSpeed)
-                otherWay.laps.append(crossing.lap);
-        }
-        std::sort(otherWay.laps.begin(), otherWay.laps.end());
     }
 
     // Whether the outline comes through a gate at another place than where the gate stands.
