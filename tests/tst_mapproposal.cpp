@@ -47,12 +47,14 @@ const Places Eight
 const Places Large
     = track({{0, 0}, {1100, 0}, {1150, 400}, {700, 300}, {900, 900}, {300, 700}, {-200, 800}}, 81);
 
-/// From one count of laps to another, so many metres off the middle; in a pit lane at both ends.
+/// From one count of laps to another, so many metres off the middle; in a pit lane at both ends;
+/// with positions that wander by about so many metres.
 struct Ride
 {
     double from = 0.0, to = 0.0, off = 2.0;
     quint32 interval = 100;
     double pitLane = 0.0;
+    double drift = 0.0;
 };
 
 Points ridden(const Places &track, const Ride &ride)
@@ -62,6 +64,7 @@ Points ridden(const Places &track, const Ride &ride)
     std::mt19937 random(7); // the same numbers everywhere
     const auto shake = [&](double most) { return most * ((random() % 2001) / 1000.0 - 1.0); };
     Points points;
+    PlaneVector drift;
     double laps = ride.from;
     for (quint32 stamp = 0; laps < ride.to; stamp += 10) {
         const double metre = laps * static_cast<double>(count);
@@ -70,9 +73,10 @@ Points ridden(const Places &track, const Ride &ride)
             = ride.pitLane != 0.0 && (laps < std::ceil(ride.from) + 0.08 || laps > ride.to - 0.13);
         const double aside = isInPit ? ride.pitLane : ride.off * std::sin(metre / 170);
         const PlaneVector here = track[i % count] + (way(i) * std::fmod(metre, 1.0));
+        drift = (drift * 0.9995) + PlaneVector {shake(ride.drift), shake(ride.drift)} * 0.05;
         if (stamp % ride.interval == 0) {
-            const QGeoCoordinate where = place(here.y + (aside * way(i).x) + shake(0.1),
-                                               here.x - (aside * way(i).y) + shake(0.1));
+            const QGeoCoordinate where = place(here.y + drift.y + (aside * way(i).x) + shake(0.1),
+                                               here.x + drift.x - (aside * way(i).y) + shake(0.1));
             points.emplace_back().dataTimeStamp = stamp;
             points.back().dataCoordX = where.longitude();
             points.back().dataCoordY = where.latitude();
@@ -126,6 +130,8 @@ private Q_SLOTS:
         QTest::newRow("a lap and a little") << Large << Ride {0.8, 2.0} << 1;
         QTest::newRow("switched on on the straight") << Large << Ride {0.09, 4.3} << 4;
         QTest::newRow("pit lane") << Large << Ride {0.98, 5.05, 2.0, 100, -18.0} << 3;
+        QTest::newRow("25 rough positions a second")
+            << Kart << Ride {0.3, 26.4, 1.0, 40, 0.0, 1.5} << 25;
         QTest::newRow("a position a second") << Large << Ride {0.6, 4.8, 2.0, 1000} << 4;
     }
     void proposals()
@@ -181,6 +187,10 @@ private Q_SLOTS:
         };
         QVERIFY(warns(Kind::NoLine, [](MapDraft &d) { d.start = {}; }));
         QVERIFY(warns(Kind::NoPass, [](MapDraft &d) { d.start = place(9000); }));
+        QVERIFY(warns(Kind::MissedPoint, [](MapDraft &d) { // the line itself
+            d.timingPoints.clear();
+            d.gateSize = 0.6;
+        }));
         QVERIFY(warns(Kind::PointOutOfOrder, [](auto &d) { d.timingPoints.swapItemsAt(0, 1); }));
         QVERIFY(warns(Kind::MissedPoint, [](auto &d) { d.timingPoints[0] = place(45, 90); }));
         QVERIFY(warns(Kind::LastNotOnLine, [](auto &d) { d.timingPoints.removeLast(); }));
