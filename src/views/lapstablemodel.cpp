@@ -24,13 +24,13 @@ constexpr qint32 LargestAngle = 180;
 constexpr double LargestReading = 1e6;
 
 // For a figure that damaged samples have spoilt.
-const QString NoFigure = QStringLiteral("\u2013");
+constexpr QChar NoFigure(0x2013);
 
 // Times, numbers and units are the same in every language; only separators are the rider's.
 QString decimals(double value)
 {
     if (!(std::fabs(value) <= LargestReading))
-        return NoFigure;
+        return QString(NoFigure);
     return QLocale().toString(value, 'f', 2);
 }
 
@@ -42,7 +42,7 @@ QString decimals(std::optional<float> value)
 QString angleText(qint32 angle)
 {
     const bool isPossible = angle >= -LargestAngle && angle <= LargestAngle;
-    return isPossible ? QStringLiteral("%1 d").arg(angle) : NoFigure;
+    return isPossible ? QStringLiteral("%1 d").arg(angle) : QString(NoFigure);
 }
 
 int columnOf(Mark mark)
