@@ -5,9 +5,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include <maps/ridepath.h>
+#include <session/numbers.h>
 
 namespace zuno {
 
@@ -172,14 +174,13 @@ std::optional<Return> bestLoop(const RidePath &ride, const Returns &loops)
     std::vector<double> lengths;
     for (const Return &loop : loops)
         lengths.push_back(loop.length);
-    const auto half = lengths.begin() + static_cast<std::ptrdiff_t>(lengths.size() / 2);
-    std::nth_element(lengths.begin(), half, lengths.end());
+    const double half = median(std::move(lengths));
     std::optional<Return> best;
     double bestWorth = -1e9;
     for (const Return &loop : loops) {
         if (meanSpeed(ride, loop) < LeastMeanSpeed)
             continue;
-        const double worth = tally.shared(loop) - (0.5 * std::fabs(loop.length - *half) / *half);
+        const double worth = tally.shared(loop) - (0.5 * std::fabs(loop.length - half) / half);
         if (worth > bestWorth) {
             bestWorth = worth;
             best = loop;

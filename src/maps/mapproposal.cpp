@@ -13,6 +13,7 @@
 #include <maps/lapoutline.h>
 #include <maps/linechoice.h>
 #include <maps/proposalworth.h>
+#include <session/numbers.h>
 
 namespace zuno {
 
@@ -42,15 +43,6 @@ constexpr double BetterBy = 0.2;
 
 // A perfect one may have a lap less: the ride may begin or end on the other side of its line.
 constexpr double PerfectBonus = 1.1;
-
-double median(std::vector<double> values)
-{
-    if (values.empty())
-        return 0.0;
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 std::span<const PointAcquisition> samplesOf(std::span<const PointAcquisition> samples,
                                             const FoundLap &lap)

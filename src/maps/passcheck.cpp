@@ -6,8 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include <maps/plainline.h>
 #include <session/lap.h>
-#include <session/trace.h>
+#include <session/numbers.h>
 
 namespace zuno {
 
@@ -24,40 +25,15 @@ constexpr double TwoLaps = 1.5;
 // Milliseconds at both ends of a lap in which it is at the line anyway.
 constexpr double EndTime = 5000.0;
 
-double median(std::vector<double> values)
-{
-    if (values.empty())
-        return 0.0;
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
 // Whether a lap crosses the line on the track between its ends.
 bool crossesWithin(const Lap &lap, const Plane &plane, const OutlinePath::Spot &line)
 {
     const Points &points = lap.points();
     const double first = points.front().dataTimeStamp + EndTime;
     const double last = points.back().dataTimeStamp - EndTime;
-    const PointAcquisition *before = nullptr;
-    PlaneVector from;
-    for (const PointAcquisition &point : points) {
-        const QGeoCoordinate position = positionOf(point);
-        if (!position.isValid())
-            continue;
-        const PlaneVector to = plane.place(position);
-        const double behind = from * line.heading;
-        const double ahead = to * line.heading;
-        if (before != nullptr && behind <= 0.0 && ahead > 0.0 && before->dataTimeStamp > first
-            && point.dataTimeStamp < last) {
-            const PlaneVector where = from + ((to - from) * (behind / (behind - ahead)));
-            if (where.length() < PitOffset)
-                return true;
-        }
-        before = &point;
-        from = to;
-    }
-    return false;
+    const std::vector<double> passes = linePasses(points, plane, line.heading, PitOffset);
+    return std::any_of(passes.begin(), passes.end(),
+                       [first, last](double stamp) { return stamp > first && stamp < last; });
 }
 
 } // namespace

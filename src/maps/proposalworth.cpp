@@ -8,7 +8,7 @@
 #include <vector>
 
 #include <maps/mapcheck.h>
-#include <session/trace.h>
+#include <maps/plainline.h>
 
 namespace zuno {
 
@@ -37,34 +37,6 @@ constexpr qsizetype LeastPoints = 3;
 
 // Who comes back after more laps than this missed the line in between.
 constexpr double TwoLaps = 1.5;
-
-// The time stamps at which a plain line across the track was passed.
-std::vector<double> linePasses(std::span<const PointAcquisition> samples, const MapDraft &draft,
-                               PlaneVector heading)
-{
-    std::vector<double> stamps;
-    const Plane plane(draft.start);
-    const PointAcquisition *before = nullptr;
-    PlaneVector from;
-    for (const PointAcquisition &sample : samples) {
-        const QGeoCoordinate position = positionOf(sample);
-        if (!position.isValid())
-            continue;
-        const PlaneVector to = plane.place(position);
-        const double behind = from * heading;
-        const double ahead = to * heading;
-        if (before != nullptr && behind <= 0.0 && ahead > 0.0) {
-            const double part = behind / (behind - ahead);
-            if ((from + ((to - from) * part)).length() <= LineReach * draft.gateSize) {
-                const double since = sample.dataTimeStamp - before->dataTimeStamp;
-                stamps.push_back(before->dataTimeStamp + (part * since));
-            }
-        }
-        before = &sample;
-        from = to;
-    }
-    return stamps;
-}
 
 // The nearest of rising values; one that is farther than all when there is none.
 double nearest(const std::vector<double> &stamps, double stamp)
@@ -101,7 +73,8 @@ ProposalWorth worthOf(std::span<const PointAcquisition> samples, const MapPropos
                       const Station &line)
 {
     const MapCheck check = checkMap(samples, proposal.draft);
-    const std::vector<double> stamps = linePasses(samples, proposal.draft, line.heading);
+    const std::vector<double> stamps = linePasses(
+        samples, Plane(proposal.draft.start), line.heading, LineReach * proposal.draft.gateSize);
     ProposalWorth worth;
     worth.lost = lostLaps(check);
     worth.isSound = check.warnings.isEmpty() && proposal.draft.timingPoints.size() >= LeastPoints;

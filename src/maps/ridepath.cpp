@@ -5,8 +5,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <session/gpsquality.h>
+#include <session/numbers.h>
 #include <session/trace.h>
 
 namespace zuno {
@@ -36,13 +38,6 @@ constexpr double JumpSpeed = 140.0;
 // Metres before and after a node over which its speed is taken.
 constexpr double SpeedReach = 10.0;
 
-double middle(std::vector<double> &values)
-{
-    const auto half = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), half, values.end());
-    return *half;
-}
-
 // The samples that have a position and time that can be believed.
 Points believable(std::span<const PointAcquisition> samples)
 {
@@ -71,7 +66,7 @@ QGeoCoordinate centreOf(const Points &points)
         latitudes.push_back(point.dataCoordY);
         longitudes.push_back(point.dataCoordX);
     }
-    return {middle(latitudes), middle(longitudes)};
+    return {median(std::move(latitudes)), median(std::move(longitudes))};
 }
 
 // Takes what nobody can have ridden, and ways so long that they are no part of a lap, for gaps that
@@ -100,7 +95,7 @@ double usualInterval(std::span<const PointAcquisition> samples)
         if (samples[i].dataTimeStamp > samples[i - 1].dataTimeStamp)
             intervals.push_back(samples[i].dataTimeStamp - samples[i - 1].dataTimeStamp);
     }
-    return intervals.empty() ? 0.1 : middle(intervals) / 1000.0;
+    return intervals.empty() ? 0.1 : median(std::move(intervals)) / 1000.0;
 }
 
 } // namespace

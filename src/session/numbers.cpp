@@ -3,6 +3,7 @@
 
 #include <session/numbers.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace zuno {
@@ -16,6 +17,15 @@ quint32 stampFromFloat(float value)
     if (stamp < 0.0)
         stamp += Modulus;
     return static_cast<quint32>(stamp);
+}
+
+double median(std::vector<double> values)
+{
+    if (values.empty())
+        return 0.0;
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
 }
 
 } // namespace zuno

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <limits>
+#include <vector>
 
 #include <QtGlobal>
 
@@ -47,5 +48,8 @@ namespace zuno {
 {
     return static_cast<qint32>(a - b);
 }
+
+/// The middle one of the sorted values, the upper one of two; 0 without any.
+[[nodiscard]] double median(std::vector<double> values);
 
 } // namespace zuno
