@@ -15,10 +15,10 @@
 #include <QUrl>
 
 #include <app/acquisitionlibrary.h>
-#include <app/downloadinprogress.h>
 #include <app/exportdialogs.h>
 #include <app/sessionimport.h>
 #include <app/settings.h>
+#include <app/update/downloadinprogress.h>
 #include <session/csvexport.h>
 #include <session/session.h>
 

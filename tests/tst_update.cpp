@@ -17,8 +17,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include <app/downloadinprogress.h>
-#include <app/updateapp.h>
+#include <app/update/downloadinprogress.h>
+#include <app/update/updateapp.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;

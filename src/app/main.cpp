@@ -11,7 +11,7 @@
 
 #include <app/darkstyle.h>
 #include <app/logfile.h>
-#include <app/updateapp.h>
+#include <app/update/updateapp.h>
 #include <app/zunoanalyzer.h>
 
 namespace {

@@ -10,9 +10,9 @@
 #include <QStatusBar>
 
 #include <app/acquisitionlibrary.h>
-#include <app/downloadinprogress.h>
 #include <app/sessiondrop.h>
 #include <app/settings.h>
+#include <app/update/downloadinprogress.h>
 #include <session/sessionfile.h>
 
 namespace zuno {

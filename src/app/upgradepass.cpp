@@ -8,11 +8,11 @@
 #include <QDirIterator>
 
 #include <app/acquisitionlibrary.h>
-#include <app/downloadinprogress.h>
 #include <app/informationwriter.h>
 #include <app/librarytree.h>
 #include <app/sessiondisplay.h>
 #include <app/settings.h>
+#include <app/update/downloadinprogress.h>
 
 namespace zuno {
 

@@ -7,9 +7,9 @@
 #include <QTabWidget>
 #include <QTreeView>
 
-#include <app/downloadinprogress.h>
 #include <app/librarytree.h>
 #include <app/mapmaker.h>
+#include <app/update/downloadinprogress.h>
 #include <manual/stage.h>
 
 namespace zuno {

@@ -5,7 +5,7 @@
 
 #include <QXmlStreamReader>
 
-#include <app/updatedocument.h>
+#include <app/update/updatedocument.h>
 
 #include "check.h"
 

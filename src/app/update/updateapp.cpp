@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <app/updateapp.h>
+#include <app/update/updateapp.h>
 
 #include <optional>
 
@@ -18,8 +18,8 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-#include <app/downloadinprogress.h>
-#include <app/updatedocument.h>
+#include <app/update/downloadinprogress.h>
+#include <app/update/updatedocument.h>
 
 namespace zuno {
 
