@@ -17,10 +17,13 @@ set -euo pipefail
 
 core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
 translations=(qt6-base-dev-tools qt6-l10n-tools)
+# What makes the manual, and what its test reads it with.
+manual=(weasyprint python3-markdown poppler-utils)
 # The virtual display, the tools that find and photograph a window on it, and letters to draw.
 gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools libjs-leaflet
     qt6-tools-dev "${translations[@]}" qt6-translations-l10n
-    libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core)
+    libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core
+    "${manual[@]}")
 fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positioning-dev)
 # The compiler brings the sanitizers' libraries itself.
 format=(git clang-format)
