@@ -16,9 +16,9 @@
 #include <app/configurationwidget.h>
 #include <app/help.h>
 #include <app/settings.h>
-#include <manual/textfit.h>
 #include <maps/mapswidget.h>
 #include <session/session.h>
+#include <tools/textfit/textfit.h>
 
 #include "widgets.h"
 

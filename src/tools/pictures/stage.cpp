@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <manual/stage.h>
+#include <tools/pictures/stage.h>
 
 #include <QAction>
 #include <QApplication>

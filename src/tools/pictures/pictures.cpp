@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <manual/pictures.h>
+#include <tools/pictures/pictures.h>
 
 #include <QAction>
 #include <QCheckBox>
@@ -15,8 +15,8 @@
 
 #include <app/librarytree.h>
 #include <app/mapmaker.h>
-#include <manual/stage.h>
 #include <maps/mapviewcontroller.h>
+#include <tools/pictures/stage.h>
 #include <views/lapcharts.h>
 #include <views/lapsview.h>
 

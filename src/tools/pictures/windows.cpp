@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <manual/windows.h>
+#include <tools/pictures/windows.h>
 
 #include <QAction>
 #include <QTabWidget>
@@ -10,7 +10,7 @@
 #include <app/librarytree.h>
 #include <app/mapmaker.h>
 #include <app/update/downloadinprogress.h>
-#include <manual/stage.h>
+#include <tools/pictures/stage.h>
 
 namespace zuno {
 

@@ -12,10 +12,10 @@
 #include <QTemporaryFile>
 
 #include <app/darkstyle.h>
-#include <manual/pictures.h>
-#include <manual/stage.h>
-#include <manual/textfit.h>
-#include <manual/windows.h>
+#include <tools/pictures/pictures.h>
+#include <tools/pictures/stage.h>
+#include <tools/pictures/windows.h>
+#include <tools/textfit/textfit.h>
 
 namespace {
 
