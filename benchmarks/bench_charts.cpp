@@ -16,10 +16,10 @@
 #include <QTemporaryDir>
 
 #include <app/darkstyle.h>
-#include <app/settings.h>
+#include <base/settings.h>
 #include <session/session.h>
-#include <views/lapchart.h>
-#include <views/lapselection.h>
+#include <views/charts/lapchart.h>
+#include <views/laps/lapselection.h>
 
 #include "../tests/chartpane.h"
 

@@ -26,13 +26,13 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cli/demolibrary.h>
-#include <maps/mapcheck.h>
-#include <maps/mapdetection.h>
-#include <maps/mapfile.h>
-#include <maps/mapproposal.h>
+#include <demo/demolibrary.h>
+#include <maps/check/mapcheck.h>
+#include <maps/detection/mapdetection.h>
+#include <maps/proposal/mapproposal.h>
+#include <session/recording/smoothing.h>
 #include <session/sessionfile.h>
-#include <session/smoothing.h>
+#include <track/mapfile.h>
 
 namespace zuno {
 

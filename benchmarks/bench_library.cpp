@@ -18,10 +18,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <app/acquisitionlibrary.h>
-#include <app/settings.h>
 #include <app/zunoanalyzer.h>
-#include <cli/demolibrary.h>
+#include <base/settings.h>
+#include <demo/demolibrary.h>
+#include <library/acquisitionlibrary.h>
 #include <stats/sessionsstats.h>
 
 namespace zuno {

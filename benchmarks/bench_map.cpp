@@ -21,9 +21,9 @@
 #include <QVBoxLayout>
 #include <QVariant>
 
-#include <maps/jsconnector.h>
-#include <maps/lappayload.h>
-#include <maps/mapviewcontroller.h>
+#include <maps/page/jsconnector.h>
+#include <maps/page/mapviewcontroller.h>
+#include <maps/payload/lappayload.h>
 
 namespace zuno {
 

@@ -15,9 +15,9 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
-#include <cli/demolibrary.h>
-#include <maps/map.h>
+#include <demo/demolibrary.h>
 #include <session/session.h>
+#include <track/map.h>
 
 namespace zuno::test {
 

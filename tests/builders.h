@@ -14,7 +14,7 @@
 #include <QMap>
 #include <QString>
 
-#include <session/pointacquisition.h>
+#include <session/recording/pointacquisition.h>
 
 namespace zuno {
 

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include <views/lapcharts.h>
+#include <views/charts/lapcharts.h>
 
 namespace zuno::test {
 

@@ -24,12 +24,12 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include <app/acquisitionlibrary.h>
-#include <app/exportdialogs.h>
-#include <app/sessionimport.h>
-#include <app/settings.h>
 #include <app/zunoanalyzer.h>
-#include <session/lap.h>
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/exportdialogs.h>
+#include <library/sessionimport.h>
+#include <session/laps/lap.h>
 #include <session/sessionfile.h>
 
 using namespace zuno;

@@ -4,7 +4,7 @@
 #include <QBuffer>
 #include <QTest>
 
-#include <session/bytereader.h>
+#include <base/bytereader.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;

@@ -6,7 +6,7 @@
 
 #include <QTest>
 
-#include <views/chartaxis.h>
+#include <views/charts/chartaxis.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;

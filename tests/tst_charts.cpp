@@ -10,11 +10,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <app/settings.h>
-#include <maps/map.h>
+#include <base/settings.h>
 #include <session/session.h>
-#include <views/lapchart.h>
-#include <views/lapselection.h>
+#include <track/map.h>
+#include <views/charts/lapchart.h>
+#include <views/laps/lapselection.h>
 
 #include "builders.h"
 #include "chartpane.h"

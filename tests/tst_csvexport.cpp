@@ -4,9 +4,9 @@
 #include <QLocale>
 #include <QTest>
 
-#include <maps/map.h>
 #include <session/csvexport.h>
 #include <session/session.h>
+#include <track/map.h>
 
 #include "builders.h"
 

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <cli/demolibrary.h>
+#include <demo/demolibrary.h>
 
 #include "builders.h"
 

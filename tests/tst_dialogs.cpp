@@ -15,8 +15,8 @@
 
 #include <app/configurationwidget.h>
 #include <app/help.h>
-#include <app/settings.h>
-#include <maps/mapswidget.h>
+#include <base/settings.h>
+#include <maps/dialog/mapswidget.h>
 #include <session/session.h>
 #include <tools/textfit/textfit.h>
 

@@ -14,14 +14,14 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <app/acquisitionlibrary.h>
-#include <app/settings.h>
-#include <cli/demolibrary.h>
-#include <maps/mapdetection.h>
-#include <maps/mapfile.h>
+#include <base/settings.h>
+#include <demo/demolibrary.h>
+#include <library/acquisitionlibrary.h>
+#include <maps/detection/mapdetection.h>
 #include <session/session.h>
-#include <views/idealtimedialog.h>
-#include <views/idealtimemodel.h>
+#include <track/mapfile.h>
+#include <views/idealtime/idealtimedialog.h>
+#include <views/idealtime/idealtimemodel.h>
 
 #include "builders.h"
 #include "widgets.h"

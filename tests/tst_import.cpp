@@ -14,13 +14,13 @@
 #include <QTimer>
 #include <QUrl>
 
-#include <app/acquisitionlibrary.h>
-#include <app/exportdialogs.h>
-#include <app/sessionimport.h>
-#include <app/settings.h>
-#include <app/update/downloadinprogress.h>
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/exportdialogs.h>
+#include <library/sessionimport.h>
 #include <session/csvexport.h>
 #include <session/session.h>
+#include <widgets/downloadinprogress.h>
 
 #include "builders.h"
 

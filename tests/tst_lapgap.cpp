@@ -8,8 +8,8 @@
 
 #include <QTest>
 
-#include <session/lap.h>
-#include <session/lapgap.h>
+#include <session/laps/lap.h>
+#include <session/laps/lapgap.h>
 #include <session/session.h>
 
 #include "builders.h"

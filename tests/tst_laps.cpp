@@ -5,10 +5,10 @@
 
 #include <QTest>
 
-#include <maps/map.h>
-#include <session/laptimes.h>
+#include <base/laptimes.h>
+#include <session/recording/trace.h>
 #include <session/session.h>
-#include <session/trace.h>
+#include <track/map.h>
 
 #include "builders.h"
 

@@ -12,12 +12,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <app/settings.h>
-#include <maps/map.h>
+#include <base/settings.h>
 #include <session/session.h>
-#include <views/lapselection.h>
-#include <views/lapstablemodel.h>
-#include <views/lapsview.h>
+#include <track/map.h>
+#include <views/laps/lapselection.h>
+#include <views/laps/lapstablemodel.h>
+#include <views/laps/lapsview.h>
 
 #include "builders.h"
 #include "widgets.h"

@@ -7,12 +7,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <app/acquisitionlibrary.h>
-#include <app/informationwriter.h>
-#include <app/sessiondisplay.h>
-#include <app/settings.h>
-#include <maps/mapfile.h>
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/informationwriter.h>
+#include <library/sessiondisplay.h>
 #include <session/sessionfile.h>
+#include <track/mapfile.h>
 
 #include "builders.h"
 

@@ -20,9 +20,9 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include <app/acquisitionlibrary.h>
-#include <app/librarytree.h>
-#include <app/settings.h>
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/librarytree.h>
 
 #include "builders.h"
 #include "widgets.h"

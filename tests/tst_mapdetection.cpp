@@ -3,9 +3,9 @@
 
 #include <QTest>
 
-#include <maps/map.h>
-#include <maps/mapdetection.h>
+#include <maps/detection/mapdetection.h>
 #include <session/session.h>
+#include <track/map.h>
 
 #include "builders.h"
 

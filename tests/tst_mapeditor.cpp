@@ -9,14 +9,14 @@
 #include <QTest>
 #include <QTimer>
 
-#include <app/acquisitionlibrary.h>
-#include <app/informationwriter.h>
-#include <app/mapmaker.h>
-#include <app/sessiondisplay.h>
-#include <app/settings.h>
-#include <maps/mapedit.h>
-#include <maps/mapfile.h>
-#include <maps/mapname.h>
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/informationwriter.h>
+#include <library/sessiondisplay.h>
+#include <maps/editor/mapedit.h>
+#include <maps/editor/mapmaker.h>
+#include <track/mapfile.h>
+#include <track/mapname.h>
 
 #include "builders.h"
 

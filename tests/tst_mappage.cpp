@@ -14,10 +14,10 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
-#include <app/settings.h>
-#include <maps/jsconnector.h>
-#include <maps/mapviewcontroller.h>
-#include <maps/pagesettings.h>
+#include <base/settings.h>
+#include <maps/page/jsconnector.h>
+#include <maps/page/mapviewcontroller.h>
+#include <maps/page/pagesettings.h>
 
 namespace zuno::test {
 

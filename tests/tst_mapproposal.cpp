@@ -9,9 +9,9 @@
 
 #include <QTest>
 
-#include <maps/mapcheck.h>
-#include <maps/mapproposal.h>
-#include <session/plane.h>
+#include <base/plane.h>
+#include <maps/check/mapcheck.h>
+#include <maps/proposal/mapproposal.h>
 
 #include "builders.h"
 

@@ -4,10 +4,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <maps/mapdraft.h>
-#include <maps/mapfile.h>
-#include <session/bytereader.h>
+#include <base/bytereader.h>
 #include <session/session.h>
+#include <track/mapdraft.h>
+#include <track/mapfile.h>
 
 #include "builders.h"
 

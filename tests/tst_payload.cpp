@@ -10,10 +10,10 @@
 #include <QLocale>
 #include <QTest>
 
-#include <maps/lappayload.h>
-#include <maps/map.h>
+#include <maps/payload/lappayload.h>
 #include <session/csvexport.h>
 #include <session/session.h>
+#include <track/map.h>
 
 #include "builders.h"
 

@@ -6,10 +6,10 @@
 
 #include <QTest>
 
-#include <session/numbers.h>
+#include <base/numbers.h>
+#include <session/recording/smoothing.h>
 #include <session/session.h>
 #include <session/sessionfile.h>
-#include <session/smoothing.h>
 
 #include "builders.h"
 

@@ -15,11 +15,11 @@
 #include <QJsonObject>
 #include <QTest>
 
-#include <maps/mapcheck.h>
-#include <maps/mapdetection.h>
-#include <maps/mapfile.h>
-#include <maps/mapproposal.h>
+#include <maps/check/mapcheck.h>
+#include <maps/detection/mapdetection.h>
+#include <maps/proposal/mapproposal.h>
 #include <session/sessionfile.h>
+#include <track/mapfile.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;

@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <session/bytereader.h>
+#include <base/bytereader.h>
 #include <session/sessionfile.h>
 
 #include "builders.h"

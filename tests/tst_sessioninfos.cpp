@@ -13,7 +13,7 @@
 #include <QTextEdit>
 #include <QWheelEvent>
 
-#include <app/informationwriter.h>
+#include <library/informationwriter.h>
 #include <session/sessionfile.h>
 #include <stats/sessioninfos.h>
 #include <stats/temperaturebox.h>

@@ -12,10 +12,10 @@
 #include <sys/resource.h>
 #endif
 
-#include <maps/map.h>
+#include <base/wholefile.h>
 #include <session/sessionfile.h>
 #include <session/sessionrewrite.h>
-#include <session/wholefile.h>
+#include <track/map.h>
 
 #include "builders.h"
 

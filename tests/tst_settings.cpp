@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <app/settings.h>
+#include <base/settings.h>
 
 #include "builders.h"
 

@@ -3,7 +3,7 @@
 
 #include <QTest>
 
-#include <session/storedtext.h>
+#include <session/recording/storedtext.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;

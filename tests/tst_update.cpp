@@ -17,8 +17,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include <app/update/downloadinprogress.h>
 #include <app/update/updateapp.h>
+#include <widgets/downloadinprogress.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;

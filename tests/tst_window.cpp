@@ -18,8 +18,8 @@
 #include <QTextEdit>
 #include <QTreeView>
 
-#include <app/settings.h>
 #include <app/zunoanalyzer.h>
+#include <base/settings.h>
 #include <session/sessionfile.h>
 #include <session/sessionrewrite.h>
 

@@ -5,8 +5,8 @@
 
 #include "ui_zunoanalyzer.h"
 
-#include <maps/mapviewcontroller.h>
-#include <views/lapsview.h>
+#include <maps/page/mapviewcontroller.h>
+#include <views/laps/lapsview.h>
 
 namespace zuno {
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <views/lapcharts.h>
+#include <views/charts/lapcharts.h>
 
 namespace zuno {
 

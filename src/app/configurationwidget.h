@@ -7,7 +7,7 @@
 
 #include <QDialog>
 
-#include <app/settings.h>
+#include <base/settings.h>
 
 namespace zuno {
 

@@ -11,7 +11,7 @@
 #include <QStandardPaths>
 #include <QString>
 
-#include <app/settings.h>
+#include <base/settings.h>
 
 namespace zuno {
 

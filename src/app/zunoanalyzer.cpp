@@ -16,21 +16,21 @@
 #include <app/aboutwidget.h>
 #include <app/chartwidgets.h>
 #include <app/configurationwidget.h>
-#include <app/exportdialogs.h>
 #include <app/help.h>
-#include <app/librarytree.h>
 #include <app/makerlinks.h>
-#include <app/mapmaker.h>
-#include <app/sessionimport.h>
-#include <app/upgradepass.h>
-#include <maps/map.h>
-#include <maps/mapswidget.h>
-#include <maps/mapviewcontroller.h>
+#include <library/exportdialogs.h>
+#include <library/librarytree.h>
+#include <library/sessionimport.h>
+#include <library/upgradepass.h>
+#include <maps/dialog/mapswidget.h>
+#include <maps/editor/mapmaker.h>
+#include <maps/page/mapviewcontroller.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
-#include <views/idealtimedialog.h>
-#include <views/lapsview.h>
-#include <views/sessionsummary.h>
+#include <track/map.h>
+#include <views/idealtime/idealtimedialog.h>
+#include <views/laps/lapsview.h>
+#include <views/laps/sessionsummary.h>
 
 namespace zuno {
 

@@ -9,12 +9,12 @@
 #include <QMainWindow>
 #include <QTranslator>
 
-#include <app/acquisitionlibrary.h>
-#include <app/informationwriter.h>
-#include <app/mapfolder.h>
-#include <app/sessiondisplay.h>
-#include <app/settings.h>
-#include <views/lapselection.h>
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/informationwriter.h>
+#include <library/mapfolder.h>
+#include <library/sessiondisplay.h>
+#include <views/laps/lapselection.h>
 
 class QSplitter;
 

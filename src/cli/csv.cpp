@@ -7,7 +7,7 @@
 
 #include <QLocale>
 
-#include <app/settings.h>
+#include <base/settings.h>
 #include <session/csvexport.h>
 
 namespace zuno::cli {

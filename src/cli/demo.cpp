@@ -3,7 +3,7 @@
 
 #include <cli/commands.h>
 #include <cli/console.h>
-#include <cli/demolibrary.h>
+#include <demo/demolibrary.h>
 
 namespace zuno::cli {
 

@@ -6,9 +6,9 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <app/settings.h>
+#include <base/settings.h>
 #include <cli/console.h>
-#include <maps/mapdetection.h>
+#include <maps/detection/mapdetection.h>
 #include <session/sessionfile.h>
 
 namespace zuno::cli {

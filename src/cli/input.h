@@ -5,8 +5,8 @@
 
 #include <memory>
 
-#include <maps/mapfile.h>
 #include <session/session.h>
+#include <track/mapfile.h>
 
 namespace zuno::cli {
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <base/jsonwriter.h>
+#include <base/laptimes.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
-#include <session/jsonwriter.h>
-#include <session/laptimes.h>
 
 namespace zuno::cli {
 

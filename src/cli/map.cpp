@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <base/jsonwriter.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
-#include <session/jsonwriter.h>
 
 namespace zuno::cli {
 

@@ -3,13 +3,13 @@
 
 #include <limits>
 
+#include <base/jsonwriter.h>
+#include <base/laptimes.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
-#include <maps/mapcheck.h>
-#include <maps/mapfile.h>
-#include <session/jsonwriter.h>
-#include <session/laptimes.h>
+#include <maps/check/mapcheck.h>
+#include <track/mapfile.h>
 
 namespace zuno::cli {
 

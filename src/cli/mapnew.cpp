@@ -6,8 +6,8 @@
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
-#include <maps/mapcheck.h>
-#include <maps/mapproposal.h>
+#include <maps/check/mapcheck.h>
+#include <maps/proposal/mapproposal.h>
 
 namespace zuno::cli {
 

@@ -4,7 +4,7 @@
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
-#include <maps/lappayload.h>
+#include <maps/payload/lappayload.h>
 
 namespace zuno::cli {
 

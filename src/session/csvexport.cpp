@@ -8,7 +8,7 @@
 
 #include <QLocale>
 
-#include <session/lap.h>
+#include <session/laps/lap.h>
 #include <session/session.h>
 
 namespace zuno {

@@ -3,9 +3,9 @@
 
 #include <session/idealtime.h>
 
-#include <maps/map.h>
-#include <session/numbers.h>
+#include <base/numbers.h>
 #include <session/session.h>
+#include <track/map.h>
 
 namespace zuno {
 

@@ -7,9 +7,9 @@
 
 #include <QFileInfo>
 
-#include <maps/map.h>
-#include <session/laptimes.h>
-#include <session/smoothing.h>
+#include <base/laptimes.h>
+#include <session/recording/smoothing.h>
+#include <track/map.h>
 
 namespace zuno {
 

@@ -12,9 +12,9 @@
 #include <QObject>
 #include <QString>
 
-#include <session/lapcutter.h>
-#include <session/recording.h>
-#include <session/sessionmerge.h>
+#include <session/laps/lapcutter.h>
+#include <session/recording/recording.h>
+#include <session/recording/sessionmerge.h>
 
 namespace zuno {
 

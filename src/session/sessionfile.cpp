@@ -15,7 +15,7 @@
 #include <fcntl.h>
 #endif
 
-#include <session/bytereader.h>
+#include <base/bytereader.h>
 
 namespace zuno {
 

@@ -9,11 +9,11 @@
 #include <QFileInfo>
 #include <QLockFile>
 
-#include <session/bytereader.h>
+#include <base/bytereader.h>
+#include <base/wholefile.h>
+#include <session/recording/sessionbuffer.h>
 #include <session/session.h>
-#include <session/sessionbuffer.h>
 #include <session/sessionfile.h>
-#include <session/wholefile.h>
 
 namespace zuno {
 

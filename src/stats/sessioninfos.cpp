@@ -14,9 +14,9 @@
 #include <QTabWidget>
 #include <QTextEdit>
 
-#include <app/informationwriter.h>
-#include <maps/map.h>
+#include <library/informationwriter.h>
 #include <session/session.h>
+#include <track/map.h>
 
 namespace zuno {
 

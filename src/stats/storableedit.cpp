@@ -11,7 +11,7 @@
 #include <QTextCursor>
 #include <QTextEdit>
 
-#include <session/storedtext.h>
+#include <session/recording/storedtext.h>
 
 namespace zuno {
 

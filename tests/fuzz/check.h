@@ -8,7 +8,7 @@
 
 #include <QJsonDocument>
 
-#include <maps/lappayload.h>
+#include <maps/payload/lappayload.h>
 #include <session/session.h>
 
 namespace zuno::fuzz {

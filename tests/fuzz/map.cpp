@@ -3,10 +3,10 @@
 
 // A map file, and a ride that is cut into laps on it.
 
-#include <maps/map.h>
-#include <maps/mapdetection.h>
-#include <maps/mapfile.h>
-#include <session/bytereader.h>
+#include <base/bytereader.h>
+#include <maps/detection/mapdetection.h>
+#include <track/map.h>
+#include <track/mapfile.h>
 
 #include "../builders.h"
 #include "check.h"

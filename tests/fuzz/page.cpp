@@ -8,11 +8,11 @@
 
 #include <QJsonObject>
 
-#include <maps/draftpayload.h>
-#include <maps/mapdraft.h>
-#include <maps/mapfile.h>
-#include <maps/pagemessage.h>
-#include <session/bytereader.h>
+#include <base/bytereader.h>
+#include <maps/payload/draftpayload.h>
+#include <maps/payload/pagemessage.h>
+#include <track/mapdraft.h>
+#include <track/mapfile.h>
 
 #include "check.h"
 

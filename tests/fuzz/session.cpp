@@ -5,10 +5,10 @@
 
 #include <QLocale>
 
-#include <maps/map.h>
 #include <session/csvexport.h>
-#include <session/gpsquality.h>
+#include <session/recording/gpsquality.h>
 #include <session/sessionfile.h>
+#include <track/map.h>
 
 #include "../builders.h"
 #include "check.h"

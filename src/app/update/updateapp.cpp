@@ -18,8 +18,8 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-#include <app/update/downloadinprogress.h>
 #include <app/update/updatedocument.h>
+#include <widgets/downloadinprogress.h>
 
 namespace zuno {
 

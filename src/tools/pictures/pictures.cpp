@@ -13,12 +13,12 @@
 #include <QTableView>
 #include <QWebEngineView>
 
-#include <app/librarytree.h>
-#include <app/mapmaker.h>
-#include <maps/mapviewcontroller.h>
+#include <library/librarytree.h>
+#include <maps/editor/mapmaker.h>
+#include <maps/page/mapviewcontroller.h>
 #include <tools/pictures/stage.h>
-#include <views/lapcharts.h>
-#include <views/lapsview.h>
+#include <views/charts/lapcharts.h>
+#include <views/laps/lapsview.h>
 
 namespace zuno {
 

@@ -14,9 +14,9 @@
 #include <QTableView>
 #include <QTimer>
 
-#include <app/settings.h>
-#include <cli/demolibrary.h>
-#include <maps/mapviewcontroller.h>
+#include <base/settings.h>
+#include <demo/demolibrary.h>
+#include <maps/page/mapviewcontroller.h>
 
 namespace zuno {
 

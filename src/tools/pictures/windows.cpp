@@ -7,9 +7,9 @@
 #include <QTabWidget>
 #include <QTreeView>
 
-#include <app/librarytree.h>
-#include <app/mapmaker.h>
-#include <app/update/downloadinprogress.h>
+#include <library/librarytree.h>
+#include <maps/editor/mapmaker.h>
+#include <widgets/downloadinprogress.h>
 #include <tools/pictures/stage.h>
 
 namespace zuno {

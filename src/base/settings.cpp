@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <base/settings.h>
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace zuno {
+
+namespace {
+
+// More than the settings take, and the file that locks them; bytes.
+constexpr std::uintmax_t LeastRoom = 1 << 18;
+
+struct Entry
+{
+    Setting setting = Setting::Language;
+    SettingsFile file = SettingsFile::Config;
+    const char16_t *key = nullptr;
+    QMetaType::Type type = QMetaType::QString;
+    /// "true" or "false"; for a folder, its place below the root; null for no default.
+    const char16_t *standard = nullptr;
+    bool isDisplay = false;
+};
+
+constexpr auto Config = SettingsFile::Config;
+constexpr auto Analyzer = SettingsFile::Analyzer;
+constexpr auto Text = QMetaType::QString;
+constexpr auto Bool = QMetaType::Bool;
+constexpr auto Bytes = QMetaType::QByteArray;
+
+// The one list of settings; nobody else spells a key.
+constexpr std::array Table {
+    Entry {Setting::Language, Config, u"language", Text, u""},
+    Entry {Setting::MapFiles, Config, u"mapFiles", Text, u"/Norvale/Map"},
+    Entry {Setting::AcquisitionFolder, Config, u"acquisitionFolder", Text,
+           u"/Norvale/RemoteDevice"},
+    Entry {Setting::ShowLapType, Analyzer, u"showLapType", Bool, u"true", true},
+    Entry {Setting::ShowCumulatedTime, Analyzer, u"showCumulatedTime", Bool, u"true", true},
+    Entry {Setting::ShowMinSpeed, Analyzer, u"showMinSpeed", Bool, u"true", true},
+    Entry {Setting::ShowMaxSpeed, Analyzer, u"showMaxSpeed", Bool, u"true", true},
+    Entry {Setting::ShowAngleLeft, Analyzer, u"showAngleLeft", Bool, u"true", true},
+    Entry {Setting::ShowAngleRight, Analyzer, u"showAngleRight", Bool, u"true", true},
+    Entry {Setting::ShowAccel, Analyzer, u"showAccel", Bool, u"true", true},
+    Entry {Setting::ShowDecel, Analyzer, u"showDecel", Bool, u"true", true},
+    Entry {Setting::ShowMinFrontSusp, Analyzer, u"showMinFrontSusp", Bool, u"false", true},
+    Entry {Setting::ShowMaxFrontSusp, Analyzer, u"showMaxFrontSusp", Bool, u"false", true},
+    Entry {Setting::ShowMinRearSusp, Analyzer, u"showMinRearSusp", Bool, u"false", true},
+    Entry {Setting::ShowMaxRearSusp, Analyzer, u"showMaxRearSusp", Bool, u"false", true},
+    Entry {Setting::ShowPartiels, Analyzer, u"showPartiels", Bool, u"true", true},
+    Entry {Setting::ShowLocalMinMax, Analyzer, u"showLocalMinMax", Bool, u"true", true},
+    Entry {Setting::ShowPartielsPoints, Analyzer, u"showPartielsPoints", Bool, u"true", true},
+    Entry {Setting::UseGradientCompare, Analyzer, u"useGradientCompare", Bool, u"true", true},
+    Entry {Setting::ChartSpeed, Analyzer, u"chartSpeed", Bool, u"true"},
+    Entry {Setting::ChartAngle, Analyzer, u"chartAngle", Bool, u"true"},
+    Entry {Setting::ChartAccel, Analyzer, u"chartAccel", Bool, u"true"},
+    Entry {Setting::ChartFrontSusp, Analyzer, u"chartFrontSusp", Bool, u"false"},
+    Entry {Setting::ChartRearSusp, Analyzer, u"chartRearSusp", Bool, u"false"},
+    Entry {Setting::Splitter0Sizes, Analyzer, u"splitter0Sizes", Bytes, nullptr},
+    Entry {Setting::Splitter1Sizes, Analyzer, u"splitter1Sizes", Bytes, nullptr},
+    Entry {Setting::Splitter2Sizes, Analyzer, u"splitter2Sizes", Bytes, nullptr},
+    Entry {Setting::Splitter3Sizes, Analyzer, u"splitter3Sizes", Bytes, nullptr},
+    Entry {Setting::LastFileSelected, Analyzer, u"lastFileSelected", Text, nullptr},
+    Entry {Setting::V1400, Analyzer, u"v1400", Bool, u"false"},
+};
+
+const Entry &entryOf(Setting setting)
+{
+    return *std::find_if(Table.begin(), Table.end(),
+                         [setting](const Entry &entry) { return entry.setting == setting; });
+}
+
+QVariant standardOf(const Entry &entry)
+{
+    if (entry.standard == nullptr)
+        return QVariant(QMetaType(entry.type));
+    QVariant value(QString::fromUtf16(entry.standard));
+    value.convert(QMetaType(entry.type));
+    return value;
+}
+
+} // namespace
+
+Settings::Settings(QString root) : m_root(std::move(root)) {}
+
+QString Settings::defaultRoot()
+{
+    const QString location = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return location.left(location.lastIndexOf(u'/'));
+}
+
+QString Settings::path(SettingsFile file) const
+{
+    switch (file) {
+    case SettingsFile::Config:
+        return m_root + u"/Norvale/Config.ini";
+    case SettingsFile::Analyzer:
+        return m_root + u"/Norvale/ZUNO Analyzer/ConfigAnalyzer.ini";
+    case SettingsFile::Monitor:
+        return m_root + u"/Norvale/ZUNO Monitor/ConfigMonitor.ini";
+    }
+    return {};
+}
+
+QString Settings::logPath() const
+{
+    return m_root + u"/Norvale/ZUNO Analyzer/logAnalyzer.txt";
+}
+
+QVariant Settings::value(Setting setting) const
+{
+    const Entry &entry = entryOf(setting);
+    QVariant value = QSettings(path(entry.file), QSettings::IniFormat).value(key(setting));
+    if (!value.isValid() || value.isNull() || !value.convert(QMetaType(entry.type)))
+        return standardOf(entry);
+    return value;
+}
+
+bool Settings::isStored(Setting setting) const
+{
+    const Entry &entry = entryOf(setting);
+    return QSettings(path(entry.file), QSettings::IniFormat).value(key(setting)).isValid();
+}
+
+// Qt 6.4 replaces the file without looking whether there was room for the new one: on a full disk
+// all settings would be gone. They stay as they were instead.
+void Settings::change(SettingsFile file, const std::function<void(QSettings &)> &make) const
+{
+    std::error_code unknown;
+    const QString folder = QFileInfo(path(file)).absolutePath();
+    const auto room = std::filesystem::space(folder.toStdU16String(), unknown);
+    if (!unknown && room.available < LeastRoom) {
+        qCritical() << "No room on the disk to store the settings:" << path(file);
+        return;
+    }
+    QSettings settings(path(file), QSettings::IniFormat);
+    make(settings);
+}
+
+void Settings::setValues(const QList<std::pair<Setting, QVariant>> &values) const
+{
+    for (const SettingsFile file : {SettingsFile::Config, SettingsFile::Analyzer}) {
+        QList<std::pair<Setting, QVariant>> own = values;
+        own.removeIf([file](const auto &pair) { return entryOf(pair.first).file != file; });
+        if (own.isEmpty())
+            continue;
+        change(file, [&own](QSettings &settings) {
+            for (const auto &[setting, value] : std::as_const(own))
+                settings.setValue(key(setting), value);
+        });
+    }
+}
+
+QString Settings::key(Setting setting)
+{
+    return QString::fromUtf16(entryOf(setting).key);
+}
+
+QList<Setting> Settings::displaySettings()
+{
+    QList<Setting> settings;
+    for (const Entry &entry : Table) {
+        if (entry.isDisplay)
+            settings.append(entry.setting);
+    }
+    return settings;
+}
+
+void Settings::writeDisplayDefaults() const
+{
+    if (isStored(Setting::ShowLapType))
+        return;
+    QList<std::pair<Setting, QVariant>> values;
+    for (const Setting setting : displaySettings())
+        values.append({setting, standardOf(entryOf(setting))});
+    setValues(values);
+}
+
+QString Settings::mapsFolder() const
+{
+    return isStored(Setting::MapFiles) ? value(Setting::MapFiles).toString()
+                                       : m_root + standardOf(entryOf(Setting::MapFiles)).toString();
+}
+
+QString Settings::acquisitionFolder() const
+{
+    return isStored(Setting::AcquisitionFolder)
+               ? value(Setting::AcquisitionFolder).toString()
+               : m_root + standardOf(entryOf(Setting::AcquisitionFolder)).toString();
+}
+
+QString Settings::mapChoice(const QString &sessionFileName) const
+{
+    const QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
+    return settings.value(sessionFileName).toString();
+}
+
+void Settings::setMapChoice(const QString &sessionFileName, const QString &mapName) const
+{
+    change(SettingsFile::Analyzer,
+           [&](QSettings &settings) { settings.setValue(sessionFileName, mapName); });
+}
+
+void Settings::removeMapChoice(const QString &sessionFileName) const
+{
+    change(SettingsFile::Analyzer, [&](QSettings &settings) { settings.remove(sessionFileName); });
+}
+
+// Every key that is none of the table's is a session's.
+QStringList Settings::sessionsOnMap(const QString &mapName) const
+{
+    const QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
+    QStringList keys = settings.allKeys();
+    for (const Entry &entry : Table)
+        keys.removeOne(QString::fromUtf16(entry.key));
+    keys.removeIf([&](const QString &key) { return settings.value(key).toString() != mapName; });
+    return keys;
+}
+
+void Settings::renameMapChoices(const QString &from, const QString &to) const
+{
+    const QStringList sessions = sessionsOnMap(from);
+    change(SettingsFile::Analyzer, [&](QSettings &settings) {
+        for (const QString &session : sessions)
+            settings.setValue(session, to);
+    });
+}
+
+void Settings::removeMapChoices(const QString &mapName) const
+{
+    const QStringList sessions = sessionsOnMap(mapName);
+    change(SettingsFile::Analyzer, [&](QSettings &settings) {
+        for (const QString &session : sessions)
+            settings.remove(session);
+    });
+}
+
+} // namespace zuno

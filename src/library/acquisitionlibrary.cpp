@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <library/acquisitionlibrary.h>
+
+#include <algorithm>
+#include <utility>
+
+#include <QDebug>
+#include <QDir>
+#include <QDirIterator>
+
+#include <session/sessionfile.h>
+
+namespace zuno {
+
+namespace {
+
+bool isAtOrBelow(const QString &path, const QString &folder)
+{
+    return path == folder || path.startsWith(folder + u'/');
+}
+
+} // namespace
+
+AcquisitionLibrary::Said::Said(const Session &session)
+    : path(session.filePath())
+    , recording(session.recording())
+    , stored(session.storedState())
+    , edited(session.state())
+{
+}
+
+// What the rider has said about a session, and could not be written so far, outlives its reading.
+void AcquisitionLibrary::Said::putInto(Session &session) const
+{
+    if (!isStillRecording(recording, session.recording()))
+        return;
+    const StoredState now = session.state();
+    StoredState before = stored;
+    StoredState after = edited;
+    // What was computed from the samples that the file had is none of that.
+    for (StoredState *state : {&before, &after}) {
+        state->newSession = now.newSession;
+        state->information.circuitName = now.information.circuitName;
+        state->information.bestLapText = now.information.bestLapText;
+        state->information.idealTimeText = now.information.idealTimeText;
+    }
+    session.setInformation(merged(before, after, now).information);
+}
+
+AcquisitionLibrary::AcquisitionLibrary(QObject *parent) : QObject(parent) {}
+
+AcquisitionLibrary::~AcquisitionLibrary() = default;
+
+void AcquisitionLibrary::load(const QString &folder)
+{
+    // Clean paths: they are compared with those of the file tree.
+    QDirIterator files(QDir::cleanPath(folder), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (path.endsWith(Suffix) && indexOf(path) < 0)
+            append(path, "loadAcquisitionsFolder");
+    }
+    tell();
+}
+
+Session *AcquisitionLibrary::append(const QString &path, const char *caller)
+{
+    // Before it is read: what somebody writes meanwhile is not taken for known.
+    const FileStamp stamp = FileStamp::of(QFileInfo(path));
+    OpenedSession opened = openSession(path);
+    if (!opened.session || opened.session->sampleCount() == 0) {
+        qDebug().noquote() << QStringLiteral("(ZunoAnalyzer::%1) Error in decoding ZUNO File : %2")
+                                  .arg(QLatin1String(caller), path);
+        return nullptr;
+    }
+    m_sessions.push_back(std::move(opened.session));
+    m_stamps.insert(m_sessions.back().get(), stamp);
+    return m_sessions.back().get();
+}
+
+AcquisitionLibrary::FileStamp AcquisitionLibrary::FileStamp::of(const QFileInfo &file)
+{
+    return {file.size(), file.lastModified()};
+}
+
+void AcquisitionLibrary::noteWritten(const Session &session)
+{
+    m_stamps.insert(&session, FileStamp::of(QFileInfo(session.filePath())));
+}
+
+bool AcquisitionLibrary::refresh(const QString &path)
+{
+    Session *session = find(path);
+    if (session == nullptr || !QFileInfo::exists(path) || !hasChanged(session, QFileInfo(path)))
+        return false;
+    const Said said(*session);
+    bundle([&] {
+        remove(session);
+        if (Session *again = append(path, "onSessionDisplayedChange")) {
+            said.putInto(*again);
+            tell();
+        }
+    });
+    return true;
+}
+
+bool AcquisitionLibrary::hasChanged(const Session *session, const QFileInfo &file) const
+{
+    return m_stamps.value(session) != FileStamp::of(file);
+}
+
+void AcquisitionLibrary::bundle(const std::function<void()> &work)
+{
+    ++m_bundles;
+    work();
+    --m_bundles;
+    if (m_bundles == 0 && std::exchange(m_isUntold, false))
+        Q_EMIT sessionsChanged();
+}
+
+void AcquisitionLibrary::tell()
+{
+    bundle([this] { m_isUntold = true; });
+}
+
+Session *AcquisitionLibrary::add(const QString &path, const char *caller)
+{
+    const QString clean = QDir::cleanPath(path);
+    if (Session *known = find(clean))
+        return known;
+    Session *session = append(clean, caller);
+    if (session != nullptr)
+        tell();
+    return session;
+}
+
+void AcquisitionLibrary::remove(Session *session)
+{
+    const qsizetype index = indexOf(session);
+    if (index < 0)
+        return;
+    Q_EMIT sessionAboutToBeRemoved(session);
+    m_stamps.remove(session);
+    m_sessions.erase(m_sessions.begin() + index);
+    tell();
+}
+
+void AcquisitionLibrary::removeAt(const QString &path)
+{
+    bundle([this, &path] {
+        const QList<Session *> all = sessions();
+        for (Session *session : all) {
+            if (isAtOrBelow(session->filePath(), path))
+                remove(session);
+        }
+    });
+}
+
+void AcquisitionLibrary::movePath(const QString &from, const QString &to)
+{
+    for (const auto &session : m_sessions) {
+        const QString path = session->filePath();
+        if (isAtOrBelow(path, from))
+            session->setFilePath(to + path.mid(from.size()));
+    }
+    tell();
+}
+
+void AcquisitionLibrary::reload(const QString &folder)
+{
+    std::vector<Said> said;
+    for (const auto &session : m_sessions) {
+        said.emplace_back(*session);
+        Q_EMIT sessionAboutToBeRemoved(session.get());
+    }
+    m_sessions.clear();
+    m_stamps.clear();
+    load(folder);
+    for (const Said &one : said) {
+        if (Session *again = find(one.path))
+            one.putInto(*again);
+    }
+}
+
+QList<Session *> AcquisitionLibrary::sessions() const
+{
+    QList<Session *> list;
+    for (const auto &session : m_sessions)
+        list.append(session.get());
+    return list;
+}
+
+Session *AcquisitionLibrary::at(qsizetype index) const
+{
+    return index >= 0 && index < size() ? m_sessions[static_cast<std::size_t>(index)].get()
+                                        : nullptr;
+}
+
+qsizetype AcquisitionLibrary::indexOf(const QString &path) const
+{
+    const auto found = std::find_if(m_sessions.begin(), m_sessions.end(),
+                                    [&path](const auto &s) { return s->filePath() == path; });
+    return found == m_sessions.end() ? -1 : found - m_sessions.begin();
+}
+
+qsizetype AcquisitionLibrary::indexOf(const Session *session) const
+{
+    const auto found = std::find_if(m_sessions.begin(), m_sessions.end(),
+                                    [session](const auto &s) { return s.get() == session; });
+    return found == m_sessions.end() ? -1 : found - m_sessions.begin();
+}
+
+QMap<QString, bool> AcquisitionLibrary::viewedStateMap() const
+{
+    QMap<QString, bool> states;
+    for (const auto &session : m_sessions)
+        states.insert(session->fileName(), session->newSession() != 0);
+    return states;
+}
+
+} // namespace zuno

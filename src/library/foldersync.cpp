@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <library/foldersync.h>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include <QDir>
+#include <QDirIterator>
+
+#include <library/acquisitionlibrary.h>
+
+namespace zuno {
+
+namespace {
+
+constexpr std::chrono::milliseconds Soon {100};
+constexpr std::chrono::milliseconds Again {1000};
+
+bool hasBelow(const QHash<QString, const Session *> &known, const QString &folder)
+{
+    const auto paths = known.keyBegin();
+    return std::any_of(
+        paths, known.keyEnd(),
+        [prefix = QString(folder + u'/')](const QString &path) { return path.startsWith(prefix); });
+}
+
+} // namespace
+
+FolderSync::FolderSync(AcquisitionLibrary &library, QObject *parent)
+    : QObject(parent)
+    , m_library(library)
+{
+    for (QTimer *timer : {&m_soon, &m_again})
+        timer->setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, &FolderSync::lookAtAll);
+    connect(&m_again, &QTimer::timeout, this, [this] {
+        m_waiting += std::exchange(m_restless, {});
+        lookAtAll();
+    });
+}
+
+void FolderSync::setRoot(const QString &root)
+{
+    m_root = root;
+    m_contents.clear();
+}
+
+void FolderSync::look(const QString &folder)
+{
+    m_waiting.insert(folder.startsWith(m_root + u'/') ? folder : m_root);
+    // Not started anew: a folder that never rests is looked at, too.
+    if (!m_soon.isActive())
+        m_soon.start(Soon);
+}
+
+// The tree looks into a folder only when it is opened.
+void FolderSync::lookBelow(const QString &folder)
+{
+    look(folder);
+    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+                         QDirIterator::Subdirectories);
+    while (folders.hasNext())
+        look(folders.next());
+}
+
+void FolderSync::lookAtAll()
+{
+    m_library.bundle([this] {
+        Sessions known;
+        const QList<Session *> sessions = m_library.sessions();
+        for (const Session *session : sessions)
+            known.insert(session->filePath(), session);
+        const QSet<QString> folders = std::exchange(m_waiting, {});
+        if (isRootMissing())
+            return;
+        for (const QString &folder : folders)
+            lookAt(folder, known);
+    });
+    if (!m_restless.isEmpty() && !m_again.isActive())
+        m_again.start(Again);
+}
+
+// Nobody tells when it comes back, so it is asked for.
+bool FolderSync::isRootMissing()
+{
+    if (!QFileInfo::exists(m_root)) {
+        m_wasRootMissing = true;
+        m_contents.clear();
+        m_library.removeAt(m_root);
+        m_restless.insert(m_root);
+    } else if (std::exchange(m_wasRootMissing, false)) {
+        Q_EMIT rootReturned();
+    }
+    return m_wasRootMissing;
+}
+
+void FolderSync::lookAt(const QString &folder, const Sessions &known)
+{
+    if (!QFileInfo::exists(folder)) {
+        m_contents.remove(folder);
+        m_library.removeAt(folder);
+        return;
+    }
+    const bool isKnown = m_contents.contains(folder);
+    const Contents before = m_contents.value(folder);
+    Contents now;
+    QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const QFileInfo entry = entries.fileInfo();
+        if (entry.isDir()) {
+            now.insert(path, {});
+            if (isKnown ? !before.contains(path) : !hasBelow(known, path))
+                lookBelow(path);
+        } else if (path.endsWith(AcquisitionLibrary::Suffix)) {
+            const Stamp stamp {entry.size(), entry.lastModified()};
+            now.insert(path, stamp);
+            const Session *session = known.value(path);
+            if (session != nullptr || before.value(path) != stamp)
+                follow(entry, session);
+        }
+    }
+    dropMissing(folder, known, now);
+    if (now != before)
+        m_restless.insert(folder);
+    m_contents.insert(folder, now);
+}
+
+void FolderSync::follow(const QFileInfo &file, const Session *session)
+{
+    if (session == nullptr)
+        m_library.add(file.filePath(), "onAddNewFiles");
+    else if (m_library.hasChanged(session, file))
+        Q_EMIT fileChanged(file.filePath());
+}
+
+// Of what is further below only the folder is asked for: the others have their own look.
+void FolderSync::dropMissing(const QString &folder, const Sessions &known, const Contents &now)
+{
+    const QString prefix = folder + u'/';
+    QHash<QString, bool> isThere;
+    for (auto it = known.cbegin(); it != known.cend(); ++it) {
+        const QString &path = it.key();
+        if (!path.startsWith(prefix))
+            continue;
+        const qsizetype end = path.indexOf(u'/', prefix.size());
+        const QString entry = path.left(end);
+        if (!isThere.contains(entry))
+            isThere.insert(entry, end < 0 ? now.contains(path) : QFileInfo::exists(entry));
+        if (!isThere.value(entry))
+            m_library.removeAt(entry);
+    }
+}
+
+} // namespace zuno

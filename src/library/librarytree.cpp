@@ -1,0 +1,406 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <library/librarytree.h>
+
+#include <algorithm>
+
+#include <QAction>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QTreeView>
+
+#include <base/settings.h>
+#include <library/acquisitionlibrary.h>
+#include <library/customfilesystemmodeldelegate.h>
+#include <track/map.h>
+
+namespace zuno {
+
+namespace {
+
+// Blanks after a label make its dialog wide enough for a session's name.
+constexpr int LabelPadding = 60;
+
+QString padded(const QString &label)
+{
+    return label + QString(LabelPadding, u' ');
+}
+
+QString askForName(QWidget *parent, const QString &title, const QString &label,
+                   const QString &before, bool &accepted)
+{
+    QInputDialog dialog(parent, Qt::Window);
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(padded(label));
+    dialog.setTextValue(before);
+    dialog.setCancelButtonText(LibraryTree::tr("Cancel"));
+    if (auto *edit = dialog.findChild<QLineEdit *>()) {
+        static const QRegularExpression allowed(QStringLiteral("[^\\\\/`~@#$%^&*:?\"<>|]*"));
+        edit->setValidator(new QRegularExpressionValidator(allowed, edit));
+        edit->setToolTip(LibraryTree::tr("Do not use [^\\/`~@#$%^&*:?\"<>|] characters"));
+    }
+    accepted = dialog.exec() == QDialog::Accepted;
+    return dialog.textValue();
+}
+
+bool haveSameMap(const QList<Session *> &sessions)
+{
+    const Map *reference = nullptr;
+    for (const Session *session : sessions) {
+        const Map *map = session->map();
+        if (map == nullptr)
+            continue;
+        if (reference != nullptr && reference->name() != map->name())
+            return false;
+        if (reference == nullptr)
+            reference = map;
+    }
+    return true;
+}
+
+} // namespace
+
+LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Settings &settings)
+    : QObject(&view)
+    , m_view(view)
+    , m_library(library)
+    , m_settings(settings)
+    , m_sync(library)
+    , m_delegate(new CustomFileSystemModelDelegate(settings.path(SettingsFile::Monitor), this))
+    , m_rename(makeAction(tr("Rename"), QStringLiteral("rename.png"), Qt::Key_F2))
+    , m_delete(makeAction(tr("Delete"), QStringLiteral("cross.png"), QKeySequence::Delete))
+    , m_newFolder(makeAction(tr("New folder"), QStringLiteral("newfolder.ico"),
+                             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)))
+    , m_exportSession(makeAction(tr("Export Session"), QStringLiteral("export.png"), {}))
+    , m_exportData(makeAction(tr("Export Session Data (CSV)"), QStringLiteral("export.png"), {}))
+    , m_idealTime(
+          makeAction(tr("Compute multisession ideal time"), QStringLiteral("compute.png"), {}))
+{
+    m_view.setItemDelegate(m_delegate);
+    m_view.setToolTip(tr("Enter displays a session, F2 renames, Del deletes"));
+    connect(&m_sync, &FolderSync::fileChanged, this, &LibraryTree::fileChanged);
+    // The model goes on watching the folder that was moved away.
+    connect(
+        &m_sync, &FolderSync::rootReturned, this, [this] { setFolder(m_folder); },
+        Qt::QueuedConnection);
+    connect(m_rename, &QAction::triggered, this, &LibraryTree::renameCurrent);
+    connect(m_delete, &QAction::triggered, this, &LibraryTree::deleteSelected);
+    connect(m_newFolder, &QAction::triggered, this, &LibraryTree::createFolder);
+    connect(m_exportSession, &QAction::triggered, this, [this] {
+        const auto sessions = selectedSessions();
+        if (!sessions.isEmpty())
+            Q_EMIT exportSessionRequested(sessions.first());
+    });
+    connect(m_exportData, &QAction::triggered, this, [this] {
+        const auto sessions = selectedSessions();
+        if (!sessions.isEmpty())
+            Q_EMIT exportDataRequested(sessions.first());
+    });
+    connect(m_idealTime, &QAction::triggered, this,
+            [this] { Q_EMIT idealTimeRequested(selectedSessions()); });
+    connect(&m_view, &QTreeView::customContextMenuRequested, this, &LibraryTree::openMenu);
+}
+
+LibraryTree::~LibraryTree()
+{
+    m_view.setModel(nullptr);
+}
+
+QAction *LibraryTree::makeAction(const QString &text, const QString &icon,
+                                 const QKeySequence &shortcut)
+{
+    auto *action = new QAction(QIcon(QStringLiteral(":/Resources/") + icon), text, this);
+    action->setShortcut(shortcut);
+    // The keys are taken by handleKey; here they are only shown.
+    action->setShortcutContext(Qt::WidgetShortcut);
+    action->setShortcutVisibleInContextMenu(true);
+    return action;
+}
+
+void LibraryTree::setFolder(const QString &folder)
+{
+    m_folder = QDir::cleanPath(folder);
+    m_sync.setRoot(m_folder);
+    m_isRestored = false;
+    m_view.setModel(nullptr);
+    m_model = std::make_unique<QFileSystemModel>();
+    m_model->setIconProvider(&m_icons);
+    m_model->setReadOnly(false);
+    m_model->setNameFilters({QStringLiteral("*.ra1")});
+    m_model->setNameFilterDisables(false);
+    m_model->setRootPath(m_folder);
+    m_model->sort(0);
+    updateViewedStates();
+    const QModelIndex root = m_model->index(m_folder);
+    m_view.setModel(m_model.get());
+    m_view.setRootIndex(root);
+    m_view.setCurrentIndex(root);
+    m_view.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_view.setHeaderHidden(true);
+    for (int column = 1; column < m_model->columnCount(); ++column)
+        m_view.hideColumn(column);
+    connectModel();
+}
+
+void LibraryTree::connectModel()
+{
+    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        // From here on the rider decides what is selected. When the selected file vanishes, its
+        // neighbour becomes current, but nobody has asked to see it.
+        m_isRestored = true;
+        if (m_view.selectionModel()->hasSelection())
+            Q_EMIT currentChanged();
+    });
+    connect(m_model.get(), &QFileSystemModel::directoryLoaded, this, [this](const QString &folder) {
+        restoreSelection();
+        // It is also listed again because something in it has changed.
+        m_sync.look(folder);
+        // Only now it is known where in its folder a file stands.
+        if (!m_wanted.isEmpty() && m_wanted == currentPath()
+            && folder == QFileInfo(m_wanted).absolutePath())
+            m_view.scrollTo(m_view.currentIndex());
+    });
+    connect(
+        m_model.get(), &QFileSystemModel::dataChanged, this,
+        [this](const QModelIndex &topLeft) { m_sync.look(m_model->filePath(topLeft.parent())); });
+    for (const auto signal : {&QFileSystemModel::rowsInserted, &QFileSystemModel::rowsRemoved}) {
+        connect(m_model.get(), signal, this,
+                [this](const QModelIndex &parent) { m_sync.look(m_model->filePath(parent)); });
+    }
+}
+
+void LibraryTree::updateViewedStates()
+{
+    m_delegate->setViewedStates(m_library.viewedStateMap());
+    m_view.viewport()->update();
+}
+
+QString LibraryTree::currentPath() const
+{
+    const QModelIndex index = m_view.currentIndex();
+    return m_model && index.isValid() ? m_model->filePath(index) : QString();
+}
+
+bool LibraryTree::isCurrentFile() const
+{
+    const QModelIndex index = m_view.currentIndex();
+    return m_model && index.isValid() && !m_model->isDir(index);
+}
+
+void LibraryTree::select(const QString &path)
+{
+    selectOnly(path);
+    m_wanted = path;
+    m_view.scrollTo(m_model->index(path));
+}
+
+void LibraryTree::selectOnly(const QString &path)
+{
+    const QModelIndex index = m_model->index(path);
+    // Current before it is selected: what listens to the selection asks for the current item.
+    m_view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+    m_view.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect
+                                               | QItemSelectionModel::Rows);
+}
+
+void LibraryTree::restoreSelection()
+{
+    if (m_isRestored)
+        return;
+    const QString last = m_settings.value(Setting::LastFileSelected).toString();
+    if (!last.isEmpty() && m_library.find(last) != nullptr) {
+        m_isRestored = true;
+        select(last);
+    }
+}
+
+QModelIndexList LibraryTree::selectedRows() const
+{
+    return m_view.selectionModel() != nullptr ? m_view.selectionModel()->selectedRows(0)
+                                              : QModelIndexList();
+}
+
+QList<Session *> LibraryTree::selectedSessions() const
+{
+    QList<Session *> sessions;
+    const QModelIndexList rows = selectedRows();
+    for (const QModelIndex &row : rows) {
+        if (Session *session = m_library.find(m_model->filePath(row)))
+            sessions.append(session);
+    }
+    return sessions;
+}
+
+// The folders and files that the logger itself names stay as they are, and so does the library's
+// own folder, which is current until something in it is.
+bool LibraryTree::isProtected(const QString &path) const
+{
+    return path == m_folder || QFileInfo(path).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+}
+
+bool LibraryTree::isCurrentProtected() const
+{
+    return currentPath() == m_folder
+           || QFileInfo(currentPath()).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+}
+
+void LibraryTree::fillMenu(QMenu &menu)
+{
+    const QList<Session *> sessions = selectedSessions();
+    const auto isUsed
+        = [this](auto signal) { return isSignalConnected(QMetaMethod::fromSignal(signal)); };
+    if (sessions.size() >= 2 && haveSameMap(sessions)) {
+        m_idealTime->setEnabled(isUsed(&LibraryTree::idealTimeRequested));
+        menu.addAction(m_idealTime);
+        return;
+    }
+    if (!isCurrentProtected()) {
+        menu.addAction(m_rename);
+        menu.addAction(m_delete);
+    }
+    if (isCurrentFile() && sessions.size() == 1) {
+        m_exportSession->setEnabled(isUsed(&LibraryTree::exportSessionRequested));
+        m_exportData->setEnabled(isUsed(&LibraryTree::exportDataRequested));
+        menu.addAction(m_exportSession);
+        menu.addAction(m_exportData);
+    }
+    if (!isCurrentFile())
+        menu.addAction(m_newFolder);
+}
+
+void LibraryTree::openMenu(const QPoint &position)
+{
+    if (!m_view.currentIndex().isValid())
+        return;
+    QMenu menu;
+    fillMenu(menu);
+    menu.exec(m_view.viewport()->mapToGlobal(position));
+}
+
+bool LibraryTree::handleKey(const QKeyEvent &event)
+{
+    if (!m_view.currentIndex().isValid())
+        return false;
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (isCurrentFile())
+            Q_EMIT currentChanged();
+        else
+            m_view.setExpanded(m_view.currentIndex(), !m_view.isExpanded(m_view.currentIndex()));
+        return true;
+    case Qt::Key_F2:
+        if (!isCurrentProtected())
+            renameCurrent();
+        return true;
+    case Qt::Key_Delete:
+        if (!isCurrentProtected())
+            deleteSelected();
+        return true;
+    case Qt::Key_N:
+        if (event.modifiers() != (Qt::ControlModifier | Qt::ShiftModifier))
+            return false;
+        createFolder();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void LibraryTree::renameCurrent()
+{
+    const QString path = currentPath();
+    if (path.isEmpty() || isCurrentProtected())
+        return;
+    QString name = QFileInfo(path).fileName();
+    name.remove(AcquisitionLibrary::Suffix);
+    const bool isFile = isCurrentFile();
+    bool accepted = false;
+    QString newName
+        = askForName(m_view.window(), tr("Rename File"), tr("New name :"), name, accepted);
+    if (!accepted || newName.isEmpty())
+        return;
+    if (isFile)
+        newName += AcquisitionLibrary::Suffix;
+    rename(path, newName);
+}
+
+void LibraryTree::rename(const QString &from, const QString &newName)
+{
+    const QModelIndex index = m_model->index(from);
+    const QString to = QFileInfo(from).absolutePath() + u'/' + newName;
+    if (to == from)
+        return;
+    const bool taken = QFileInfo::exists(to);
+    if (taken || !m_model->setData(index, newName, Qt::EditRole)) {
+        Q_EMIT failed(taken ? tr("There is a \"%1\" already; nothing was renamed.").arg(newName)
+                            : tr("\"%1\" could not be renamed.").arg(QFileInfo(from).fileName()));
+        return;
+    }
+    m_library.movePath(from, to);
+    if (QFileInfo(to).isDir()) {
+        // The model goes on watching a renamed folder under its old name.
+        setFolder(m_folder);
+        select(to);
+    }
+    const QString last = m_settings.value(Setting::LastFileSelected).toString();
+    if (last == from || last.startsWith(from + u'/'))
+        m_settings.setValue(Setting::LastFileSelected, QString(to + last.mid(from.size())));
+    const QString oldName = QFileInfo(from).fileName();
+    const QString choice = m_settings.mapChoice(oldName);
+    if (!choice.isNull()) {
+        m_settings.removeMapChoice(oldName);
+        m_settings.setMapChoice(newName, choice);
+    }
+}
+
+void LibraryTree::deleteSelected()
+{
+    QStringList paths;
+    const QModelIndexList rows = selectedRows();
+    for (const QModelIndex &row : rows)
+        paths.append(m_model->filePath(row));
+    paths.removeIf([this](const QString &path) { return isProtected(path); });
+    if (paths.isEmpty())
+        return;
+    QMessageBox box(QMessageBox::Warning, tr("Delete"),
+                    tr("Are you sure you want to delete the selected files PERMANENTLY (not moved "
+                       "into the trash bin)?"),
+                    QMessageBox::NoButton, m_view.window());
+    const QPushButton *yes = box.addButton(tr("Yes"), QMessageBox::YesRole);
+    box.setDefaultButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
+    box.exec();
+    if (box.clickedButton() != yes)
+        return;
+    for (const QString &path : std::as_const(paths)) {
+        const QSignalBlocker blocker(m_model.get());
+        // A file inside a folder that was deleted before it is gone already.
+        if (QFileInfo::exists(path) && !m_model->remove(m_model->index(path)))
+            Q_EMIT failed(tr("\"%1\" could not be deleted.").arg(QFileInfo(path).fileName()));
+    }
+}
+
+void LibraryTree::createFolder()
+{
+    const QString path = currentPath();
+    if (path.isEmpty() || isCurrentFile())
+        return;
+    bool accepted = false;
+    const QString name
+        = askForName(m_view.window(), tr("Create new folder"), tr("Folder name :"), {}, accepted);
+    if (accepted && !name.isEmpty() && !m_model->mkdir(m_model->index(path), name).isValid())
+        Q_EMIT failed(tr("The folder \"%1\" could not be created.").arg(name));
+}
+
+} // namespace zuno

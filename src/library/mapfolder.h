@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QDateTime>
+#include <QFileSystemWatcher>
+#include <QList>
+#include <QObject>
+#include <QTimer>
+
+#include <track/mapfile.h>
+
+namespace zuno {
+
+/// The maps of the maps folder, and a watch on it: a map file that is added, changed or taken
+/// away while the program runs shows at once.
+class MapFolder : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MapFolder(QObject *parent = nullptr);
+
+    /// Loads the maps of @p folder and watches it. False when the folder does not exist; then
+    /// there are no maps.
+    bool open(const QString &folder);
+    [[nodiscard]] const MapLibrary &library() const { return m_library; }
+    /// Loads the maps again, and watches folders that are new. Every map of before is gone; whoever
+    /// points at one must have let go.
+    void load();
+
+Q_SIGNALS:
+    /// The folder is another than when it was loaded, and has been at rest since. The maps are
+    /// those of before still.
+    void changed();
+
+private:
+    /// Tells whether a file is still the one that was loaded.
+    struct FileStamp
+    {
+        QString path;
+        qint64 size = 0;
+        QDateTime modified;
+
+        friend bool operator==(const FileStamp &, const FileStamp &) = default;
+    };
+
+    [[nodiscard]] QList<FileStamp> stamps() const;
+    void watch();
+
+    MapLibrary m_library;
+    QList<FileStamp> m_loaded;
+    QFileSystemWatcher m_watcher;
+    QTimer m_rest;
+    QString m_folder;
+};
+
+} // namespace zuno

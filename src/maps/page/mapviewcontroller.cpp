@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <maps/page/mapviewcontroller.h>
+
+#include <QGeoCoordinate>
+#include <QGeoRectangle>
+#include <QLayout>
+#include <QLoggingCategory>
+#include <QSettings>
+#include <QVariant>
+#include <QWebEngineView>
+
+#include <base/settings.h>
+#include <maps/page/jsconnector.h>
+#include <maps/page/pagesettings.h>
+#include <maps/payload/lappayload.h>
+#include <session/laps/lap.h>
+#include <session/recording/trace.h>
+#include <session/session.h>
+#include <track/map.h>
+
+namespace zuno {
+
+namespace {
+
+Q_LOGGING_CATEGORY(category, "zuno.mapview")
+
+constexpr int MinimumWidth = 500;
+// A page that dies again and again is left alone.
+constexpr int MostRestarts = 3;
+
+void run(QWebEnginePage &page, const QString &function, const QString &text)
+{
+    page.runJavaScript(QStringLiteral("%1(\"%2\");").arg(function, text),
+                       [](const QVariant &result) { qCDebug(category) << result; });
+}
+
+// (0, 0) stands for a place that is not known.
+QString textOf(const QGeoCoordinate &centre)
+{
+    const QGeoCoordinate place = centre.isValid() ? centre : QGeoCoordinate(0.0, 0.0);
+    return place.toString(QGeoCoordinate::Degrees);
+}
+
+} // namespace
+
+QString centreText(const Map *map)
+{
+    return textOf(map != nullptr ? map->startPoint() : QGeoCoordinate());
+}
+
+void MapViewController::init(QWidget *window, QLayout *layout)
+{
+    if (m_view != nullptr)
+        return;
+    m_window = window;
+    m_view = new QWebEngineView(window);
+    m_view->setMinimumWidth(MinimumWidth);
+    // Going back, saving and looking at the source are of no use on a map.
+    m_view->setContextMenuPolicy(Qt::NoContextMenu);
+    // Files that are dropped are for the window.
+    m_view->setAcceptDrops(false);
+    layout->addWidget(m_view);
+    m_page = new JSConnector(m_view);
+    connect(m_page, &JSConnector::loadFinished, this, &MapViewController::onPageConnected);
+    connect(m_page, &JSConnector::drawn, this, &MapViewController::lapDrawn);
+    connect(m_page, &JSConnector::samplePicked, this, &MapViewController::samplePicked);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::restart);
+    connectEditing();
+    injectPageSettings(*m_page);
+    m_view->setPage(m_page);
+    m_page->setBackgroundColor(QColor(0x14, 0x18, 0x1d));
+    m_view->load(QUrl(QStringLiteral("qrc:/Resources/map.html")));
+    m_view->show();
+}
+
+// The web engine runs in a process of its own, which can die without taking the program along.
+void MapViewController::restart()
+{
+    m_isReady = false;
+    if (m_restarts++ < MostRestarts)
+        QMetaObject::invokeMethod(
+            m_view, [view = m_view] { view->reload(); }, Qt::QueuedConnection);
+}
+
+// A page that has just been loaded has no map yet, even when the one before it had.
+void MapViewController::onPageConnected()
+{
+    m_isReady = false;
+    Q_EMIT mapReady();
+    sendPath();
+    sendDraft(OutlineForm::Sent);
+}
+
+void MapViewController::initOnlineMap(const QList<Session *> &sessions, int index)
+{
+    if (m_view == nullptr)
+        return;
+    m_isReady = true;
+    const bool hasSession = index >= 0 && index < sessions.size();
+    const Map *map = hasSession ? sessions[index]->map() : nullptr;
+    run(*m_page, QStringLiteral("initMap"), centreText(map));
+}
+
+void MapViewController::centerMap(const Map *map)
+{
+    if (m_isReady)
+        run(*m_page, QStringLiteral("centerMap"), centreText(map));
+}
+
+void MapViewController::drawLap(const Lap *lap)
+{
+    if (m_view != nullptr && lap != nullptr)
+        Q_EMIT m_page->drawOneLap(QString::fromUtf8(lapPayload(*lap)));
+}
+
+void MapViewController::drawTwoLaps(const Lap *first, const Lap *second)
+{
+    if (m_view != nullptr && first != nullptr && second != nullptr)
+        Q_EMIT m_page->drawTwoLaps(QString::fromUtf8(lapPayload(*first)),
+                                   QString::fromUtf8(lapPayload(*second)));
+}
+
+void MapViewController::clearLaps()
+{
+    if (m_view != nullptr)
+        Q_EMIT m_page->drawOneLap(QString::fromUtf8(emptyLapPayload()));
+}
+
+void MapViewController::drawCursor(const QString &text)
+{
+    if (m_view != nullptr)
+        Q_EMIT m_page->drawCursor(text);
+}
+
+void MapViewController::drawSecondCursor(const QString &text)
+{
+    if (m_view != nullptr)
+        Q_EMIT m_page->drawSecondCursor(text);
+}
+
+void MapViewController::showStretch(const Points &points)
+{
+    QList<QGeoCoordinate> places;
+    for (const PointAcquisition &point : points) {
+        const QGeoCoordinate place = positionOf(point);
+        if (place.isValid())
+            places.append(place);
+    }
+    const QGeoRectangle bounds(places);
+    if (!m_isReady || !bounds.isValid())
+        return;
+    const QGeoCoordinate southWest = bounds.bottomLeft();
+    const QGeoCoordinate northEast = bounds.topRight();
+    run(*m_page, QStringLiteral("showStretch"),
+        QStringLiteral("[%1,%2,%3,%4]")
+            .arg(southWest.latitude(), 0, 'f', 7)
+            .arg(southWest.longitude(), 0, 'f', 7)
+            .arg(northEast.latitude(), 0, 'f', 7)
+            .arg(northEast.longitude(), 0, 'f', 7));
+}
+
+void MapViewController::setOptions(const QString &settingsPath)
+{
+    if (m_view == nullptr)
+        return;
+    const QSettings settings(settingsPath, QSettings::IniFormat);
+    const auto text = [&settings](Setting setting) {
+        return settings.value(Settings::key(setting)).toString();
+    };
+    const PageOptions options {text(Setting::ShowLocalMinMax), text(Setting::ShowPartielsPoints),
+                               text(Setting::UseGradientCompare)};
+    Q_EMIT m_page->setOptions(QString::fromUtf8(optionsPayload(options)));
+}
+
+void MapViewController::editPath(std::span<const PointAcquisition> samples)
+{
+    m_editing = Editing();
+    m_editing->path = QString::fromUtf8(pathPayload(samples));
+    for (const PointAcquisition &sample : samples) {
+        m_editing->centre = positionOf(sample);
+        if (m_editing->centre.isValid())
+            break;
+    }
+    sendPath();
+}
+
+void MapViewController::editDraft(const MapDraft &draft, int selected, const QList<int> &warned)
+{
+    if (!m_editing)
+        return;
+    const bool sameOutline = m_editing->draft && m_editing->draft->outline == draft.outline;
+    m_editing->draft = draft;
+    m_editing->selected = selected;
+    m_editing->warned = warned;
+    sendDraft(sameOutline ? OutlineForm::AsBefore : OutlineForm::Sent);
+}
+
+void MapViewController::endEditing()
+{
+    m_editing.reset();
+    if (m_view != nullptr)
+        Q_EMIT m_page->endEditing();
+}
+
+void MapViewController::sendPath()
+{
+    if (!m_editing || m_view == nullptr || !m_page->isConnected())
+        return;
+    if (!m_isReady) {
+        m_isReady = true;
+        run(*m_page, QStringLiteral("initMap"), textOf(m_editing->centre));
+    }
+    Q_EMIT m_page->editPath(m_editing->path);
+}
+
+void MapViewController::sendDraft(OutlineForm outline)
+{
+    if (!m_editing || !m_editing->draft || m_view == nullptr || !m_page->isConnected())
+        return;
+    Q_EMIT m_page->editDraft(QString::fromUtf8(
+        draftPayload(*m_editing->draft, m_editing->selected, m_editing->warned, outline)));
+}
+
+// The page may be late, and it is not trusted with numbers.
+bool MapViewController::isKnownPoint(int point) const
+{
+    if (!m_editing || !m_editing->draft)
+        return false;
+    return point == StartPointNumber ? m_editing->draft->start.isValid()
+                                     : point >= 0 && point < m_editing->draft->timingPoints.size();
+}
+
+void MapViewController::connectEditing()
+{
+    connect(m_page, &JSConnector::pointMoved, this,
+            [this](int point, const QGeoCoordinate &place, bool done) {
+                if (isKnownPoint(point))
+                    Q_EMIT pointMoved(point, place, done);
+            });
+    connect(m_page, &JSConnector::pointSelected, this, [this](int point) {
+        if (isKnownPoint(point))
+            Q_EMIT pointSelected(point);
+    });
+    connect(m_page, &JSConnector::gateResized, this, [this](double metres, bool done) {
+        if (m_editing)
+            Q_EMIT gateResized(metres, done);
+    });
+    connect(m_page, &JSConnector::trackClicked, this,
+            [this](const QGeoCoordinate &place, double metresPerPixel) {
+                if (m_editing)
+                    Q_EMIT trackClicked(place, metresPerPixel);
+            });
+}
+
+} // namespace zuno

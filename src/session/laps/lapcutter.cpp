@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <session/laps/lapcutter.h>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include <base/numbers.h>
+#include <session/laps/sessionmarks.h>
+#include <session/recording/trace.h>
+#include <session/session.h>
+#include <track/map.h>
+
+namespace zuno {
+
+namespace {
+
+// How many samples after one crossing of the line the next is possible.
+constexpr int CoolDown = 10;
+
+// The line is looked for within this many gate sizes of the start point.
+constexpr double LineReach = 2.0;
+
+// What once around may differ from the map's length, as a part of it.
+constexpr double LengthTolerance = 0.1;
+
+// Cuts one session; lives for one call of cutIntoLaps.
+class LapCutter
+{
+public:
+    LapCutter(const Session &session, const Map &map)
+        : m_session(session)
+        , m_map(map)
+        , m_samples(session.wholeSamples())
+        , m_trace(m_samples)
+        , m_line(map.startPoint(), LineReach * map.gateSize())
+    {
+    }
+
+    LapResults cut()
+    {
+        for (std::size_t i = 0; i < m_samples.size(); ++i)
+            visit(i);
+        if (!m_results.laps.empty())
+            m_results.laps.push_back(makeLap());
+        return std::move(m_results);
+    }
+
+private:
+    void visit(std::size_t i)
+    {
+        if (m_coolDown > 0)
+            --m_coolDown;
+        if (!wentToLapBefore(i))
+            append(i);
+        if (m_coolDown == 0 && m_line.isCrossedAt(m_trace, i))
+            crossLine(i);
+        addDistance(i);
+    }
+
+    void append(std::size_t i) { append(m_samples[i], m_trace.at(i)); }
+
+    void append(const PointAcquisition &point, const QGeoCoordinate &position)
+    {
+        m_points.push_back(point);
+        m_positions.push_back(position);
+    }
+
+    // A stretch without positions at the line belongs to the old lap up to the moment of the
+    // crossing, and to the new one from then on.
+    [[nodiscard]] bool wentToLapBefore(std::size_t i) const
+    {
+        return i < m_gapEnd && m_samples[i].dataTimeStamp < m_crossingStamp;
+    }
+
+    void crossLine(std::size_t i)
+    {
+        const std::size_t next = m_trace.next(i);
+        PointAcquisition crossing = m_samples[i];
+        m_gapEnd = 0;
+        m_points.pop_back();
+        m_positions.pop_back();
+        if (next != Trace::None) {
+            crossing = crossingPoint(m_samples[i], m_samples[next], m_line.centre());
+            m_gapEnd = next;
+            m_crossingStamp = crossing.dataTimeStamp;
+            for (std::size_t j = i + 1; j < next; ++j) {
+                if (wentToLapBefore(j))
+                    append(j);
+            }
+        }
+        const QGeoCoordinate position = positionOf(crossing);
+        append(crossing, position);
+        const std::size_t length = m_points.size();
+        m_results.laps.push_back(makeCrossedLap());
+        // The next lap will be about as long.
+        m_points.reserve(length + (length / 8));
+        m_positions.reserve(length + (length / 8));
+        append(crossing, position);
+        m_coolDown = CoolDown;
+    }
+
+    std::unique_ptr<Lap> makeLap()
+    {
+        auto lap = std::make_unique<Lap>(m_session);
+        lap->setLapNumber(static_cast<qint32>(m_results.laps.size()) + 1);
+        lap->setPoints(std::exchange(m_points, {}), Trace(std::exchange(m_positions, {})));
+        return lap;
+    }
+
+    std::unique_ptr<Lap> makeCrossedLap()
+    {
+        std::unique_ptr<Lap> lap = makeLap();
+        const QList<quint8> &invalid = m_session.information().invalidLaps;
+        lap->setIsValid(std::find(invalid.begin(), invalid.end(), lap->lapNumber())
+                        == invalid.end());
+        lap->setIsComplete(lap->lapNumber() != 1 && isOnceAround(lap->distance(), m_map));
+        return lap;
+    }
+
+    void addDistance(std::size_t i)
+    {
+        if (!m_trace.at(i).isValid())
+            return;
+        if (m_previous != Trace::None) {
+            const double step = m_trace.at(m_previous).distanceTo(m_trace.at(i));
+            m_results.distance = wrappedSum(m_results.distance, truncatedToInt(step));
+        }
+        m_previous = i;
+    }
+
+    const Session &m_session;
+    const Map &m_map;
+    std::span<const PointAcquisition> m_samples;
+    Trace m_trace;
+    Gate m_line;
+    LapResults m_results;
+    // The lap that is being ridden.
+    Points m_points;
+    std::vector<QGeoCoordinate> m_positions;
+    std::size_t m_previous = Trace::None;
+    std::size_t m_gapEnd = 0;
+    quint32 m_crossingStamp = 0;
+    int m_coolDown = 0;
+};
+
+void rankLapTimes(LapResults &results)
+{
+    qint32 best = LapResults::NoTime;
+    quint32 cumulated = 0;
+    results.bestLap = 0;
+    for (std::size_t i = 0; i < results.laps.size(); ++i) {
+        Lap &lap = *results.laps[i];
+        lap.setIsBest(false);
+        cumulated += static_cast<quint32>(lap.lapTime());
+        lap.setCumulatedTime(cumulated);
+        if (lap.isComplete() && lap.isValid() && lap.lapTime() < best) {
+            best = lap.lapTime();
+            results.bestLap = static_cast<qint32>(i);
+        }
+    }
+    if (!results.laps.empty())
+        results.laps[static_cast<std::size_t>(results.bestLap)]->setIsBest(true);
+}
+
+// The best time of one sector, and its part of the ideal time.
+void rankSector(LapResults &results, int sector)
+{
+    const auto s = static_cast<std::size_t>(sector);
+    for (std::size_t i = 0; i < results.laps.size(); ++i) {
+        Lap &lap = *results.laps[i];
+        lap.setBestSector(sector, false);
+        const qint32 time = lap.sectorTime(sector);
+        if (lap.isValid() && time != -1 && time < results.bestSectorTimes[s]) {
+            results.bestSectorTimes[s] = time;
+            results.bestSectorLaps[s] = static_cast<qint32>(i);
+        }
+    }
+    if (results.bestSectorLaps[s] >= 0) {
+        results.laps[static_cast<std::size_t>(results.bestSectorLaps[s])]->setBestSector(sector,
+                                                                                         true);
+        results.idealTime = wrappedSum(results.idealTime, results.bestSectorTimes[s]);
+    }
+}
+
+} // namespace
+
+LapResults::LapResults()
+{
+    bestSectorTimes.fill(NoTime);
+    bestSectorLaps.fill(-1);
+}
+
+bool isOnceAround(double distance, const Map &map)
+{
+    return std::fabs(distance - map.length()) < LengthTolerance * map.length();
+}
+
+LapResults cutIntoLaps(const Session &session)
+{
+    const Map *map = session.map();
+    if (map == nullptr || !map->isUsable())
+        return {};
+    LapResults results = LapCutter(session, *map).cut();
+    assignMarks(results.laps, session.wholeSamples());
+    rankLaps(results, map);
+    return results;
+}
+
+void rankLaps(LapResults &results, const Map *map)
+{
+    rankLapTimes(results);
+    results.bestSectorTimes.fill(LapResults::NoTime);
+    results.bestSectorLaps.fill(-1);
+    results.idealTime = -1;
+    const int sectors = map != nullptr ? map->sectorCount() : 0;
+    for (int sector = 0; sector < sectors; ++sector)
+        rankSector(results, sector);
+}
+
+} // namespace zuno

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <array>
+#include <memory>
+#include <vector>
+
+#include <session/laps/lap.h>
+
+namespace zuno {
+
+class Map;
+class Session;
+
+using LapList = std::vector<std::unique_ptr<Lap>>;
+
+/// What a session's laps come to.
+struct LapResults
+{
+    /// The time of a sector that nobody rode, milliseconds.
+    static constexpr qint32 NoTime = 10000000;
+
+    LapResults();
+
+    LapList laps;
+    /// Whole metres: the distances from sample to sample, each truncated.
+    qint32 distance = 0;
+    /// An index into laps.
+    qint32 bestLap = 0;
+    /// Milliseconds: one less than the sum of the best sector times; -1 without any.
+    qint32 idealTime = -1;
+    /// For each sector the best time in milliseconds (NoTime without one) and the index of its
+    /// lap (-1 without one).
+    std::array<qint32, MaximumSectors> bestSectorTimes {};
+    std::array<qint32, MaximumSectors> bestSectorLaps {};
+};
+
+/// Whether @p distance metres are once around the circuit of @p map: within a tenth of its length.
+[[nodiscard]] bool isOnceAround(double distance, const Map &map);
+
+/// Cuts the samples of @p session into laps at its map's start/finish line, with all figures,
+/// marks and records. No laps without a usable map or without a pass over the line.
+[[nodiscard]] LapResults cutIntoLaps(const Session &session);
+
+/// Computes cumulated times, best lap, best sectors and ideal time from the laps and their flags.
+/// @p map gives the number of sectors.
+void rankLaps(LapResults &results, const Map *map);
+
+} // namespace zuno

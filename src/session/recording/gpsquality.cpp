@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <session/recording/gpsquality.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include <session/recording/trace.h>
+
+namespace zuno {
+
+namespace {
+
+constexpr double FastestPerSecond = 500.0 / 3.6;
+constexpr double ReceiverError = 50.0;
+constexpr double BelievedAfterMs = 1000.0;
+constexpr double MetresPerDegree = 111195.0;
+
+// Flat earth is near enough for what is asked, and half a million samples are looked at.
+double roughMetres(const PointAcquisition &a, const PointAcquisition &b)
+{
+    const double latitude = (a.dataCoordY + b.dataCoordY) / 2 * std::numbers::pi / 180;
+    return MetresPerDegree
+           * std::hypot(b.dataCoordY - a.dataCoordY,
+                        (b.dataCoordX - a.dataCoordX) * std::cos(latitude));
+}
+
+double millisecondsBetween(const PointAcquisition &a, const PointAcquisition &b)
+{
+    return std::max(0.0,
+                    static_cast<double>(b.dataTimeStamp) - static_cast<double>(a.dataTimeStamp));
+}
+
+bool isReachable(const PointAcquisition &from, const PointAcquisition &to)
+{
+    return roughMetres(from, to)
+           <= ReceiverError + (FastestPerSecond * millisecondsBetween(from, to) / 1000.0);
+}
+
+} // namespace
+
+PositionJudge::Verdict PositionJudge::judge(const PointAcquisition &sample)
+{
+    if (!positionOf(sample).isValid())
+        return Verdict::None;
+    const bool isBelieved = m_firstBad != nullptr && isReachable(*m_firstBad, sample)
+                            && millisecondsBetween(*m_firstBad, sample) >= BelievedAfterMs;
+    if (m_good == nullptr || isReachable(*m_good, sample) || isBelieved) {
+        m_good = &sample;
+        m_firstBad = nullptr;
+        return Verdict::Good;
+    }
+    if (m_firstBad == nullptr || !isReachable(*m_firstBad, sample))
+        m_firstBad = &sample;
+    return Verdict::Jump;
+}
+
+GpsQuality gpsQuality(std::span<const PointAcquisition> samples)
+{
+    GpsQuality quality;
+    PositionJudge positions;
+    for (const PointAcquisition &sample : samples) {
+        const PositionJudge::Verdict verdict = positions.judge(sample);
+        quality.withoutPosition += verdict == PositionJudge::Verdict::None ? 1 : 0;
+        quality.jumps += verdict == PositionJudge::Verdict::Jump ? 1 : 0;
+    }
+    return quality;
+}
+
+} // namespace zuno

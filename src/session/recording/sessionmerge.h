@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <session/recording/storedtext.h>
+
+namespace zuno {
+
+/// What a rider can say about a session; the information block at the end of its file.
+struct SessionInformation
+{
+    /// What the loggers store when they know no temperature.
+    static constexpr qint32 UnknownTemperature = 99;
+    static constexpr qint32 MaximumTemperature = 255;
+
+    StoredText circuitName;
+    StoredText event;
+    StoredText driver;
+    StoredText bestLapText;
+    StoredText idealTimeText;
+    StoredText vehicle;
+    StoredText condition {QStringLiteral("Dry")};
+    /// Degrees; the file keeps the low byte.
+    qint32 temperature = 20;
+    StoredText tyres;
+    StoredText notes;
+    QList<quint8> invalidLaps;
+
+    friend bool operator==(const SessionInformation &, const SessionInformation &) = default;
+};
+
+/// The parts of a session that its file takes from the program.
+struct StoredState
+{
+    quint8 newSession = 1;
+    SessionInformation information;
+
+    friend bool operator==(const StoredState &, const StoredState &) = default;
+};
+
+/// Joins two changes of @p base, so that neither undoes the other: a field that @p mine has left
+/// alone is that of @p theirs. A field that both have changed is that of @p mine, but for the laps
+/// thrown out, of which each is a field of its own.
+[[nodiscard]] StoredState merged(const StoredState &base, const StoredState &mine,
+                                 const StoredState &theirs);
+
+} // namespace zuno

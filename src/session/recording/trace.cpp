@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <session/recording/trace.h>
+
+#include <base/numbers.h>
+
+namespace zuno {
+
+QGeoCoordinate positionOf(const PointAcquisition &point)
+{
+    return {point.dataCoordY, point.dataCoordX};
+}
+
+Trace::Trace(std::span<const PointAcquisition> points)
+{
+    m_positions.reserve(points.size());
+    for (const PointAcquisition &point : points)
+        m_positions.push_back(positionOf(point));
+}
+
+Trace::Trace(std::vector<QGeoCoordinate> positions) : m_positions(std::move(positions)) {}
+
+std::size_t Trace::next(std::size_t i) const
+{
+    for (std::size_t j = i + 1; j < m_positions.size(); ++j) {
+        if (m_positions[j].isValid())
+            return j;
+    }
+    return None;
+}
+
+PointAcquisition crossingPoint(const PointAcquisition &p1, const PointAcquisition &p2,
+                               const QGeoCoordinate &centre)
+{
+    const QGeoCoordinate position1 = positionOf(p1);
+    const QGeoCoordinate position2 = positionOf(p2);
+    const auto a = static_cast<float>(position1.distanceTo(centre));
+    const auto b = static_cast<float>(position2.distanceTo(centre));
+    const auto c = static_cast<float>(position1.distanceTo(position2));
+    const float divisor = (c + c) * c;
+    // Not clamped: a line just outside the segment is met before or after it.
+    const float r = divisor == 0.0F ? 0.0F : ((c * c) + (a * a) - (b * b)) / divisor;
+
+    const auto stamp1 = static_cast<float>(p1.dataTimeStamp);
+    const auto stamp2 = static_cast<float>(p2.dataTimeStamp);
+    PointAcquisition crossing = p1;
+    crossing.dataTimeStamp = stampFromFloat(stamp1 + ((stamp2 - stamp1) * r));
+    const quint32 wholeSeconds = p1.dataTimeStamp / 1000;
+    crossing.dataTimeSec = wholeSeconds;
+    crossing.dataCoordX
+        = p1.dataCoordX + ((p2.dataCoordX - p1.dataCoordX) * static_cast<double>(r));
+    crossing.dataCoordY
+        = p1.dataCoordY + ((p2.dataCoordY - p1.dataCoordY) * static_cast<double>(r));
+    return crossing;
+}
+
+} // namespace zuno

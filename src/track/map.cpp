@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <track/map.h>
+
+#include <algorithm>
+
+#include <QFileInfo>
+
+namespace zuno {
+
+namespace {
+
+// A point farther than this (metres) from the outline has no direction.
+constexpr double DirectionReach = 10000.0;
+
+// Looks for the outline segment whose first point is nearest to a given point.
+class NearestSegment
+{
+public:
+    explicit NearestSegment(const QGeoCoordinate &target) : m_target(target) {}
+
+    void offer(const QGeoCoordinate &from, const QGeoCoordinate &to)
+    {
+        const double distance = from.distanceTo(m_target);
+        if (distance < m_nearest) {
+            m_nearest = distance;
+            m_direction = {static_cast<float>(to.latitude() - from.latitude()),
+                           static_cast<float>(to.longitude() - from.longitude())};
+        }
+    }
+    [[nodiscard]] Map::Direction direction() const { return m_direction; }
+
+private:
+    QGeoCoordinate m_target;
+    double m_nearest = DirectionReach;
+    Map::Direction m_direction {};
+};
+
+} // namespace
+
+Map::Map() = default;
+Map::~Map() = default;
+
+void Map::setCorners(const QGeoCoordinate &a, const QGeoCoordinate &b)
+{
+    m_cornerA = a;
+    m_cornerB = b;
+}
+
+void Map::addNamedPoint(const QString &name, const QGeoCoordinate &coordinate)
+{
+    if (name.contains(u"start", Qt::CaseInsensitive))
+        m_startPoint = coordinate;
+    if (name.contains(u"time", Qt::CaseInsensitive))
+        m_timingPoints.insert(name, coordinate);
+}
+
+void Map::computeGeometry()
+{
+    m_length = 0.0;
+    m_startDirection = {};
+    m_timingDirections.clear();
+    if (m_trackPoints.isEmpty())
+        return;
+    NearestSegment start(m_startPoint);
+    QList<NearestSegment> timing;
+    for (const QGeoCoordinate &point : std::as_const(m_timingPoints))
+        timing.append(NearestSegment(point));
+    for (qsizetype i = 0; i + 1 < m_trackPoints.size(); ++i) {
+        const QGeoCoordinate &from = m_trackPoints.at(i);
+        const QGeoCoordinate &to = m_trackPoints.at(i + 1);
+        m_length += from.distanceTo(to);
+        start.offer(from, to);
+        for (NearestSegment &segment : timing)
+            segment.offer(from, to);
+    }
+    m_startDirection = start.direction();
+    for (const NearestSegment &segment : std::as_const(timing))
+        m_timingDirections.append(segment.direction());
+}
+
+QString Map::displayName() const
+{
+    return QFileInfo(m_name).baseName();
+}
+
+int Map::sectorCount() const
+{
+    return static_cast<int>(std::min<qsizetype>(m_timingPoints.size(), MaximumSectors));
+}
+
+std::optional<Gate> Map::sectorGate(int sector) const
+{
+    const QString number = QString::number(sector);
+    std::optional<Gate> gate;
+    for (auto it = m_timingPoints.cbegin(); it != m_timingPoints.cend(); ++it) {
+        if (it.key().contains(number))
+            gate.emplace(it.value(), m_gateSize);
+    }
+    return gate;
+}
+
+} // namespace zuno

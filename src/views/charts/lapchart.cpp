@@ -1,0 +1,399 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <views/charts/lapchart.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include <QAreaSeries>
+#include <QChart>
+#include <QGraphicsLayout>
+#include <QGraphicsScene>
+#include <QLineSeries>
+#include <QLocale>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QValueAxis>
+
+#include <views/charts/chartstate.h>
+
+namespace zuno {
+
+namespace {
+
+// Pixels.
+constexpr double LineWidth = 1.5;
+constexpr double DotRadius = 3.5;
+constexpr int StripMargin = 6;
+constexpr int RightMargin = 14;
+constexpr int Gap = 4;
+constexpr int LeastHeight = 64;
+constexpr QSize UsualSize(600, 120);
+
+// Above the highest and below the lowest value, so that no line runs along the edge.
+constexpr double ValueMargin = 0.06;
+
+// Between two numbers of an axis, in heights of a line of text.
+constexpr double VerticalSpacing = 1.3;
+constexpr double HorizontalSpacing = 5.0;
+
+constexpr QColor GridColour(0x33, 0x41, 0x4c);
+constexpr QColor ZeroColour(0x64, 0x76, 0x85);
+constexpr QColor SectorColour(0xa0, 0xb0, 0xc0);
+constexpr QColor CursorColour(0xff, 0xff, 0xff);
+constexpr QColor FocusColour(0xff, 0xb4, 0x54);
+constexpr QColor SelectionColour(0x14, 0x64, 0xa1, 0x70);
+constexpr int BandAlpha = 0x38;
+
+} // namespace
+
+LapChart::LapChart(ChartState &state, QWidget *parent)
+    : QChartView(parent)
+    , m_state(state)
+    , m_horizontal(new QValueAxis(this))
+    , m_vertical(new QValueAxis(this))
+{
+    setUpChart();
+    setRenderHint(QPainter::Antialiasing);
+    setFocusPolicy(Qt::StrongFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setMouseTracking(true);
+    viewport()->setCursor(Qt::CrossCursor);
+    connect(scene(), &QGraphicsScene::changed, this, [this] {
+        m_picture = {};
+        viewport()->update();
+    });
+}
+
+void LapChart::setUpChart()
+{
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    setFont(small);
+    QChart *drawn = chart();
+    drawn->legend()->hide();
+    drawn->setBackgroundVisible(false);
+    drawn->setMargins({});
+    drawn->layout()->setContentsMargins(0, 0, 0, 0);
+    drawn->addAxis(m_horizontal, Qt::AlignBottom);
+    drawn->addAxis(m_vertical, Qt::AlignLeft);
+    for (QValueAxis *axis : {m_horizontal, m_vertical}) {
+        // Grid and numbers are drawn into the picture, see there.
+        axis->setVisible(false);
+    }
+}
+
+QSize LapChart::sizeHint() const
+{
+    return UsualSize;
+}
+
+QSize LapChart::minimumSizeHint() const
+{
+    return {UsualSize.width() / 3, LeastHeight};
+}
+
+void LapChart::setContent(ChartContent content)
+{
+    m_content = std::move(content);
+    chart()->removeAllSeries();
+    // Before there are lines: each change of an axis computes all lines anew.
+    showVisible();
+    addSeries();
+}
+
+void LapChart::setAxisLabelled(bool labelled)
+{
+    m_isAxisLabelled = labelled;
+    layOut();
+}
+
+void LapChart::setSectorsNamed(bool named)
+{
+    m_areSectorsNamed = named;
+    layOut();
+}
+
+void LapChart::addSeries()
+{
+    for (const Curve &curve : m_content.curves)
+        addBand(curve);
+    for (const Curve &curve : m_content.curves) {
+        for (const QList<QPointF> &piece : unbroken(curve.places, curve.values))
+            addLine(curve.colour, piece, LineWidth);
+    }
+}
+
+void LapChart::addLine(const QColor &colour, const QList<QPointF> &points, double width)
+{
+    auto *line = new QLineSeries;
+    line->replace(points);
+    line->setPen(QPen(colour, width));
+    chart()->addSeries(line);
+    line->attachAxis(m_horizontal);
+    line->attachAxis(m_vertical);
+}
+
+void LapChart::addBand(const Curve &curve)
+{
+    const auto lows = unbroken(curve.places, curve.lows);
+    const auto highs = unbroken(curve.places, curve.highs);
+    QColor colour = curve.colour;
+    colour.setAlpha(BandAlpha);
+    for (std::size_t i = 0; i < std::min(lows.size(), highs.size()); ++i) {
+        auto *low = new QLineSeries;
+        auto *high = new QLineSeries;
+        low->replace(lows[i]);
+        high->replace(highs[i]);
+        auto *band = new QAreaSeries(high, low);
+        low->setParent(band);
+        high->setParent(band);
+        band->setPen(Qt::NoPen);
+        band->setBrush(colour);
+        chart()->addSeries(band);
+        band->attachAxis(m_horizontal);
+        band->attachAxis(m_vertical);
+    }
+}
+
+void LapChart::showVisible()
+{
+    setTicks();
+    m_picture = {};
+    viewport()->update();
+}
+
+void LapChart::setTicks()
+{
+    const QRectF plot = chart()->plotArea();
+    const double line = fontMetrics().height();
+    const auto intervals = [line](double pixels, double spacing) {
+        return std::max(1, static_cast<int>(pixels / (line * spacing)));
+    };
+    const AxisRange values = m_content.range.widened(ValueMargin);
+    m_valueStep = roundStep(values.span(), intervals(plot.height(), VerticalSpacing));
+    m_vertical->setRange(values.from, values.to);
+    const AxisRange visible = m_state.visible();
+    if (!(visible.span() > 0))
+        return;
+    m_step = roundStep(visible.span(), intervals(plot.width(), HorizontalSpacing));
+    m_horizontal->setRange(visible.from, visible.to);
+}
+
+void LapChart::layOut()
+{
+    const int line = fontMetrics().height();
+    const int left = fontMetrics().horizontalAdvance(QStringLiteral("-0.000")) + (2 * Gap);
+    const int top = line + Gap;
+    const int bottom = m_isAxisLabelled ? line + (2 * Gap) : Gap;
+    const QRectF plot = QRectF(viewport()->rect()).adjusted(left, top, -RightMargin, -bottom);
+    chart()->setPlotArea(plot.isValid() ? plot : QRectF(left, top, 1, 1));
+    showVisible();
+}
+
+PixelScale LapChart::horizontalScale() const
+{
+    const QRectF plot = chart()->plotArea();
+    return {m_state.visible(), plot.left(), plot.width()};
+}
+
+PixelScale LapChart::verticalScale() const
+{
+    const QRectF plot = chart()->plotArea();
+    return {{m_vertical->min(), m_vertical->max()}, plot.bottom(), -plot.height()};
+}
+
+void LapChart::drawPicture()
+{
+    m_picture = QPixmap(viewport()->size() * devicePixelRatioF());
+    m_picture.setDevicePixelRatio(devicePixelRatioF());
+    m_picture.fill(palette().color(QPalette::Base));
+    QPainter painter(&m_picture);
+    painter.setFont(font());
+    drawGrid(painter);
+    render(&painter, QRectF(viewport()->rect()), viewport()->rect());
+    drawNumbers(painter);
+    drawSectors(painter);
+    drawTitle(painter);
+}
+
+// The chart's own axes write "-0.0", cut numbers at the edges, and leave their grid where it was
+// when the plot gets another place.
+void LapChart::drawGrid(QPainter &painter) const
+{
+    const QRectF plot = chart()->plotArea();
+    const PixelScale vertical = verticalScale();
+    for (const double value : ticksIn(vertical.range, m_valueStep)) {
+        const double y = std::round(vertical.pixelOf(value));
+        painter.setPen(value == 0 ? ZeroColour : GridColour);
+        painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
+    }
+    const PixelScale horizontal = horizontalScale();
+    painter.setPen(GridColour);
+    for (const double place : ticksIn(horizontal.range, m_step)) {
+        const double x = std::round(horizontal.pixelOf(place));
+        painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
+    }
+}
+
+void LapChart::drawNumbers(QPainter &painter) const
+{
+    const QRectF plot = chart()->plotArea();
+    const double line = fontMetrics().height();
+    const QLocale locale;
+    painter.setPen(palette().color(QPalette::Text));
+    const PixelScale vertical = verticalScale();
+    for (const double value : ticksIn(vertical.range, m_valueStep)) {
+        const QRectF box(0, vertical.pixelOf(value) - (line / 2), plot.left() - Gap, line);
+        painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter,
+                         locale.toString(value, 'f', decimalsOfStep(m_valueStep)));
+    }
+    if (!m_isAxisLabelled)
+        return;
+    const PixelScale horizontal = horizontalScale();
+    for (const double place : ticksIn(horizontal.range, m_step)) {
+        const QString number = locale.toString(place, 'f', decimalsOfStep(m_step));
+        const QString text = m_state.axis() == AxisKind::Distance
+                                 ? tr("%1 m", "metres").arg(number)
+                                 : tr("%1 s", "seconds").arg(number);
+        const double width = fontMetrics().horizontalAdvance(text);
+        const double left
+            = std::min(horizontal.pixelOf(place) - (width / 2), viewport()->width() - width);
+        painter.drawText(QRectF(left, plot.bottom() + Gap, width, line), Qt::AlignCenter, text);
+    }
+}
+
+QRectF LapChart::titleBox() const
+{
+    const QRectF plot = chart()->plotArea();
+    return {plot.left(), 0.0,
+            static_cast<double>(fontMetrics().horizontalAdvance(m_content.title)) + Gap,
+            plot.top()};
+}
+
+void LapChart::drawTitle(QPainter &painter) const
+{
+    painter.setPen(m_content.colour);
+    painter.drawText(titleBox(), Qt::AlignLeft | Qt::AlignVCenter, m_content.title);
+}
+
+void LapChart::drawSectors(QPainter &painter) const
+{
+    const LapTrack *lap = m_state.first();
+    if (lap == nullptr)
+        return;
+    const QRectF plot = chart()->plotArea();
+    const PixelScale scale = horizontalScale();
+    const auto pixelOf = [&](double seconds) {
+        return std::round(scale.pixelOf(lap->converted(seconds, AxisKind::Time, m_state.axis())));
+    };
+    for (const SectorStretch &stretch : lap->sectors()) {
+        const double from = pixelOf(stretch.time.from);
+        const double to = pixelOf(stretch.time.to);
+        painter.setPen(QPen(SectorColour, 1, Qt::DashLine));
+        for (const double x : {from, to}) {
+            if (x >= plot.left() && x <= plot.right())
+                painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
+        }
+        if (m_areSectorsNamed) {
+            const double left = std::max(from, titleBox().right());
+            drawSectorName(painter, stretch.sector,
+                           QRectF(left, 0, std::min(to, plot.right()) - left, plot.top()));
+        }
+    }
+}
+
+void LapChart::drawSectorName(QPainter &painter, int sector, const QRectF &room) const
+{
+    const QString name = tr("Section %1").arg(sector + 1);
+    const QString shortName = tr("S%1", "section, short").arg(sector + 1);
+    const bool fits = fontMetrics().horizontalAdvance(name) + Gap < room.width();
+    if (!fits && fontMetrics().horizontalAdvance(shortName) > room.width())
+        return;
+    painter.setPen(SectorColour);
+    painter.drawText(room, Qt::AlignCenter, fits ? name : shortName);
+}
+
+void LapChart::drawOverlay(QPainter &painter) const
+{
+    const QRectF plot = chart()->plotArea();
+    const PixelScale horizontal = horizontalScale();
+    if (const auto &selected = m_state.selected()) {
+        const double from = horizontal.pixelOf(selected->from);
+        const double to = horizontal.pixelOf(selected->to);
+        painter.fillRect(QRectF(from, plot.top(), to - from, plot.height()), SelectionColour);
+    }
+    if (hasFocus()) {
+        painter.setPen(FocusColour);
+        painter.drawRect(QRectF(viewport()->rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+    const double place = m_state.cursorPlace();
+    if (m_state.first() == nullptr || !m_state.visible().contains(place))
+        return;
+    const double x = std::round(horizontal.pixelOf(place));
+    painter.setPen(CursorColour);
+    painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const PixelScale vertical = verticalScale();
+    for (const Curve &curve : m_content.curves) {
+        const double value = curve.valueAt(place);
+        if (!std::isfinite(value))
+            continue;
+        painter.setBrush(curve.colour);
+        painter.drawEllipse(QPointF(x, vertical.pixelOf(value)), DotRadius, DotRadius);
+    }
+}
+
+QRect LapChart::strip(double place) const
+{
+    const auto x = static_cast<int>(std::lround(horizontalScale().pixelOf(place)));
+    return {x - StripMargin, 0, 2 * StripMargin + 1, viewport()->height()};
+}
+
+void LapChart::showCursor()
+{
+    viewport()->update(strip(m_drawnCursor));
+    m_drawnCursor = m_state.cursorPlace();
+    viewport()->update(strip(m_drawnCursor));
+}
+
+void LapChart::paintEvent(QPaintEvent *event)
+{
+    if (m_picture.isNull())
+        drawPicture();
+    m_drawnCursor = m_state.cursorPlace();
+    QPainter painter(viewport());
+    const double ratio = m_picture.devicePixelRatio();
+    for (const QRect &part : event->region()) {
+        painter.drawPixmap(QRectF(part), m_picture,
+                           QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio));
+    }
+    drawOverlay(painter);
+}
+
+void LapChart::resizeEvent(QResizeEvent *event)
+{
+    QChartView::resizeEvent(event);
+    layOut();
+}
+
+void LapChart::changeEvent(QEvent *event)
+{
+    QChartView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        layOut();
+}
+
+void LapChart::focusInEvent(QFocusEvent * /*event*/)
+{
+    viewport()->update();
+}
+
+void LapChart::focusOutEvent(QFocusEvent * /*event*/)
+{
+    viewport()->update();
+}
+
+} // namespace zuno

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// How a chart answers to mouse and keys; what it draws is in lapchart.cpp.
+
+#include <algorithm>
+#include <cmath>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+#include <views/charts/chartstate.h>
+#include <views/charts/lapchart.h>
+
+namespace zuno {
+
+namespace {
+
+// A notch of the wheel, in eighths of a degree.
+constexpr double Notch = 120.0;
+// What remains in sight after a notch or a press of "+".
+constexpr double ZoomFactor = 0.8;
+// How far the wheel with Shift and the page keys move what is in sight.
+constexpr double ScrollPart = 0.1;
+constexpr double PagePart = 0.9;
+
+} // namespace
+
+// Beside the plot the nearest place in sight is meant.
+double LapChart::placeAt(const QPointF &position) const
+{
+    return m_state.visible().clamped(horizontalScale().valueAt(position.x()));
+}
+
+void LapChart::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_isPressed = true;
+    m_isSelecting = false;
+    m_pressedAt = event->position();
+}
+
+void LapChart::mouseMoveEvent(QMouseEvent *event)
+{
+    m_state.hover(placeAt(event->position()));
+    if (!m_isPressed)
+        return;
+    const double way = std::abs(event->position().x() - m_pressedAt.x());
+    m_isSelecting = m_isSelecting || way >= QApplication::startDragDistance();
+    if (m_isSelecting) {
+        const double here = placeAt(event->position());
+        const double there = placeAt(m_pressedAt);
+        m_state.select(AxisRange {std::min(here, there), std::max(here, there)});
+    }
+}
+
+void LapChart::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_isPressed)
+        return;
+    m_isPressed = false;
+    if (!m_isSelecting) {
+        m_state.pin(placeAt(event->position()));
+        return;
+    }
+    m_isSelecting = false;
+    const auto selected = m_state.selected();
+    m_state.select(std::nullopt);
+    if (selected)
+        m_state.showRange(*selected);
+}
+
+void LapChart::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_state.showWhole();
+}
+
+void LapChart::leaveEvent(QEvent *event)
+{
+    QChartView::leaveEvent(event);
+    m_state.endHover();
+}
+
+void LapChart::wheelEvent(QWheelEvent *event)
+{
+    const QPoint turned = event->angleDelta();
+    const bool isSideways = event->modifiers().testFlag(Qt::ShiftModifier) || turned.y() == 0;
+    if (isSideways)
+        m_state.scroll(-(turned.x() + turned.y()) / Notch * ScrollPart);
+    else
+        m_state.zoom(std::pow(ZoomFactor, turned.y() / Notch), placeAt(event->position()));
+    event->accept();
+}
+
+void LapChart::keyPressEvent(QKeyEvent *event)
+{
+    const int direction = event->key() == Qt::Key_Left ? -1 : 1;
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        if (event->modifiers().testFlag(Qt::ShiftModifier))
+            m_state.stepSeconds(direction);
+        else
+            m_state.step(direction);
+        break;
+    case Qt::Key_Home:
+        m_state.lead(m_state.whole().from);
+        break;
+    case Qt::Key_End:
+        m_state.lead(m_state.whole().to);
+        break;
+    case Qt::Key_PageUp:
+        m_state.scroll(-PagePart);
+        break;
+    case Qt::Key_PageDown:
+        m_state.scroll(PagePart);
+        break;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        m_state.zoom(ZoomFactor, m_state.cursorPlace());
+        break;
+    case Qt::Key_Minus:
+        m_state.zoom(1 / ZoomFactor, m_state.cursorPlace());
+        break;
+    case Qt::Key_Escape:
+        m_isPressed = false;
+        m_state.select(std::nullopt);
+        m_state.showWhole();
+        break;
+    default:
+        // Not the scroll area's keys, which would take the arrows up and down.
+        event->ignore();
+    }
+}
+
+} // namespace zuno
