@@ -81,16 +81,16 @@ int run()
     const Settings settings(folder.path());
     settings.setValues({{Setting::ChartFrontSusp, true}, {Setting::ChartRearSusp, true}});
     const Session session(QStringLiteral("Cup.ra1"));
-    Lap first(session);
+    Lap first;
     first.setPoints(lap(0));
-    Lap second(session);
+    Lap second;
     second.setPoints(lap(1));
 
     LapSelection selection;
     test::ChartPane pane;
     LapCharts charts(pane.widgets, selection, settings);
     pane.resize(1900, 900);
-    charts.state().showLaps(first, second);
+    charts.state().showLaps({&session, &first}, {&session, &second});
     pane.show();
     QCoreApplication::processEvents();
     const double length = charts.state().whole().to;
@@ -101,10 +101,12 @@ int run()
     const double whole = median([&](int /*turn*/) { charts.layOut(); });
     const double zoom
         = median([&](int turn) { charts.state().zoom(turn % 20 < 10 ? 0.8 : 1.25, length / 3); });
-    const double one
-        = median([&](int turn) { charts.state().showLap(turn % 2 == 0 ? &first : &second); });
+    const double one = median([&](int turn) {
+        charts.state().showLap({&session, turn % 2 == 0 ? &first : &second});
+    });
     const double two = median([&](int turn) {
-        charts.state().showLaps(turn % 2 == 0 ? first : second, turn % 2 == 0 ? second : first);
+        charts.state().showLaps({&session, turn % 2 == 0 ? &first : &second},
+                                {&session, turn % 2 == 0 ? &second : &first});
     });
     std::printf("cursor moved: %.2f ms (aim %.0f), all %lld charts drawn anew: %.2f ms, ratio "
                 "%.2f (aim %.2f)\n",

@@ -78,14 +78,14 @@ int exportTo(const QString &target, const QString &what, const QString &path)
     QWidget window;
     ExportDialogs exports(&window);
     nameTarget(target);
-    Lap lap(*opened.session);
+    Lap lap;
     lap.setPoints(opened.session->samples());
     if (what == u"copy")
         exports.exportSession(opened.session.get());
     else if (what == u"session")
         exports.exportSessionData(opened.session.get());
     else
-        exports.exportLap(&lap);
+        exports.exportLap({opened.session.get(), &lap});
     return QFile::exists(target) ? 0 : 1;
 }
 

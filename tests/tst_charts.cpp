@@ -26,14 +26,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// A lap straight ahead, whose speed tells lap and sample.
-std::unique_ptr<Lap> straight(const Session &session, int number, const QString &way)
+std::unique_ptr<Lap> straight(int number, const QString &way)
 {
     Points points = ride(way);
     for (std::size_t i = 0; i < points.size(); ++i) {
         points[i].dataSpeed = 10.0 * number + static_cast<double>(i);
         points[i].dataAngle = 20;
     }
-    auto lap = std::make_unique<Lap>(session);
+    auto lap = std::make_unique<Lap>();
     lap->setLapNumber(number);
     lap->setPoints(std::move(points));
     return lap;
@@ -45,10 +45,11 @@ struct Charts
     Charts()
     {
         pane.resize(1000, 600);
-        state.showLap(first.get());
+        state.showLap({&session, first.get()});
         pane.show();
         QCoreApplication::processEvents();
     }
+    void compare(const Lap &a, const Lap &b) { state.showLaps({&session, &a}, {&session, &b}); }
     [[nodiscard]] QString shown() const
     {
         QStringList titles;
@@ -77,8 +78,8 @@ struct Charts
     QTemporaryDir folder;
     Settings settings {folder.path()};
     Session session {u"/somewhere/Ride.ra1"_s};
-    std::unique_ptr<Lap> first = straight(session, 1, u"0..400/10"_s);
-    std::unique_ptr<Lap> second = straight(session, 2, u"0..400/8"_s);
+    std::unique_ptr<Lap> first = straight(1, u"0..400/10"_s);
+    std::unique_ptr<Lap> second = straight(2, u"0..400/8"_s);
     LapSelection selection;
     ChartPane pane;
     LapCharts charts {pane.widgets, selection, settings};
@@ -106,7 +107,7 @@ private Q_SLOTS:
         ChartPane next;
         const LapCharts started(next.widgets, view.selection, view.settings);
         QVERIFY(next.widgets.channels[0]->isChecked() && !next.widgets.channels[1]->isChecked());
-        view.state.showLap(nullptr);
+        view.state.showLap({});
         QVERIFY(view.pane.isHidden());
     }
 
@@ -146,7 +147,7 @@ private Q_SLOTS:
         QTest::keyClick(&view.chart(), Qt::Key_Right, Qt::ShiftModifier);
         QCOMPARE(view.cursor(), 160);
         QCOMPARE(view.visible(), QPoint(52, 172)); // Into sight.
-        view.state.showLap(view.second.get());
+        view.state.showLap({&view.session, view.second.get()});
         // Place and range stay with another lap, of which a copy is shown.
         view.second.reset();
         QTest::keyClick(&view.chart(), Qt::Key_Right);
@@ -196,7 +197,7 @@ private Q_SLOTS:
     void comparison()
     {
         Charts view;
-        view.state.showLaps(*view.first, *view.second);
+        view.compare(*view.first, *view.second);
         const CursorLabels::Row &speed = view.pane.widgets.labels.rows[0];
         const QLabel &gap = *view.pane.widgets.labels.gap;
         QCOMPARE(view.shown(), u"Time Speed Lean"_s);
@@ -209,20 +210,20 @@ private Q_SLOTS:
         view.pane.widgets.byTime->click();
         QCOMPARE(view.state.whole().to, 5.0);
         QCOMPARE(speed.second->text(), u"30.0 km/h"_s);
-        view.state.showLaps(*view.second, *view.first);
+        view.compare(*view.second, *view.first);
         view.state.pin(5.0);
         QCOMPARE(speed.second->text(), u"\u2013"_s);
         QCOMPARE(gap.text(), u"Delay on the lap 1 : 1.000 s"_s);
-        view.state.showLap(view.first.get());
+        view.state.showLap({&view.session, view.first.get()});
         QVERIFY(speed.second->isHidden() && gap.isHidden());
     }
 
     void lostSamples()
     {
         const Session session(u"Ride.ra1"_s);
-        const auto lap = straight(session, 1, u"0..50/10 -*2 80..100/10"_s);
+        const auto lap = straight(1, u"0..50/10 -*2 80..100/10"_s);
         ChartState state;
-        state.showLap(lap.get());
+        state.showLap({&session, lap.get()});
         const ChartContent content = contentOf(channels()[0], state);
         const Curve &curve = content.curves.front();
         const auto pieces = unbroken(curve.places, curve.values);

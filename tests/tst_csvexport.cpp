@@ -6,6 +6,7 @@
 
 #include <session/csvexport.h>
 #include <session/session.h>
+#include <session/sessionlap.h>
 #include <track/map.h>
 
 #include "builders.h"
@@ -89,7 +90,8 @@ private Q_SLOTS:
         const auto session = sessionOf(ride(u"-14.05 -4.05 5.95"_s));
         const auto map = lineMap(10, 100);
         session->setMap(map.get());
-        const QList<QByteArray> lines = lapCsv(*session->laps()[1], QLocale::c()).split('\n');
+        const QList<QByteArray> lines
+            = lapCsv({session.get(), session->laps()[1].get()}, QLocale::c()).split('\n');
         QCOMPARE(lines.size(), 5);
         QCOMPARE(lines[0], QByteArray("Session : Ride.ra1 "));
         QCOMPARE(lines[1], QByteArray("Lap number : 2 "));

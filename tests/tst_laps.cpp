@@ -277,8 +277,7 @@ private Q_SLOTS:
         const auto figures = [](int count, const QString &channels) -> QString {
             Points points = ride(u"0*%1"_s.arg(count));
             setChannels(points, channels);
-            const Session session {QString()};
-            Lap lap(session);
+            Lap lap;
             lap.setPoints(points);
             const auto pair = [](auto max, auto min) { return u" %1/%2"_s.arg(max).arg(min); };
             const auto range = [&pair](const ReadingRange &range) {
@@ -302,8 +301,7 @@ private Q_SLOTS:
             Points points = ride(u"0*%1"_s.arg(speeds.size()));
             for (std::size_t i = 0; i < points.size(); ++i)
                 points[i].dataSpeed = speeds[static_cast<qsizetype>(i)];
-            const Session session {QString()};
-            Lap lap(session);
+            Lap lap;
             lap.setPoints(points);
             return numbersOf(lap.maxSpeedPoints()) + u" / " + numbersOf(lap.minSpeedPoints());
         };

@@ -184,7 +184,7 @@ private Q_SLOTS:
         const auto map = lineMap(10, 680, places);
         const auto session = outing();
         session->setMap(map.get());
-        model.setLaps(&session->laps());
+        model.setLaps(&session->laps(), 9);
         QCOMPARE(model.columnCount(), 14 + 9);
         QCOMPARE(model.index(2, 22).data(), QVariant(QString()));
         model.setLaps(nullptr);
@@ -262,8 +262,8 @@ private Q_SLOTS:
                  u"Invalidate lap|Compare to this lap|Reselect first lap|(Export lap)"_s);
         press(Qt::Key_C);
         QCOMPARE(asked.count(), 1);
-        QCOMPARE(asked[0][0].value<const Lap *>(), table.session->laps()[2].get());
-        QCOMPARE(asked[0][1].value<const Lap *>(), table.session->laps()[1].get());
+        QCOMPARE(asked[0][0].value<SessionLap>().lap, table.session->laps()[2].get());
+        QCOMPARE(asked[0][1].value<SessionLap>().lap, table.session->laps()[1].get());
         QVERIFY(table.selection.firstLap() == nullptr);
         table.selection.setCurrentLap(0);
         QVERIFY(table.table.selectionModel()->isRowSelected(0));

@@ -71,7 +71,7 @@ private Q_SLOTS:
         const auto map = lineMap(10, 680);
         session->setMap(map.get());
 
-        const QByteArray payload = lapPayload(*session->laps()[1]);
+        const QByteArray payload = lapPayload(*session->laps()[1], session->map());
         const QJsonObject lap = QJsonDocument::fromJson(payload).object();
         QString numbers = u"5 "_s;
         for (int i = 6; i <= 40; ++i)
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(numbersIn(lap[u"maxSpeeds"]), u"11 15"_s);
         QCOMPARE(numbersIn(lap[u"minSpeeds"]), u"13"_s);
         QVERIFY(payload.contains(R"("accelMax":1.5,"decelMax":-0.75,"isComplete":true})"));
-        QVERIFY(lapPayload(*session->laps()[0]).endsWith("\"isComplete\":false}"));
+        QVERIFY(lapPayload(*session->laps()[0], session->map()).endsWith("\"isComplete\":false}"));
     }
 
     // A wrong number, wherever it stands, costs no lap, and neither the page nor a spreadsheet.
@@ -100,7 +100,8 @@ private Q_SLOTS:
             for (const PointAcquisition &point : session->samples())
                 usable = usable && point.dataSpeed >= 0 && point.dataSpeed <= 399;
             for (const auto &lap : session->laps())
-                usable = usable && QJsonDocument::fromJson(lapPayload(*lap)).isObject();
+                usable = usable
+                         && QJsonDocument::fromJson(lapPayload(*lap, session->map())).isObject();
             return usable;
         };
         using P = PointAcquisition;
@@ -121,7 +122,8 @@ private Q_SLOTS:
         const auto map = lineMap(
             10, 680, {{u"Start"_s, 0}, {u"time 2"_s, 1}, {u"time 10"_s, 2}, {u"Time 3"_s, 3}});
         session->setMap(map.get());
-        const QJsonDocument lap = QJsonDocument::fromJson(lapPayload(*session->laps()[0]));
+        const QJsonDocument lap
+            = QJsonDocument::fromJson(lapPayload(*session->laps()[0], session->map()));
         QList<int> found;
         const QJsonArray landmarks = lap[u"landmarks"].toArray();
         for (const auto &mark : landmarks) {

@@ -76,7 +76,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     m_charts = new LapCharts(chartWidgets(*m_ui), m_selection, m_settings, this);
     connectParts();
     showNothing();
-    m_summary->showFirstLap(m_selection.firstLap());
+    m_summary->showFirstLap(m_selection.first());
     openMapsFolder();
     createSplitters();
     openAcquisitionFolder();
@@ -183,7 +183,7 @@ void ZunoAnalyzer::connectParts()
     });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, this,
-            [this] { m_summary->showFirstLap(m_selection.firstLap()); });
+            [this] { m_summary->showFirstLap(m_selection.first()); });
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
             [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);
@@ -304,7 +304,7 @@ void ZunoAnalyzer::onMapReady()
 
 void ZunoAnalyzer::showLapOnMap()
 {
-    if (const Lap *lap = m_selection.currentLap())
+    if (const SessionLap lap = m_selection.current())
         m_mapView->drawLap(lap);
     else
         m_mapView->clearLaps();
@@ -461,7 +461,7 @@ void ZunoAnalyzer::showSession(Session *session)
     m_lapsView->showLaps();
     m_summary->showSession(session);
     m_infos->showSession(session);
-    m_summary->showFirstLap(m_selection.firstLap());
+    m_summary->showFirstLap(m_selection.first());
     const bool hasLaps = !session->laps().empty();
     if (hasLaps)
         m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
@@ -504,7 +504,7 @@ QString ZunoAnalyzer::emptyState() const
     return SessionSummary::laplessText(*m_display.session(), m_settings.mapsFolder());
 }
 
-void ZunoAnalyzer::showComparison(const Lap *first, const Lap *second)
+void ZunoAnalyzer::showComparison(const SessionLap &first, const SessionLap &second)
 {
     const double seconds
         = (static_cast<double>(second->lapTime()) - static_cast<double>(first->lapTime())) / 1000.0;

@@ -97,7 +97,7 @@ private:
     void showLapOnMap();
     [[nodiscard]] QString emptyState() const;
     void onFileChanged(const QString &path);
-    void showComparison(const Lap *first, const Lap *second);
+    void showComparison(const SessionLap &first, const SessionLap &second);
     void onValidityChanged(Session *session);
 
     std::unique_ptr<Ui::ZunoAnalyzer> m_ui;

@@ -9,6 +9,7 @@
 
 #include <base/settings.h>
 #include <session/csvexport.h>
+#include <session/sessionlap.h>
 
 namespace zuno::cli {
 
@@ -41,7 +42,7 @@ int writeLap(const CommandLine &line, int number, const QLocale &locale)
     const Lap *lap = lapReported(*displayed.session, number);
     if (lap == nullptr)
         return FileFailed;
-    printOut(lapCsv(*lap, locale));
+    printOut(lapCsv({displayed.session.get(), lap}, locale));
     return Success;
 }
 

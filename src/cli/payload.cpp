@@ -31,7 +31,7 @@ int payload(const QStringList &arguments)
     const Lap *lap = lapReported(*displayed.session, laps->last());
     if (lap == nullptr)
         return FileFailed;
-    printOut(lapPayload(*lap) + '\n');
+    printOut(lapPayload(*lap, displayed.session->map()) + '\n');
     return Success;
 }
 

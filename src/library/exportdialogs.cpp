@@ -14,6 +14,7 @@
 #include <session/csvexport.h>
 #include <session/laps/lap.h>
 #include <session/session.h>
+#include <session/sessionlap.h>
 
 namespace zuno {
 
@@ -65,12 +66,12 @@ void ExportDialogs::exportSessionData(Session *session)
     writeText(path, sessionCsv(*guarded, QLocale()));
 }
 
-void ExportDialogs::exportLap(const Lap *lap)
+void ExportDialogs::exportLap(const SessionLap &lap)
 {
-    const QByteArray text = lapCsv(*lap, QLocale());
+    const QByteArray text = lapCsv(lap, QLocale());
     const QString path = QFileDialog::getSaveFileName(
         m_window, tr("Export Lap file"),
-        QStringLiteral("%1_LapNum%2.csv").arg(lap->session().fileName()).arg(lap->lapNumber()),
+        QStringLiteral("%1_LapNum%2.csv").arg(lap.fileName()).arg(lap->lapNumber()),
         tr("CSV files (.csv);"));
     if (!path.isEmpty())
         writeText(path, text);

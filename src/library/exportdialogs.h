@@ -10,8 +10,8 @@ class QWidget;
 
 namespace zuno {
 
-class Lap;
 class Session;
+struct SessionLap;
 
 /// Asks where to, and writes copies of sessions and their samples as text.
 class ExportDialogs : public QObject
@@ -27,7 +27,7 @@ public:
     /// Writes every sample of the session as CSV.
     void exportSessionData(zuno::Session *session);
     /// Writes the samples of one lap as CSV.
-    void exportLap(const zuno::Lap *lap);
+    void exportLap(const zuno::SessionLap &lap);
 
 Q_SIGNALS:
     /// What came of it, for the status bar.

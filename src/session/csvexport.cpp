@@ -10,6 +10,7 @@
 
 #include <session/laps/lap.h>
 #include <session/session.h>
+#include <session/sessionlap.h>
 
 namespace zuno {
 
@@ -96,12 +97,12 @@ QByteArray sessionCsv(const Session &session, const QLocale &locale)
     return csv.bytes();
 }
 
-QByteArray lapCsv(const Lap &lap, const QLocale &locale)
+QByteArray lapCsv(const SessionLap &lap, const QLocale &locale)
 {
     CsvWriter csv(locale);
-    csv.line(QStringLiteral("Session : %1 ").arg(lap.session().fileName()));
-    csv.line(QStringLiteral("Lap number : %1 ").arg(lap.lapNumber()));
-    csv.table(lap.points());
+    csv.line(QStringLiteral("Session : %1 ").arg(lap.fileName()));
+    csv.line(QStringLiteral("Lap number : %1 ").arg(lap->lapNumber()));
+    csv.table(lap->points());
     return csv.bytes();
 }
 

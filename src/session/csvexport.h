@@ -9,8 +9,8 @@ class QLocale;
 
 namespace zuno {
 
-class Lap;
 class Session;
+struct SessionLap;
 
 /// The samples of @p session as semicolon-separated text in UTF-8, without an end of line after
 /// the last row. A sample with suspension readings gives a row for each of them, 10 ms apart.
@@ -21,6 +21,6 @@ class Session;
 [[nodiscard]] QByteArray sessionCsv(const Session &session, const QLocale &locale);
 
 /// The samples of one lap in the same form, below two lines that name session and lap.
-[[nodiscard]] QByteArray lapCsv(const Lap &lap, const QLocale &locale);
+[[nodiscard]] QByteArray lapCsv(const SessionLap &lap, const QLocale &locale);
 
 } // namespace zuno

@@ -5,15 +5,16 @@
 
 #include <base/numbers.h>
 #include <session/session.h>
+#include <session/sessionlap.h>
 #include <track/map.h>
 
 namespace zuno {
 
 namespace {
 
-RiddenTime riddenTime(qint32 time, const Lap &lap)
+RiddenTime riddenTime(qint32 time, const SessionLap &lap)
 {
-    return {time, lap.session().filePath(), lap.session().driver(), lap.lapNumber()};
+    return {time, lap.session->filePath(), lap.session->driver(), lap->lapNumber()};
 }
 
 } // namespace
@@ -27,10 +28,10 @@ void IdealTime::add(const Session &session)
     addSectors(session);
     for (const auto &lap : session.laps()) {
         if (lap->isValid() && lap->isComplete())
-            addLap(*lap);
+            addLap({&session, lap.get()});
     }
     for (std::size_t i = 1; i < session.laps().size(); ++i)
-        addContinuousLaps(*session.laps()[i - 1], *session.laps()[i], *map);
+        addContinuousLaps({&session, session.laps()[i - 1].get()}, *session.laps()[i]);
 }
 
 void IdealTime::addSectors(const Session &session)
@@ -39,40 +40,43 @@ void IdealTime::addSectors(const Session &session)
     for (std::size_t s = 0; s < m_sectors.size(); ++s) {
         const qint32 time = results.bestSectorTimes.at(s);
         const qint32 lap = results.bestSectorLaps.at(s);
-        if (lap >= 0 && (!m_sectors[s] || time < m_sectors[s]->time))
-            m_sectors[s] = riddenTime(time, *results.laps.at(static_cast<std::size_t>(lap)));
+        if (lap >= 0 && (!m_sectors[s] || time < m_sectors[s]->time)) {
+            const auto &ridden = results.laps.at(static_cast<std::size_t>(lap));
+            m_sectors[s] = riddenTime(time, {&session, ridden.get()});
+        }
     }
 }
 
-void IdealTime::addLap(const Lap &lap)
+void IdealTime::addLap(const SessionLap &lap)
 {
-    offerContinuousLap(lap.lapTime(), lap, 0);
-    if (m_bestLap && m_bestLap->time <= lap.lapTime())
+    offerContinuousLap(lap->lapTime(), lap, 0);
+    if (m_bestLap && m_bestLap->time <= lap->lapTime())
         return;
-    m_bestLap = riddenTime(lap.lapTime(), lap);
+    m_bestLap = riddenTime(lap->lapTime(), lap);
     m_bestLapSectors.clear();
     for (std::size_t s = 0; s < m_sectors.size(); ++s)
-        m_bestLapSectors.push_back(lap.sectorTime(static_cast<int>(s)));
+        m_bestLapSectors.push_back(lap->sectorTime(static_cast<int>(s)));
 }
 
-void IdealTime::addContinuousLaps(const Lap &lap, const Lap &next, const Map &map)
+void IdealTime::addContinuousLaps(const SessionLap &lap, const Lap &next)
 {
-    if (!lap.isValid() || !next.isValid())
+    const Map &map = *lap.map();
+    if (!lap->isValid() || !next.isValid())
         return;
     for (int sector = 0; sector < map.sectorCount(); ++sector) {
-        const std::optional<Lap::Passing> begin = lap.sectorEnd(sector);
+        const std::optional<Lap::Passing> begin = lap->sectorEnd(sector);
         const std::optional<Lap::Passing> end = next.sectorEnd(sector);
         if (!begin || !end)
             continue;
         // A way through the pits, or one cut short, is no lap.
-        if (isOnceAround(lap.distance() - begin->distance + end->distance, map)) {
+        if (isOnceAround(lap->distance() - begin->distance + end->distance, map)) {
             const qint32 time = wrappedDifference(end->timeStamp, begin->timeStamp);
             offerContinuousLap(time, lap, sector + 1);
         }
     }
 }
 
-void IdealTime::offerContinuousLap(qint32 time, const Lap &lap, int afterSector)
+void IdealTime::offerContinuousLap(qint32 time, const SessionLap &lap, int afterSector)
 {
     if (!m_bestContinuousLap || time < m_bestContinuousLap->ridden.time)
         m_bestContinuousLap = ContinuousLap {riddenTime(time, lap), afterSector};

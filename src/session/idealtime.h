@@ -12,8 +12,8 @@
 namespace zuno {
 
 class Lap;
-class Map;
 class Session;
+struct SessionLap;
 
 /// A time that somebody rode, and where it is to be found.
 struct RiddenTime
@@ -68,9 +68,9 @@ public:
 
 private:
     void addSectors(const Session &session);
-    void addLap(const Lap &lap);
-    void addContinuousLaps(const Lap &lap, const Lap &next, const Map &map);
-    void offerContinuousLap(qint32 time, const Lap &lap, int afterSector);
+    void addLap(const SessionLap &lap);
+    void addContinuousLaps(const SessionLap &lap, const Lap &next);
+    void offerContinuousLap(qint32 time, const SessionLap &lap, int afterSector);
 
     std::vector<std::optional<RiddenTime>> m_sectors;
     std::vector<qint32> m_bestLapSectors;

@@ -161,7 +161,9 @@ void Session::setMap(const Map *map)
 void Session::cutIntoLaps()
 {
     m_released = false;
-    m_results = zuno::cutIntoLaps(*this);
+    m_results = m_map != nullptr
+                    ? zuno::cutIntoLaps(wholeSamples(), *m_map, m_information.invalidLaps)
+                    : LapResults();
 }
 
 void Session::rankLaps()

@@ -26,7 +26,8 @@ inline void check(bool holds, const char *what)
 inline void drawLaps(const Session &session)
 {
     for (const auto &lap : session.laps())
-        check(QJsonDocument::fromJson(lapPayload(*lap)).isObject(), "a lap's payload is JSON");
+        check(QJsonDocument::fromJson(lapPayload(*lap, session.map())).isObject(),
+              "a lap's payload is JSON");
 }
 
 } // namespace zuno::fuzz

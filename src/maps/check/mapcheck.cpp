@@ -9,11 +9,11 @@
 #include <optional>
 #include <utility>
 
-#include <maps/check/checkedlaps.h>
-#include <maps/check/draftlaps.h>
 #include <maps/check/gatecrossing.h>
 #include <maps/check/passcheck.h>
+#include <session/laps/lapcutter.h>
 #include <session/recording/trace.h>
+#include <track/map.h>
 #include <track/outlinepath.h>
 
 namespace zuno {
@@ -43,7 +43,8 @@ public:
         , m_draft(draft)
         , m_plane(draft.start)
         , m_outline(placesOf(draft.outline))
-        , m_cut(samples, draft)
+        , m_map(draft.toMap())
+        , m_cut(cutIntoLaps(samples, *m_map, {}))
     {
         for (const QGeoCoordinate &point : draft.timingPoints.mid(0, MaximumSectors)) {
             if (point.isValid())
@@ -53,7 +54,7 @@ public:
 
     MapCheck check()
     {
-        describeLaps(m_cut, m_result);
+        describeLaps();
         checkLine();
         if (m_draft.timingPoints.size() > MaximumSectors)
             warn({Kind::TooManyPoints, MaximumSectors, -1, {}});
@@ -93,11 +94,28 @@ private:
         return places;
     }
 
+    // The laps, the best one, the ideal time and the length of the outline.
+    void describeLaps()
+    {
+        for (const auto &lap : m_cut.laps) {
+            CheckedLap checked {
+                lap->lapNumber(), lap->lapTime(), lap->distance(), lap->isComplete(), {}};
+            for (int sector = 0; sector < m_map->sectorCount(); ++sector)
+                checked.sectorTimes.append(lap->sectorTime(sector));
+            m_result.laps.push_back(checked);
+        }
+        m_result.length = m_map->length();
+        m_result.idealTime = m_cut.idealTime;
+        const auto best = static_cast<std::size_t>(m_cut.bestLap);
+        if (best < m_cut.laps.size() && m_cut.laps[best]->isComplete())
+            m_result.bestLap = m_cut.bestLap;
+    }
+
     void warn(const MapWarning &warning) { m_result.warnings.append(warning); }
 
     void checkLine()
     {
-        const LapList &laps = m_cut.laps();
+        const LapList &laps = m_cut.laps;
         if (laps.empty()) {
             warn({Kind::NoPass, Line, -1, {}});
             return;
@@ -179,11 +197,11 @@ private:
     {
         std::map<int, QList<int>> missed;
         if (const auto line = m_outline.nearest({})) {
-            const QList<int> laps = lapsBesideLine(m_cut.laps(), m_plane, *line, m_result.length);
+            const QList<int> laps = lapsBesideLine(m_cut.laps, m_plane, *line, m_result.length);
             if (!laps.isEmpty())
                 missed[Line] = laps;
         }
-        for (const auto &lap : m_cut.laps()) {
+        for (const auto &lap : m_cut.laps) {
             const int gate = lap->crossedSectors();
             if (lap->isComplete() && gate < std::min(gateCount(), m_firstLost))
                 missed[gate].append(lap->lapNumber());
@@ -219,7 +237,7 @@ private:
     [[nodiscard]] std::vector<GateCrossing> crossingsOf(int gate) const
     {
         std::vector<GateCrossing> crossings;
-        const LapList &laps = m_cut.laps();
+        const LapList &laps = m_cut.laps;
         for (std::size_t i = 0; i + 1 < laps.size(); ++i) {
             const Lap &lap = *laps[i];
             if (m_repeats.contains(lap.lapNumber()))
@@ -280,7 +298,8 @@ private:
     const MapDraft &m_draft;
     Plane m_plane;
     OutlinePath m_outline;
-    DraftLaps m_cut;
+    std::unique_ptr<const Map> m_map;
+    LapResults m_cut;
     std::vector<PlaneVector> m_gates;
     // The laps that only lead from one counting of a pass of the line to the next.
     QList<int> m_repeats;

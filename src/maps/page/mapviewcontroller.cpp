@@ -18,6 +18,7 @@
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
 #include <session/session.h>
+#include <session/sessionlap.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -41,6 +42,11 @@ QString textOf(const QGeoCoordinate &centre)
 {
     const QGeoCoordinate place = centre.isValid() ? centre : QGeoCoordinate(0.0, 0.0);
     return place.toString(QGeoCoordinate::Degrees);
+}
+
+QString payloadOf(const SessionLap &lap)
+{
+    return QString::fromUtf8(lapPayload(*lap, lap.map()));
 }
 
 } // namespace
@@ -109,17 +115,16 @@ void MapViewController::centerMap(const Map *map)
         run(*m_page, QStringLiteral("centerMap"), centreText(map));
 }
 
-void MapViewController::drawLap(const Lap *lap)
+void MapViewController::drawLap(const SessionLap &lap)
 {
-    if (m_view != nullptr && lap != nullptr)
-        Q_EMIT m_page->drawOneLap(QString::fromUtf8(lapPayload(*lap)));
+    if (m_view != nullptr && lap)
+        Q_EMIT m_page->drawOneLap(payloadOf(lap));
 }
 
-void MapViewController::drawTwoLaps(const Lap *first, const Lap *second)
+void MapViewController::drawTwoLaps(const SessionLap &first, const SessionLap &second)
 {
-    if (m_view != nullptr && first != nullptr && second != nullptr)
-        Q_EMIT m_page->drawTwoLaps(QString::fromUtf8(lapPayload(*first)),
-                                   QString::fromUtf8(lapPayload(*second)));
+    if (m_view != nullptr && first && second)
+        Q_EMIT m_page->drawTwoLaps(payloadOf(first), payloadOf(second));
 }
 
 void MapViewController::clearLaps()

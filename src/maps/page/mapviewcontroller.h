@@ -21,9 +21,9 @@ class QWidget;
 namespace zuno {
 
 class JSConnector;
-class Lap;
 class Map;
 class Session;
+struct SessionLap;
 
 /// The text that the map page reads as a centre, "46.10000°, 6.20000°": the map's start point, or
 /// (0, 0) without a map or without a valid start point.
@@ -51,9 +51,9 @@ public:
     void centerMap(const Map *map);
 
     /// Draws a lap; nothing without one, or before there is a view.
-    void drawLap(const Lap *lap);
+    void drawLap(const SessionLap &lap);
     /// Draws two laps to be compared; nothing unless there are both.
-    void drawTwoLaps(const Lap *first, const Lap *second);
+    void drawTwoLaps(const SessionLap &first, const SessionLap &second);
     /// Takes the laps off the map.
     void clearLaps();
     /// Move the cursor of the first lap and of the second to a point payload.

@@ -109,10 +109,10 @@ QByteArray pointPayload(const PointAcquisition &point)
     return json.text();
 }
 
-QByteArray lapPayload(const Lap &lap)
+QByteArray lapPayload(const Lap &lap, const Map *map)
 {
-    return payload({lap.points(), lap.maxSpeedPoints(), lap.minSpeedPoints(), lap.session().map(),
-                    lap.accelMax(), lap.decelMax(), lap.isComplete()});
+    return payload({lap.points(), lap.maxSpeedPoints(), lap.minSpeedPoints(), map, lap.accelMax(),
+                    lap.decelMax(), lap.isComplete()});
 }
 
 QByteArray emptyLapPayload()

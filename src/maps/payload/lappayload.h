@@ -10,6 +10,7 @@ namespace zuno {
 
 class JsonWriter;
 class Lap;
+class Map;
 class PointAcquisition;
 
 /// How the speed stands in a point object: as a number, or to the nearest km/h.
@@ -22,9 +23,9 @@ void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedFor
 [[nodiscard]] QByteArray pointPayload(const PointAcquisition &point);
 
 /// The JSON text of a lap as the map page draws it. The first sample stands at the end once more,
-/// so that the line closes; the landmarks are the map's start and timing points in the order of
-/// their names.
-[[nodiscard]] QByteArray lapPayload(const Lap &lap);
+/// so that the line closes; the landmarks are the start and timing points of @p map in the order of
+/// their names, none without one.
+[[nodiscard]] QByteArray lapPayload(const Lap &lap, const Map *map);
 
 /// The payload of a lap without samples on no map, which takes everything off the page.
 [[nodiscard]] QByteArray emptyLapPayload();

@@ -8,12 +8,13 @@
 #include <optional>
 
 #include <base/numbers.h>
-#include <maps/check/draftlaps.h>
 #include <maps/proposal/circuit.h>
 #include <maps/proposal/gatechoice.h>
 #include <maps/proposal/lapoutline.h>
 #include <maps/proposal/linechoice.h>
 #include <maps/proposal/proposalworth.h>
+#include <session/laps/lapcutter.h>
+#include <track/map.h>
 
 namespace zuno {
 
@@ -158,9 +159,9 @@ MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit 
         draft.timingPoints.append(plane.coordinate(circuit.at(point).place));
     draft.timingPoints.append(draft.start);
 
-    const DraftLaps cut(samples, draft);
-    const double around = cut.map().length();
-    proposal.laps = lapsOfLength(samples, cut.laps(), around, NearlyAround);
+    const std::unique_ptr<const Map> map = draft.toMap();
+    const LapResults cut = cutIntoLaps(samples, *map, {});
+    proposal.laps = lapsOfLength(samples, cut.laps, map->length(), NearlyAround);
     if (proposal.laps.empty())
         return proposal;
     const FoundLap typical = proposal.laps[typicalOf(proposal.laps)];
@@ -168,7 +169,7 @@ MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit 
         = completeOutline(samples, proposal.laps, typical, draft.start);
     if (outline.size() > 2)
         draft.outline = outline;
-    proposal.laps = lapsOfLength(samples, cut.laps(), draft.toMap()->length(), LengthTolerance);
+    proposal.laps = lapsOfLength(samples, cut.laps, draft.toMap()->length(), LengthTolerance);
     if (proposal.laps.empty())
         return proposal;
     proposal.typicalLap = typicalOf(proposal.laps);

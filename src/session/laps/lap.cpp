@@ -9,7 +9,6 @@
 #include <base/laptimes.h>
 #include <base/numbers.h>
 #include <session/recording/trace.h>
-#include <session/session.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -35,20 +34,18 @@ void widen(ReadingRange &range, const SuspensionChannel &channel)
 
 } // namespace
 
-Lap::Lap(const Session &session) : m_session(&session) {}
-
-void Lap::setPoints(Points points)
+void Lap::setPoints(Points points, const Map *map)
 {
     const Trace trace(points);
-    setPoints(std::move(points), trace);
+    setPoints(std::move(points), trace, map);
 }
 
-void Lap::setPoints(Points points, const Trace &trace)
+void Lap::setPoints(Points points, const Trace &trace, const Map *map)
 {
     m_points = std::move(points);
     computeExtremes();
     computeTurns();
-    computeSectors(trace);
+    computeSectors(trace, map);
 }
 
 void Lap::setBestSector(int sector, bool best)
@@ -115,13 +112,12 @@ void Lap::computeTurns()
     }
 }
 
-void Lap::computeSectors(const Trace &trace)
+void Lap::computeSectors(const Trace &trace, const Map *map)
 {
     m_distance = 0.0;
     m_sectors.clear();
     if (m_points.empty())
         return;
-    const Map *map = m_session->map();
     const int sectorCount = map != nullptr ? map->sectorCount() : 0;
     std::optional<Gate> gate = sectorCount > 0 ? map->sectorGate(0) : std::nullopt;
     Sector sector {m_points.front(), {}, 0, 0};

@@ -15,7 +15,6 @@
 
 namespace zuno {
 
-class Session;
 class Trace;
 
 /// What of a session's extremes a lap holds. The numbers stand in payloads and reports.
@@ -38,30 +37,28 @@ struct ReadingRange
     std::optional<float> max;
 };
 
-/// One lap of a session: its samples and the figures computed from them.
+/// One lap: its samples and the figures computed from them.
 ///
 /// The first and the last sample are the interpolated points on the line, except at the start of
 /// the recording and at its end.
 class Lap
 {
 public:
-    /// A lap of @p session, which must outlive it. The session's map gives the sector lines.
-    explicit Lap(const Session &session);
-
     void setLapNumber(qint32 number) { m_lapNumber = number; }
-    /// Takes the lap's samples, in time order, and computes every figure from them. The lap number
-    /// must be set before: the first sector of lap 1 has no time.
-    void setPoints(Points points);
+    /// Takes the lap's samples, in time order, and computes every figure from them; the sectors by
+    /// the lines of @p map, none without one. The lap number must be set before: the first sector
+    /// of lap 1 has no time.
+    void setPoints(Points points, const Map *map = nullptr);
     /// The same, for whoever has the samples' positions at hand.
-    void setPoints(Points points, const Trace &trace);
+    void setPoints(Points points, const Trace &trace, const Map *map);
     void setIsBest(bool best) { m_isBest = best; }
     void setIsComplete(bool complete) { m_isComplete = complete; }
+    void setEndsAtLine(bool ends) { m_endsAtLine = ends; }
     void setIsValid(bool valid) { m_isValid = valid; }
     void setCumulatedTime(quint32 milliseconds) { m_cumulatedTime = milliseconds; }
     void setBestSector(int sector, bool best);
     void setMarks(QList<Mark> marks) { m_marks = std::move(marks); }
 
-    [[nodiscard]] const Session &session() const { return *m_session; }
     [[nodiscard]] const Points &points() const { return m_points; }
     /// Counts from 1.
     [[nodiscard]] qint32 lapNumber() const { return m_lapNumber; }
@@ -76,6 +73,9 @@ public:
     [[nodiscard]] bool isBest() const { return m_isBest; }
     /// Whether the lap is as long as the map, within a tenth.
     [[nodiscard]] bool isComplete() const { return m_isComplete; }
+    /// Whether it begins, and ends, at the line. The recording begins somewhere before the first.
+    [[nodiscard]] bool startsAtLine() const { return m_lapNumber != 1; }
+    [[nodiscard]] bool endsAtLine() const { return m_endsAtLine; }
     /// Whether the rider has not thrown it out.
     [[nodiscard]] bool isValid() const { return m_isValid; }
 
@@ -126,10 +126,9 @@ private:
 
     void computeExtremes();
     void computeTurns();
-    void computeSectors(const Trace &trace);
+    void computeSectors(const Trace &trace, const Map *map);
     [[nodiscard]] const Sector *timedSector(int sector) const;
 
-    const Session *m_session;
     Points m_points;
     Points m_maxSpeedPoints;
     Points m_minSpeedPoints;
@@ -150,6 +149,7 @@ private:
     qint32 m_minAngle = 0;
     bool m_isBest = false;
     bool m_isComplete = false;
+    bool m_endsAtLine = false;
     bool m_isValid = true;
 };
 

@@ -10,7 +10,6 @@
 #include <base/numbers.h>
 #include <session/laps/sessionmarks.h>
 #include <session/recording/trace.h>
-#include <session/session.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -26,14 +25,15 @@ constexpr double LineReach = 2.0;
 // What once around may differ from the map's length, as a part of it.
 constexpr double LengthTolerance = 0.1;
 
-// Cuts one session; lives for one call of cutIntoLaps.
+// Cuts one recording; lives for one call of cutIntoLaps.
 class LapCutter
 {
 public:
-    LapCutter(const Session &session, const Map &map)
-        : m_session(session)
+    LapCutter(std::span<const PointAcquisition> samples, const Map &map,
+              const QList<quint8> &invalid)
+        : m_samples(samples)
         , m_map(map)
-        , m_samples(session.wholeSamples())
+        , m_invalid(invalid)
         , m_trace(m_samples)
         , m_line(map.startPoint(), LineReach * map.gateSize())
     {
@@ -104,18 +104,18 @@ private:
 
     std::unique_ptr<Lap> makeLap()
     {
-        auto lap = std::make_unique<Lap>(m_session);
+        auto lap = std::make_unique<Lap>();
         lap->setLapNumber(static_cast<qint32>(m_results.laps.size()) + 1);
-        lap->setPoints(std::exchange(m_points, {}), Trace(std::exchange(m_positions, {})));
+        lap->setPoints(std::exchange(m_points, {}), Trace(std::exchange(m_positions, {})), &m_map);
         return lap;
     }
 
     std::unique_ptr<Lap> makeCrossedLap()
     {
         std::unique_ptr<Lap> lap = makeLap();
-        const QList<quint8> &invalid = m_session.information().invalidLaps;
-        lap->setIsValid(std::find(invalid.begin(), invalid.end(), lap->lapNumber())
-                        == invalid.end());
+        lap->setEndsAtLine(true);
+        lap->setIsValid(std::find(m_invalid.begin(), m_invalid.end(), lap->lapNumber())
+                        == m_invalid.end());
         lap->setIsComplete(lap->lapNumber() != 1 && isOnceAround(lap->distance(), m_map));
         return lap;
     }
@@ -131,9 +131,9 @@ private:
         m_previous = i;
     }
 
-    const Session &m_session;
-    const Map &m_map;
     std::span<const PointAcquisition> m_samples;
+    const Map &m_map;
+    const QList<quint8> &m_invalid;
     Trace m_trace;
     Gate m_line;
     LapResults m_results;
@@ -198,14 +198,14 @@ bool isOnceAround(double distance, const Map &map)
     return std::fabs(distance - map.length()) < LengthTolerance * map.length();
 }
 
-LapResults cutIntoLaps(const Session &session)
+LapResults cutIntoLaps(std::span<const PointAcquisition> samples, const Map &map,
+                       const QList<quint8> &invalid)
 {
-    const Map *map = session.map();
-    if (map == nullptr || !map->isUsable())
+    if (!map.isUsable())
         return {};
-    LapResults results = LapCutter(session, *map).cut();
-    assignMarks(results.laps, session.wholeSamples());
-    rankLaps(results, map);
+    LapResults results = LapCutter(samples, map, invalid).cut();
+    assignMarks(results.laps, samples);
+    rankLaps(results, &map);
     return results;
 }
 

@@ -5,18 +5,20 @@
 
 #include <array>
 #include <memory>
+#include <span>
 #include <vector>
+
+#include <QList>
 
 #include <session/laps/lap.h>
 
 namespace zuno {
 
 class Map;
-class Session;
 
 using LapList = std::vector<std::unique_ptr<Lap>>;
 
-/// What a session's laps come to.
+/// What the laps of a recording come to.
 struct LapResults
 {
     /// The time of a sector that nobody rode, milliseconds.
@@ -40,9 +42,11 @@ struct LapResults
 /// Whether @p distance metres are once around the circuit of @p map: within a tenth of its length.
 [[nodiscard]] bool isOnceAround(double distance, const Map &map);
 
-/// Cuts the samples of @p session into laps at its map's start/finish line, with all figures,
-/// marks and records. No laps without a usable map or without a pass over the line.
-[[nodiscard]] LapResults cutIntoLaps(const Session &session);
+/// Cuts samples into laps at the start/finish line of @p map, with all figures, marks and records.
+/// @p invalid are the numbers of the laps thrown out. No laps without a pass over the line or with
+/// a map that is of no use.
+[[nodiscard]] LapResults cutIntoLaps(std::span<const PointAcquisition> samples, const Map &map,
+                                     const QList<quint8> &invalid);
 
 /// Computes cumulated times, best lap, best sectors and ideal time from the laps and their flags.
 /// @p map gives the number of sectors.

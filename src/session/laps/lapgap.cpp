@@ -11,7 +11,6 @@
 
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
-#include <session/session.h>
 #include <track/lappath.h>
 
 namespace zuno {
@@ -44,17 +43,6 @@ struct Match
     double second = 0.0;
 };
 using Matches = std::vector<Match>;
-
-bool startsAtLine(const Lap &lap)
-{
-    return lap.lapNumber() != 1;
-}
-
-bool endsAtLine(const Lap &lap)
-{
-    const LapList &laps = lap.session().laps();
-    return lap.isComplete() || (!laps.empty() && lap.lapNumber() < laps.back()->lapNumber());
-}
 
 // Matches the places of one path with the other's, in the order of both.
 class Matcher
@@ -193,8 +181,8 @@ Matches matchLaps(const Lap &first, const Lap &second)
     if (located == points.end() || first.points().empty())
         return {};
     const QGeoCoordinate origin = positionOf(*located);
-    const bool startTogether = startsAtLine(first) && startsAtLine(second);
-    const bool endTogether = endsAtLine(first) && endsAtLine(second);
+    const bool startTogether = first.startsAtLine() && second.startsAtLine();
+    const bool endTogether = first.endsAtLine() && second.endsAtLine();
     // From the end at which both are known to be at the same place.
     const Walk walk = !startTogether && endTogether ? Walk::Backwards : Walk::Forwards;
     const LapPath path = lapPath(first.points(), origin, walk);

@@ -9,6 +9,7 @@
 
 #include <session/laps/lap.h>
 #include <session/laps/lapgap.h>
+#include <session/sessionlap.h>
 
 namespace zuno {
 
@@ -21,30 +22,30 @@ constexpr double ShortestTime = 0.5;
 // How far from the edge a cursor comes into sight, in parts of what is visible.
 constexpr double SightMargin = 0.1;
 
-std::unique_ptr<LapTrack> trackOf(const Lap &lap)
+std::unique_ptr<LapTrack> trackOf(const SessionLap &lap)
 {
-    return lap.points().empty() ? nullptr : std::make_unique<LapTrack>(lap);
+    return lap->points().empty() ? nullptr : std::make_unique<LapTrack>(lap);
 }
 
 } // namespace
 
 ChartState::~ChartState() = default;
 
-void ChartState::showLap(const Lap *lap)
+void ChartState::showLap(const SessionLap &lap)
 {
-    if (lap == nullptr && m_first == nullptr)
+    if (!lap && m_first == nullptr)
         return;
-    replaceLaps(lap != nullptr ? trackOf(*lap) : nullptr, nullptr, nullptr);
+    replaceLaps(lap ? trackOf(lap) : nullptr, nullptr, nullptr);
 }
 
-void ChartState::showLaps(const Lap &first, const Lap &second)
+void ChartState::showLaps(const SessionLap &first, const SessionLap &second)
 {
     auto firstTrack = trackOf(first);
     auto secondTrack = trackOf(second);
     std::unique_ptr<LapComparison> comparison;
     if (firstTrack != nullptr && secondTrack != nullptr) {
         comparison
-            = std::make_unique<LapComparison>(*firstTrack, *secondTrack, LapGap(first, second));
+            = std::make_unique<LapComparison>(*firstTrack, *secondTrack, LapGap(*first, *second));
     }
     replaceLaps(std::move(firstTrack), std::move(secondTrack), std::move(comparison));
 }

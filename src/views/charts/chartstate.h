@@ -15,7 +15,7 @@
 
 namespace zuno {
 
-class Lap;
+struct SessionLap;
 
 /// What the rider looks at in the charts: the laps, the axis, the visible stretch of it and the
 /// cursor. Charts, value labels and map listen to it and know nothing of each other.
@@ -30,11 +30,11 @@ public:
     using QObject::QObject;
     ~ChartState() override;
 
-    /// Shows one lap; nullptr or a lap without samples shows none. The visible stretch and the
+    /// Shows one lap; none or a lap without samples shows none. The visible stretch and the
     /// cursor stay at their places when the lap before was ridden on the same map.
-    void showLap(const Lap *lap);
+    void showLap(const SessionLap &lap);
     /// Shows two laps, the first of which is the one that axis and cursor belong to.
-    void showLaps(const Lap &first, const Lap &second);
+    void showLaps(const SessionLap &first, const SessionLap &second);
 
     /// nullptr without one.
     [[nodiscard]] const LapTrack *first() const { return m_first.get(); }

@@ -77,8 +77,7 @@ void LapCharts::connectParts()
     connect(m_widgets.byTime, &QCheckBox::toggled, this,
             [this](bool checked) { setAxis(checked ? AxisKind::Time : AxisKind::Distance); });
     connect(&m_selection, &LapSelection::currentLapChanged, this, &LapCharts::showCurrentLap);
-    connect(&m_selection, &LapSelection::comparisonRequested, this,
-            [this](const Lap *first, const Lap *second) { m_state.showLaps(*first, *second); });
+    connect(&m_selection, &LapSelection::comparisonRequested, &m_state, &ChartState::showLaps);
     connect(&m_state, &ChartState::contentChanged, this, &LapCharts::showContent);
     connect(&m_state, &ChartState::cursorChanged, this, [this] {
         showCursor();
@@ -121,7 +120,7 @@ void LapCharts::setAxis(AxisKind axis)
 
 void LapCharts::showCurrentLap()
 {
-    m_state.showLap(m_selection.currentLap());
+    m_state.showLap(m_selection.current());
 }
 
 bool LapCharts::isShown(std::size_t channel) const

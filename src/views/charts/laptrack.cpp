@@ -9,20 +9,19 @@
 #include <base/numbers.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
-#include <session/session.h>
-#include <track/map.h>
+#include <session/sessionlap.h>
 
 namespace zuno {
 
-LapTrack::LapTrack(const Lap &lap)
-    : m_points(lap.points())
-    , m_lapTimeText(lap.timeText())
-    , m_sessionName(lap.session().fileName())
-    , m_mapName(lap.session().map() != nullptr ? lap.session().map()->name() : QString())
-    , m_lapNumber(lap.lapNumber())
+LapTrack::LapTrack(const SessionLap &lap)
+    : m_points(lap->points())
+    , m_lapTimeText(lap->timeText())
+    , m_sessionName(lap.fileName())
+    , m_mapName(lap.mapName())
+    , m_lapNumber(lap->lapNumber())
 {
     computePlaces();
-    computeSectors(lap);
+    computeSectors(*lap);
 }
 
 double LapTrack::secondsOf(const PointAcquisition &point) const

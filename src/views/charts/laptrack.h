@@ -14,6 +14,7 @@
 namespace zuno {
 
 class Lap;
+struct SessionLap;
 
 /// Between two sector lines of a lap.
 struct SectorStretch
@@ -30,7 +31,7 @@ struct SectorStretch
 class LapTrack
 {
 public:
-    explicit LapTrack(const Lap &lap);
+    explicit LapTrack(const SessionLap &lap);
 
     [[nodiscard]] const Points &points() const { return m_points; }
     [[nodiscard]] std::size_t size() const { return m_points.size(); }

@@ -5,12 +5,12 @@
 
 namespace zuno {
 
-const Lap *LapSelection::Choice::lap() const
+SessionLap LapSelection::Choice::lap() const
 {
     if (session.isNull() || session->map() != map || index < 0
         || static_cast<std::size_t>(index) >= session->laps().size())
-        return nullptr;
-    return session->laps()[static_cast<std::size_t>(index)].get();
+        return {};
+    return {session.data(), session->laps()[static_cast<std::size_t>(index)].get()};
 }
 
 void LapSelection::setSession(Session *session)

@@ -7,6 +7,7 @@
 #include <QPointer>
 
 #include <session/session.h>
+#include <session/sessionlap.h>
 
 namespace zuno {
 
@@ -30,11 +31,13 @@ public:
     void setCurrentLap(int index);
     /// -1 without a lap.
     [[nodiscard]] int currentIndex() const { return m_current.index; }
-    [[nodiscard]] const Lap *currentLap() const { return m_current.lap(); }
+    [[nodiscard]] SessionLap current() const { return m_current.lap(); }
+    [[nodiscard]] const Lap *currentLap() const { return current().lap; }
 
     void setFirstLap(Session *session, int index);
     void clearFirstLap();
-    [[nodiscard]] const Lap *firstLap() const { return m_first.lap(); }
+    [[nodiscard]] SessionLap first() const { return m_first.lap(); }
+    [[nodiscard]] const Lap *firstLap() const { return first().lap; }
     [[nodiscard]] Session *firstSession() const { return m_first.session.data(); }
 
     /// Lets go of a session that is about to be removed.
@@ -44,7 +47,7 @@ Q_SIGNALS:
     void currentLapChanged();
     void firstLapChanged();
     /// Two laps were chosen to be compared.
-    void comparisonRequested(const zuno::Lap *first, const zuno::Lap *second);
+    void comparisonRequested(const zuno::SessionLap &first, const zuno::SessionLap &second);
 
 private:
     struct Choice
@@ -54,7 +57,7 @@ private:
         /// On another map the session's laps are others.
         const Map *map = nullptr;
 
-        [[nodiscard]] const Lap *lap() const;
+        [[nodiscard]] SessionLap lap() const;
     };
 
     Choice m_current;

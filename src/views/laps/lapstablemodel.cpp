@@ -80,10 +80,11 @@ bool isMarked(const Lap &lap, int column)
 
 LapsTableModel::LapsTableModel(QObject *parent) : QAbstractTableModel(parent) {}
 
-void LapsTableModel::setLaps(const LapList *laps)
+void LapsTableModel::setLaps(const LapList *laps, int sections)
 {
     beginResetModel();
     m_laps = laps;
+    m_sections = sections;
     endResetModel();
 }
 
@@ -142,8 +143,7 @@ int LapsTableModel::columnCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    const Map *map = rowCount() > 0 ? m_laps->front()->session().map() : nullptr;
-    return FirstSection + (map != nullptr ? static_cast<int>(map->timingPoints().size()) : 0);
+    return FirstSection + (rowCount() > 0 ? m_sections : 0);
 }
 
 const Lap &LapsTableModel::lapAt(const QModelIndex &index) const

@@ -48,8 +48,9 @@ public:
 
     explicit LapsTableModel(QObject *parent = nullptr);
 
-    /// Shows the laps of @p laps, which must stand until the next call; nullptr for none.
-    void setLaps(const LapList *laps);
+    /// Shows the laps of @p laps, which must stand until the next call; nullptr for none. So many
+    /// @p sections has the track.
+    void setLaps(const LapList *laps, int sections = 0);
     /// The laps stay the same, their flags and records have changed.
     void refresh();
     /// Where the model learns which rows are selected.
@@ -74,6 +75,7 @@ private:
     [[nodiscard]] bool isRowSelected(const QModelIndex &index) const;
 
     const LapList *m_laps = nullptr;
+    int m_sections = 0;
     QPointer<QItemSelectionModel> m_selection;
 };
 

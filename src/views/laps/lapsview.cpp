@@ -24,12 +24,6 @@ namespace {
 // Above and below the text of a row together, pixels.
 constexpr int RowPadding = 8;
 
-QString mapNameOf(const Lap &lap)
-{
-    const Map *map = lap.session().map();
-    return map != nullptr ? map->name() : QString();
-}
-
 } // namespace
 
 LapsView::LapsView(QTableView &table, LapSelection &selection, const Settings &settings)
@@ -92,7 +86,9 @@ QAction *LapsView::makeAction(const QKeySequence &shortcut, void (LapsView::*run
 void LapsView::showLaps()
 {
     const Session *session = m_selection.session();
-    m_model->setLaps(session != nullptr ? &session->laps() : nullptr);
+    const Map *map = session != nullptr ? session->map() : nullptr;
+    m_model->setLaps(session != nullptr ? &session->laps() : nullptr,
+                     map != nullptr ? static_cast<int>(map->timingPoints().size()) : 0);
     applyColumns();
     selectCurrentRow();
     updateActions();
@@ -124,10 +120,9 @@ void LapsView::selectCurrentRow()
 // A first lap is chosen, and the current one may be compared to it.
 bool LapsView::isSecondLap() const
 {
-    const Lap *first = m_selection.firstLap();
-    const Lap *lap = m_selection.currentLap();
-    return first != nullptr && lap != nullptr && first != lap
-           && mapNameOf(*first) == mapNameOf(*lap);
+    const SessionLap first = m_selection.first();
+    const SessionLap lap = m_selection.current();
+    return first && lap && first != lap && first.mapName() == lap.mapName();
 }
 
 void LapsView::updateActions()
@@ -181,11 +176,11 @@ void LapsView::toggleValidity()
 
 void LapsView::compare()
 {
-    const Lap *lap = m_selection.currentLap();
-    if (lap == nullptr)
+    const SessionLap lap = m_selection.current();
+    if (!lap)
         return;
-    const Lap *first = m_selection.firstLap();
-    if (first == nullptr) {
+    const SessionLap first = m_selection.first();
+    if (!first) {
         m_selection.setFirstLap(m_selection.session(), m_selection.currentIndex());
     } else if (isSecondLap()) {
         Q_EMIT m_selection.comparisonRequested(first, lap);
@@ -200,7 +195,7 @@ void LapsView::reselect()
 
 void LapsView::exportLap()
 {
-    if (const Lap *lap = m_selection.currentLap())
+    if (const SessionLap lap = m_selection.current())
         Q_EMIT exportRequested(lap);
 }
 

@@ -11,7 +11,7 @@ class QTableView;
 
 namespace zuno {
 
-class Lap;
+struct SessionLap;
 class LapSelection;
 class LapsTableModel;
 class Session;
@@ -38,7 +38,7 @@ public:
 Q_SIGNALS:
     /// The rider threw a lap out or took it back.
     void validityChanged(zuno::Session *session);
-    void exportRequested(const zuno::Lap *lap);
+    void exportRequested(const zuno::SessionLap &lap);
     /// The rider clicked a sector of the current lap; counts from 0.
     void sectorChosen(int sector);
 

@@ -13,6 +13,7 @@
 #include <base/numbers.h>
 #include <session/recording/gpsquality.h>
 #include <session/session.h>
+#include <session/sessionlap.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -128,16 +129,16 @@ void SessionSummary::fillSections(const Session &session, int sectors)
     }
 }
 
-void SessionSummary::showFirstLap(const Lap *lap)
+void SessionSummary::showFirstLap(const SessionLap &lap)
 {
-    m_w.firstLap->setVisible(lap != nullptr);
-    if (lap == nullptr)
+    m_w.firstLap->setVisible(static_cast<bool>(lap));
+    if (!lap)
         return;
-    const Map *map = lap->session().map();
+    const Map *map = lap.map();
     m_w.firstLap->setText(
         tr("Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time "
            ": %4 --- max speed : %5 km/h")
-            .arg(map != nullptr ? map->displayName() : QString(), lap->session().fileName(),
+            .arg(map != nullptr ? map->displayName() : QString(), lap.fileName(),
                  QString::number(lap->lapNumber()), lap->timeText(),
                  QString::number(lap->maxSpeed())));
 }

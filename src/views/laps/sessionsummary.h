@@ -13,7 +13,7 @@ class QWidget;
 
 namespace zuno {
 
-class Lap;
+struct SessionLap;
 class Session;
 
 /// What is said about the displayed session around the laps table: its map, the distances, the
@@ -42,7 +42,7 @@ public:
     /// Shows a session; nullptr for none.
     void showSession(const Session *session);
     /// Shows the first lap of a comparison; nullptr for none.
-    void showFirstLap(const Lap *lap);
+    void showFirstLap(const SessionLap &lap);
 
     /// How many samples do not say where the motorcycle was; empty when all do.
     [[nodiscard]] static QString gpsText(const Session &session);

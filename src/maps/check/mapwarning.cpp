@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <maps/check/mapwarning.h>
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <QStringList>
-
-#include <maps/check/mapcheck.h>
 
 namespace zuno {
 
