@@ -3,6 +3,7 @@
 
 #include <base/plane.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -18,6 +19,13 @@ constexpr double MetresPerDegree = 6371007.2 * std::numbers::pi / 180.0;
 double PlaneVector::length() const
 {
     return std::sqrt((x * x) + (y * y));
+}
+
+double nearestPart(PlaneVector from, PlaneVector to, PlaneVector place)
+{
+    const PlaneVector way = to - from;
+    const double square = way * way;
+    return square > 0.0 ? std::clamp(((place - from) * way) / square, 0.0, 1.0) : 0.0;
 }
 
 Plane::Plane(const QGeoCoordinate &origin)

@@ -22,6 +22,10 @@ struct PlaneVector
     [[nodiscard]] double length() const;
 };
 
+/// Which part of the way from @p from to @p to, from 0 to 1, lies nearest to @p place; 0 where both
+/// are one.
+[[nodiscard]] double nearestPart(PlaneVector from, PlaneVector to, PlaneVector place);
+
 /// The plane that touches the earth at a place; true to a few centimetres over the extent of a
 /// circuit.
 class Plane

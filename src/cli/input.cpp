@@ -75,13 +75,10 @@ DisplayedSession displayReported(const QString &path, const CommandLine &line)
     displayed.session->smooth();
     displayed.maps.loadMaps(mapsFolder(line));
     const QString name = line.value(QStringLiteral("map"));
-    const Map *stored = displayed.maps.find(name);
-    if (stored == nullptr && !name.isEmpty())
+    const MapCandidates candidates = candidatesOf(*displayed.session, displayed.maps, name);
+    if (!candidates.isStored && !name.isEmpty())
         printError(QStringLiteral("there is no map \"%1\"; the map is detected").arg(name));
-    chooseMapByLength(*displayed.session,
-                      stored != nullptr
-                          ? QList<const Map *> {stored}
-                          : findCandidates(*displayed.session, displayed.maps.maps()));
+    chooseMapByLength(*displayed.session, candidates.maps);
     return displayed;
 }
 

@@ -251,8 +251,7 @@ bool LibraryTree::isProtected(const QString &path) const
 
 bool LibraryTree::isCurrentProtected() const
 {
-    return currentPath() == m_folder
-           || QFileInfo(currentPath()).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+    return isProtected(currentPath());
 }
 
 void LibraryTree::fillMenu(QMenu &menu)

@@ -82,11 +82,10 @@ void SessionDisplay::assignMap()
         return;
     }
     m_session->smooth();
-    const QString choice = m_settings.mapChoice(m_session->fileName());
-    if (const Map *stored = choice.isNull() ? nullptr : m_maps.find(choice))
-        onMapChanged({stored}, static_cast<int>(MapMode::Kept));
-    else
-        detectMap();
+    const MapCandidates candidates
+        = candidatesOf(*m_session, m_maps, m_settings.mapChoice(m_session->fileName()));
+    onMapChanged(candidates.maps,
+                 static_cast<int>(candidates.isStored ? MapMode::Kept : MapMode::Detected));
 }
 
 void SessionDisplay::detectMap()

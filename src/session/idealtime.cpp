@@ -6,6 +6,7 @@
 #include <base/numbers.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
+#include <track/cuttingrules.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -69,7 +70,7 @@ void IdealTime::addContinuousLaps(const SessionLap &lap, const Lap &next)
         if (!begin || !end)
             continue;
         // A way through the pits, or one cut short, is no lap.
-        if (isOnceAround(lap->distance() - begin->distance + end->distance, map)) {
+        if (isOnceAround(lap->distance() - begin->distance + end->distance, map.length())) {
             const qint32 time = wrappedDifference(end->timeStamp, begin->timeStamp);
             offerContinuousLap(time, lap, sector + 1);
         }

@@ -36,7 +36,7 @@ OutlinePath::Spot OutlinePath::spotOn(std::size_t segment, PlaneVector place) co
     const double length = m_along[segment + 1] - m_along[segment];
     Spot spot;
     spot.heading = (m_places[segment + 1] - from) * (1.0 / length);
-    const double part = std::clamp((place - from) * spot.heading, 0.0, length);
+    const double part = nearestPart(from, m_places[segment + 1], place) * length;
     const PlaneVector away = place - (from + (spot.heading * part));
     spot.along = m_along[segment] + part;
     spot.distance = away.length();

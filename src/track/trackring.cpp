@@ -58,7 +58,7 @@ RingPlace TrackRing::nearestOn(std::size_t node, PlaneVector to) const
 {
     const PlaneVector begin = m_nodes[node].place;
     const PlaneVector way = after(node).place - begin;
-    const double share = std::clamp(((to - begin) * way) / (way * way), 0.0, 1.0);
+    const double share = nearestPart(begin, after(node).place, to);
     const double along = m_nodes[node].along + (share * lengthOf(node));
     return {wrapped(along), (to - (begin + way * share)).length(), {}};
 }

@@ -13,6 +13,7 @@
 #include <maps/check/passcheck.h>
 #include <session/laps/lapcutter.h>
 #include <session/recording/trace.h>
+#include <track/cuttingrules.h>
 #include <track/map.h>
 #include <track/outlinepath.h>
 
@@ -24,9 +25,6 @@ using Kind = MapWarning::Kind;
 
 // The line's number among the gates.
 constexpr int Line = -1;
-
-// The line is met within this many gate sizes, a sector's end within one.
-constexpr double LineReach = 2.0;
 
 // Metres from the outline at which a rider is no more on it, wherever he is heading.
 constexpr double OutlineReach = 60.0;

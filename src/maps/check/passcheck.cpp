@@ -9,18 +9,12 @@
 #include <base/numbers.h>
 #include <maps/check/plainline.h>
 #include <session/laps/lap.h>
+#include <track/cuttingrules.h>
+#include <track/pitlane.h>
 
 namespace zuno {
 
 namespace {
-
-// He who is so many metres beside the others, and at less than this part of their speed, is in the
-// pit lane.
-constexpr double PitOffset = 8.0;
-constexpr double PitSpeed = 0.65;
-
-// So many laps are more than one.
-constexpr double TwoLaps = 1.5;
 
 // Milliseconds at both ends of a lap in which it is at the line anyway.
 constexpr double EndTime = 5000.0;
@@ -31,7 +25,7 @@ bool crossesWithin(const Lap &lap, const Plane &plane, const OutlinePath::Spot &
     const Points &points = lap.points();
     const double first = points.front().dataTimeStamp + EndTime;
     const double last = points.back().dataTimeStamp - EndTime;
-    const std::vector<double> passes = linePasses(points, plane, line.heading, PitOffset);
+    const std::vector<double> passes = linePasses(points, plane, line.heading, PitLaneOffset);
     return std::any_of(passes.begin(), passes.end(),
                        [first, last](double stamp) { return stamp > first && stamp < last; });
 }
@@ -50,7 +44,7 @@ QList<int> pitLaneLaps(std::span<const std::pair<GateCrossing, double>> passes)
     const double usualSpeed = median(std::move(speeds));
     QList<int> laps;
     for (const auto &[crossing, offset] : passes) {
-        if (std::fabs(offset - usualOffset) > PitOffset && crossing.speed < PitSpeed * usualSpeed)
+        if (isInPitLane(offset, crossing.speed, usualOffset, usualSpeed))
             laps.append(crossing.lap);
     }
     return laps;
@@ -61,7 +55,7 @@ QList<int> lapsBesideLine(const LapList &laps, const Plane &plane, const Outline
 {
     QList<int> found;
     for (const auto &lap : laps) {
-        if (lap->distance() > TwoLaps * length && crossesWithin(*lap, plane, line))
+        if (isMoreThanOnce(lap->distance(), length) && crossesWithin(*lap, plane, line))
             found.append(lap->lapNumber());
     }
     return found;

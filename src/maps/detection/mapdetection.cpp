@@ -11,6 +11,7 @@
 #include <session/recording/trace.h>
 #include <session/session.h>
 #include <track/map.h>
+#include <track/mapfile.h>
 
 namespace zuno {
 
@@ -48,6 +49,13 @@ QList<const Map *> findCandidates(const Session &session, const QList<const Map 
         candidates.append(map);
     }
     return candidates;
+}
+
+MapCandidates candidatesOf(const Session &session, const MapLibrary &maps, const QString &choice)
+{
+    if (const Map *stored = choice.isEmpty() ? nullptr : maps.find(choice))
+        return {{stored}, true};
+    return {findCandidates(session, maps.maps()), false};
 }
 
 void chooseMapByLength(Session &session, QList<const Map *> candidates)

@@ -8,6 +8,7 @@
 namespace zuno {
 
 class Map;
+class MapLibrary;
 class Session;
 
 /// The maps that @p session may have been ridden on: those whose start point lies within 1000 m
@@ -20,5 +21,17 @@ class Session;
 /// that starts on the line. The first candidate is tried to cut the laps; without two laps it is
 /// passed over. Without candidates the session has no map. The caller's list stays as it is.
 void chooseMapByLength(Session &session, QList<const Map *> candidates);
+
+/// The maps among which that of a session is chosen.
+struct MapCandidates
+{
+    QList<const Map *> maps;
+    /// The rider has chosen it.
+    bool isStored = false;
+};
+
+/// The map of the name @p choice where there is one, otherwise what is found for @p session.
+[[nodiscard]] MapCandidates candidatesOf(const Session &session, const MapLibrary &maps,
+                                         const QString &choice);
 
 } // namespace zuno

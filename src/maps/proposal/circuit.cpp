@@ -7,6 +7,8 @@
 #include <cmath>
 #include <numbers>
 
+#include <track/pitlane.h>
+
 namespace zuno {
 
 namespace {
@@ -18,11 +20,6 @@ constexpr double TrackReach = 25.0;
 
 // Passes nearer to each other than this part of a lap are one.
 constexpr double SamePass = 0.3;
-
-// He who is so many metres beside the others, and at less than this part of their speed, is in the
-// pit lane.
-constexpr double PitOffset = 6.0;
-constexpr double PitSpeed = 0.65;
 
 // By how much once around may differ from the usual.
 constexpr double LapTolerance = 0.1;
@@ -97,7 +94,7 @@ std::vector<Pass> Circuit::passesOf(const Station &station) const
     const double speed
         = quantile(valuesOf(passes, [](const Pass &pass) { return pass.speed; }), 0.7);
     std::erase_if(passes, [offset, speed](const Pass &pass) {
-        return std::fabs(pass.offset - offset) > PitOffset && pass.speed < PitSpeed * speed;
+        return isInPitLane(pass.offset, pass.speed, offset, speed);
     });
     return passes;
 }

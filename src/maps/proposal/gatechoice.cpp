@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+#include <track/cuttingrules.h>
+
 namespace zuno {
 
 namespace {
@@ -22,10 +24,8 @@ constexpr double LittleMargin = 0.1;
 // And a neighbour, where there is room.
 constexpr double NeighbourMargin = 4.0;
 
-// The line is met within this many gate sizes, and at most once in so many samples.
-constexpr double LineReach = 2.0;
-constexpr double CoolDown = 10.0;
-constexpr double CoolDownPart = 0.85;
+// The part of the way between two passes that a gate may take up.
+constexpr double PausePart = 0.85;
 
 // Longer ways from line to line, in laps, are none; one with a stop in the pit lane is.
 constexpr double OneLap = 1.3;
@@ -81,7 +81,7 @@ public:
         : m_circuit(circuit)
         , m_line(line)
         , m_size(size)
-        , m_seconds((CoolDown + 3.0) * circuit.ride().interval())
+        , m_seconds((PassPause + 3.0) * circuit.ride().interval())
     {
         for (std::size_t k = 0; k < circuit.size(); ++k)
             m_fits.push_back(fits(circuit, line + k, size, passes)
@@ -205,8 +205,8 @@ GateRoom lineRoom(const Circuit &circuit, std::size_t i)
     const double wish = std::max(room.least, (clear - NeighbourMargin) / LineReach);
     room.most = std::min({MostGate, wish, (clear - Margin) / LineReach});
     // He who is still inside when the line can be met again is counted twice.
-    const double left = station.slowest * CoolDown * circuit.ride().interval();
-    room.most = std::min(room.most, CoolDownPart * left / LineReach);
+    const double left = station.slowest * PassPause * circuit.ride().interval();
+    room.most = std::min(room.most, PausePart * left / LineReach);
     return room;
 }
 

@@ -69,7 +69,7 @@ private:
             if (to.driven < least || from.driven > most)
                 continue;
             const PlaneVector step = to.place - from.place;
-            const double part = std::clamp(-(from.place * step) / (step * step), 0.0, 1.0);
+            const double part = nearestPart(from.place, to.place, {});
             const double distance = (from.place + (step * part)).length();
             if (distance < bestDistance) {
                 bestDistance = distance;

@@ -14,6 +14,7 @@
 #include <maps/proposal/linechoice.h>
 #include <maps/proposal/proposalworth.h>
 #include <session/laps/lapcutter.h>
+#include <track/cuttingrules.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -29,8 +30,7 @@ constexpr std::size_t LeastPositions = 20;
 constexpr double LeastWay = 150.0;
 constexpr double LeastSpeed = 4.0;
 
-// By how much a complete lap differs from the outline's length, and one that may yet become so.
-constexpr double LengthTolerance = 0.1;
+// By how much a lap that may yet become complete differs from the outline's length.
 constexpr double NearlyAround = 0.25;
 
 // How many lines are tried before the best of them is taken.
@@ -132,7 +132,7 @@ QList<QGeoCoordinate> completeOutline(std::span<const PointAcquisition> samples,
             length += outline[i - 1].distanceTo(outline[i]);
         const auto complete = static_cast<std::size_t>(
             std::count_if(laps.begin(), laps.end(), [length](const FoundLap &lap) {
-                return std::fabs(lap.length - length) < LengthTolerance * length;
+                return isOnceAround(lap.length, length);
             }));
         if (best.isEmpty() || complete > most || (complete == most && !isLong)) {
             best = outline;

@@ -9,6 +9,7 @@
 
 #include <maps/check/mapcheck.h>
 #include <maps/check/plainline.h>
+#include <track/cuttingrules.h>
 
 namespace zuno {
 
@@ -22,9 +23,6 @@ constexpr double MostError = 40.0;
 // Milliseconds between a lap's end and the pass of the line that is meant by it.
 constexpr double SamePass = 3000.0;
 
-// The line that lies across the track goes so many gate sizes to the sides.
-constexpr double LineReach = 2.0;
-
 // What a lap with a wrong time counts, and one without a section's time; what one pass that counts
 // twice takes away, and one that is missing.
 constexpr double WrongTime = 0.5;
@@ -34,9 +32,6 @@ constexpr double Lost = 0.5;
 
 // Timing points that a proposal should have, the one on the line included.
 constexpr qsizetype LeastPoints = 3;
-
-// Who comes back after more laps than this missed the line in between.
-constexpr double TwoLaps = 1.5;
 
 // The nearest of rising values; one that is farther than all when there is none.
 double nearest(const std::vector<double> &stamps, double stamp)
@@ -52,7 +47,7 @@ int lostLaps(const MapCheck &check)
 {
     return static_cast<int>(
         std::count_if(check.laps.begin(), check.laps.end(), [&check](const CheckedLap &lap) {
-            return lap.distance > TwoLaps * check.length;
+            return isMoreThanOnce(lap.distance, check.length);
         }));
 }
 

@@ -9,15 +9,12 @@
 #include <base/laptimes.h>
 #include <base/numbers.h>
 #include <session/recording/trace.h>
+#include <track/cuttingrules.h>
 #include <track/map.h>
 
 namespace zuno {
 
 namespace {
-
-// How many samples after one crossing the next is possible: a pass through a gate takes several
-// samples, of which one only is the crossing.
-constexpr int CoolDown = 10;
 
 // How far the speed (km/h) must have swung for its turn to count.
 constexpr qint64 MinimumSwing = 10;
@@ -122,16 +119,15 @@ void Lap::computeSectors(const Trace &trace, const Map *map)
     std::optional<Gate> gate = sectorCount > 0 ? map->sectorGate(0) : std::nullopt;
     Sector sector {m_points.front(), {}, 0, 0};
     std::size_t previous = Trace::None;
-    int coolDown = 0;
+    PassScan scan;
     for (std::size_t i = 0; i < m_points.size(); ++i) {
-        if (coolDown > 0)
-            --coolDown;
+        const bool isPass = scan.isPass(gate ? &*gate : nullptr, trace, i);
         if (!trace.at(i).isValid())
             continue;
         if (previous != Trace::None)
             m_distance += trace.at(previous).distanceTo(trace.at(i));
         previous = i;
-        if (!gate || coolDown > 0 || !gate->isCrossedAt(trace, i))
+        if (!isPass)
             continue;
         const std::size_t next = trace.next(i);
         const bool stands = next == Trace::None || trace.at(i).distanceTo(trace.at(next)) == 0.0;
@@ -148,7 +144,6 @@ void Lap::computeSectors(const Trace &trace, const Map *map)
         m_sectors.push_back(sector);
         sector.entry = sector.exit;
         sector.first = i + 1;
-        coolDown = CoolDown;
         const int reached = crossedSectors();
         gate = reached < sectorCount ? map->sectorGate(reached) : std::nullopt;
     }

@@ -10,20 +10,12 @@
 #include <base/numbers.h>
 #include <session/laps/sessionmarks.h>
 #include <session/recording/trace.h>
+#include <track/cuttingrules.h>
 #include <track/map.h>
 
 namespace zuno {
 
 namespace {
-
-// How many samples after one crossing of the line the next is possible.
-constexpr int CoolDown = 10;
-
-// The line is looked for within this many gate sizes of the start point.
-constexpr double LineReach = 2.0;
-
-// What once around may differ from the map's length, as a part of it.
-constexpr double LengthTolerance = 0.1;
 
 // Cuts one recording; lives for one call of cutIntoLaps.
 class LapCutter
@@ -51,11 +43,9 @@ public:
 private:
     void visit(std::size_t i)
     {
-        if (m_coolDown > 0)
-            --m_coolDown;
         if (!wentToLapBefore(i))
             append(i);
-        if (m_coolDown == 0 && m_line.isCrossedAt(m_trace, i))
+        if (m_scan.isPass(&m_line, m_trace, i))
             crossLine(i);
         addDistance(i);
     }
@@ -99,7 +89,6 @@ private:
         m_points.reserve(length + (length / 8));
         m_positions.reserve(length + (length / 8));
         append(crossing, position);
-        m_coolDown = CoolDown;
     }
 
     std::unique_ptr<Lap> makeLap()
@@ -116,7 +105,7 @@ private:
         lap->setEndsAtLine(true);
         lap->setIsValid(std::find(m_invalid.begin(), m_invalid.end(), lap->lapNumber())
                         == m_invalid.end());
-        lap->setIsComplete(lap->lapNumber() != 1 && isOnceAround(lap->distance(), m_map));
+        lap->setIsComplete(lap->lapNumber() != 1 && isOnceAround(lap->distance(), m_map.length()));
         return lap;
     }
 
@@ -143,7 +132,7 @@ private:
     std::size_t m_previous = Trace::None;
     std::size_t m_gapEnd = 0;
     quint32 m_crossingStamp = 0;
-    int m_coolDown = 0;
+    PassScan m_scan;
 };
 
 void rankLapTimes(LapResults &results)
@@ -191,11 +180,6 @@ LapResults::LapResults()
 {
     bestSectorTimes.fill(NoTime);
     bestSectorLaps.fill(-1);
-}
-
-bool isOnceAround(double distance, const Map &map)
-{
-    return std::fabs(distance - map.length()) < LengthTolerance * map.length();
 }
 
 LapResults cutIntoLaps(std::span<const PointAcquisition> samples, const Map &map,

@@ -39,9 +39,6 @@ struct LapResults
     std::array<qint32, MaximumSectors> bestSectorLaps {};
 };
 
-/// Whether @p distance metres are once around the circuit of @p map: within a tenth of its length.
-[[nodiscard]] bool isOnceAround(double distance, const Map &map);
-
 /// Cuts samples into laps at the start/finish line of @p map, with all figures, marks and records.
 /// @p invalid are the numbers of the laps thrown out. No laps without a pass over the line or with
 /// a map that is of no use.

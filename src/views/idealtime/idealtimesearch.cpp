@@ -76,11 +76,7 @@ std::unique_ptr<Session> IdealTimeSearch::cutCopy(const Session &session)
 void IdealTimeSearch::chooseMap(Session &session) const
 {
     const QString choice = m_parts.settings.mapChoice(session.fileName());
-    const Map *stored = choice.isNull() ? nullptr : m_parts.maps.find(choice);
-    const QList<const Map *> candidates = stored != nullptr
-                                              ? QList<const Map *> {stored}
-                                              : findCandidates(session, m_parts.maps.maps());
-    chooseMapByLength(session, candidates);
+    chooseMapByLength(session, candidatesOf(session, m_parts.maps, choice).maps);
 }
 
 void IdealTimeSearch::add(const Session &session, bool isDisplayed)
