@@ -29,7 +29,7 @@ fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positionin
 format=(git clang-format)
 checks=(git clang-tidy clazy cppcheck shellcheck)
 faults=(strace util-linux-extra)
-package=(dpkg-dev file lintian desktop-file-utils appstream shared-mime-info libfile-mimeinfo-perl)
+package=(dpkg-dev devscripts file lintian desktop-file-utils appstream shared-mime-info libfile-mimeinfo-perl)
 try=(xvfb x11-utils imagemagick fonts-dejavu-core xdg-utils desktop-file-utils shared-mime-info
     libfile-mimeinfo-perl)
 

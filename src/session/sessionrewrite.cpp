@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QStandardPaths>
 
 #include <base/bytereader.h>
 #include <base/wholefile.h>
@@ -32,13 +33,21 @@ class RewriteLock
 {
 public:
     explicit RewriteLock(const QString &path)
-        : m_lock(QDir::tempPath() + u"/zuno-" + QString::fromLatin1(nameOf(path)) + u".lock")
+        : m_lock(folder() + u"/zuno-" + QString::fromLatin1(nameOf(path)) + u".lock")
     {
         (void)m_lock.tryLock(LongestWait);
     }
 
 private:
     static constexpr int LongestWait = 1000;
+
+    // Not where everybody may write: another user's file in the way would cost each write a second.
+    static QString folder()
+    {
+        const QString runtime
+            = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+        return runtime.isEmpty() ? QDir::tempPath() : runtime;
+    }
 
     // Lock files stand in no library: it may be on a card, and it is the rider's.
     static QByteArray nameOf(const QString &path)
