@@ -44,7 +44,7 @@ struct SuspensionChannel
 /// One sample of the logger's stream, every tenth of a second.
 ///
 /// The fields up to `dataAccelYPH` are what the file says, but for `dataSpeed` and
-/// `dataAccelXPHComputed`, which the smoothing pass writes. The suspension readings are shared
+/// `dataAccelXPHComputed`, which the smoothing pass writes; `rawSpeed` is what it found. The suspension readings are shared
 /// between copies of a sample; a sample without any costs one null pointer.
 class PointAcquisition
 {
@@ -67,6 +67,10 @@ public:
     double dataAccelXPHComputed = 0.0;
     /// Lateral acceleration in G, as recorded.
     double dataAccelYPH = 0.0;
+    /// km/h, as recorded; 0 until the sample is smoothed. The smoothed speed comes up to 0.16 s
+    /// late and its lowest values are up to 3 km/h too low: whatever tells where somebody braked,
+    /// or how slow he was, takes this one.
+    float rawSpeed = 0.0F;
 
     /// `dataSpeed` and `dataAngle` to the nearest integer, halves away from zero.
     [[nodiscard]] qint32 roundedSpeed() const;

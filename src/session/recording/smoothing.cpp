@@ -44,7 +44,8 @@ void smoothSamples(Points &samples)
     CKalmanFilter filter = makeFilter();
     CMatrix measurement(2, 1);
     for (PointAcquisition &sample : samples) {
-        measurement.element(0, 0) = static_cast<float>(sample.dataSpeed);
+        sample.rawSpeed = static_cast<float>(sample.dataSpeed);
+        measurement.element(0, 0) = sample.rawSpeed;
         measurement.element(1, 0) = static_cast<float>(sample.dataAccelXPH);
         const CMatrix &state = filter.step(measurement);
         sample.dataSpeed = static_cast<double>(limited(state.element(0, 0), 0.0F, MaximumSpeed));

@@ -8,7 +8,8 @@
 namespace zuno {
 
 /// The smoothing pass: replaces each sample's recorded speed (km/h) by the filtered one, limited
-/// to 0 .. 399, and fills its computed longitudinal acceleration (G), limited to -2 .. 2.
+/// to 0 .. 399, and fills its computed longitudinal acceleration (G), limited to -2 .. 2. The
+/// recorded speed stays beside them as `rawSpeed`.
 ///
 /// One Kalman filter runs over all samples, with the recorded speed and longitudinal acceleration
 /// as measurements. It starts from standstill, so the first samples are pulled towards zero. The
