@@ -25,6 +25,8 @@ int laps(const QStringList &arguments);
 int map(const QStringList &arguments);
 int mapNew(const QStringList &arguments);
 int mapCheck(const QStringList &arguments);
+int corners(const QStringList &arguments);
+int insight(const QStringList &arguments);
 int csv(const QStringList &arguments);
 int payload(const QStringList &arguments);
 int set(const QStringList &arguments);

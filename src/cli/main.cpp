@@ -17,6 +17,8 @@ constexpr std::array Commands {
     Command {"decode", "What a session file says", decode},
     Command {"laps", "The laps of a session, as the program shows them", laps},
     Command {"map", "What a map file says", map},
+    Command {"corners", "The corners of a circuit, and what of them is ridden as one", corners},
+    Command {"insight", "Where the time of a session is", insight},
     Command {"csv", "The samples of a session or of a lap as CSV", csv},
     Command {"payload", "A lap as the map page gets it (JSON)", payload},
     Command {"set", "Changes the information in a session file", set},
