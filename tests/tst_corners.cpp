@@ -135,7 +135,7 @@ private Q_SLOTS:
     {
         const TestCircuit track(Chicane);
         const CircuitCorners circuit = findCorners(*track.map());
-        const CircuitCorners back = findCorners(*track.map(), CircuitRing::Way::Backwards);
+        const CircuitCorners back = findCorners(*track.map(), {}, CircuitRing::Way::Backwards);
         QCOMPARE(cornersText(back), u"1L180 2R30 3L70 4R30 5L180"_s);
         for (std::size_t i = 0; i < back.corners.size(); ++i) {
             const Corner &corner = circuit.corners[circuit.corners.size() - 1 - i];

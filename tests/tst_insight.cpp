@@ -73,7 +73,7 @@ struct Told
 
     explicit Told(const std::vector<LapPlan> &laps) : session(rideLaps(track(), *map, laps))
     {
-        insight = insightOf(*map, session->wholeSamples(), session->laps());
+        insight = insightOf(*map, {}, session->wholeSamples(), session->laps());
     }
 };
 
@@ -305,7 +305,7 @@ private Q_SLOTS:
         const Told told(lapsOf({{}, {}, {}}));
         told.session->setLapValid(1, false);
         const SessionInsight insight
-            = insightOf(*told.map, told.session->wholeSamples(), told.session->laps());
+            = insightOf(*told.map, {}, told.session->wholeSamples(), told.session->laps());
         QCOMPARE(insight.used, (std::vector<std::size_t> {1, 2}));
         QVERIFY(!insight.hasEnoughLaps());
     }
@@ -355,7 +355,7 @@ private Q_SLOTS:
             turned.addTrackPoint(map->trackPoints().at(i));
         turned.computeGeometry();
         const auto session = rideLaps(track(), turned, lapsOf({{}, {}, {}}));
-        const SessionInsight insight = insightOf(turned, session->wholeSamples(), session->laps());
+        const SessionInsight insight = insightOf(turned, {}, session->wholeSamples(), session->laps());
         QCOMPARE(insight.laps.size(), std::size_t {3});
         QVERIFY(insight.circuit.corners.front().isRight);
         QVERIFY(std::fabs(insight.circuit.corners.front().middle - 378.5) < 3.0);
@@ -366,8 +366,8 @@ private Q_SLOTS:
     {
         const Told told(lapsOf({{}}));
         Map none;
-        QCOMPARE(insightOf(none, {}, {}).lack, InsightLack::NoCorners);
-        QCOMPARE(insightOf(*told.map, {}, {}).lack, InsightLack::NoCompleteLap);
+        QCOMPARE(insightOf(none, {}, {}, {}).lack, InsightLack::NoCorners);
+        QCOMPARE(insightOf(*told.map, {}, {}, {}).lack, InsightLack::NoCompleteLap);
         QCOMPARE(told.insight.lack, InsightLack::None);
         QVERIFY(!told.insight.hasEnoughLaps());
         QVERIFY(told.insight.list.empty());

@@ -30,7 +30,9 @@ std::optional<NamedCircuit> circuitReported(const CommandLine &line)
     const QString path = line.argument(0);
     if (isMapFile(path)) {
         const std::unique_ptr<Map> map = mapReported(path, {});
-        return map ? std::optional(NamedCircuit {map->name(), findCorners(*map)}) : std::nullopt;
+        return map ? std::optional(NamedCircuit {map->name(),
+                                                findCorners(*map, editsReported(path))})
+                   : std::nullopt;
     }
     const DisplayedSession displayed = displayReported(path, line);
     if (!displayed.session)
@@ -39,7 +41,8 @@ std::optional<NamedCircuit> circuitReported(const CommandLine &line)
     SessionInsight insight;
     insight.lack = InsightLack::NoCorners;
     if (session.map() != nullptr)
-        insight = insightOf(*session.map(), session.wholeSamples(), session.laps());
+        insight = insightOf(*session.map(), editsReported(displayed.mapPath()),
+                            session.wholeSamples(), session.laps());
     if (insight.lack != InsightLack::None) {
         printFileError(path, lackText(insight.lack));
         return {};

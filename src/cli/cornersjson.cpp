@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+#include <cli/console.h>
+#include <insight/cornerfile.h>
 #include <base/jsonwriter.h>
 
 namespace zuno::cli {
@@ -44,6 +46,17 @@ void writeParts(JsonWriter &json, QByteArrayView key, const TrackParts &parts,
 }
 
 } // namespace
+
+CornerEdits editsReported(const QString &mapPath)
+{
+    const QString path = cornerFilePath(mapPath);
+    const CornerFile file = readCornerFile(path);
+    if (file.state == CornerFile::State::Damaged)
+        printFileError(path, QStringLiteral("is no file of corners; it is left alone"));
+    if (file.state == CornerFile::State::Newer)
+        printFileError(path, QStringLiteral("was written by a later program; it is left alone"));
+    return file.edits;
+}
 
 double rounded(double value, int decimals)
 {

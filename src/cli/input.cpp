@@ -26,6 +26,12 @@ QString mapsFolder(const CommandLine &line)
 
 } // namespace
 
+QString DisplayedSession::mapPath() const
+{
+    const Map *map = session ? session->map() : nullptr;
+    return map != nullptr ? mapsFolder + map->name() : QString();
+}
+
 QString placeText(const QGeoCoordinate &place)
 {
     return place.isValid() ? QStringLiteral("%1, %2")
@@ -73,7 +79,8 @@ DisplayedSession displayReported(const QString &path, const CommandLine &line)
     if (!displayed.session)
         return displayed;
     displayed.session->smooth();
-    displayed.maps.loadMaps(mapsFolder(line));
+    displayed.mapsFolder = mapsFolder(line);
+    displayed.maps.loadMaps(displayed.mapsFolder);
     const QString name = line.value(QStringLiteral("map"));
     const MapCandidates candidates = candidatesOf(*displayed.session, displayed.maps, name);
     if (!candidates.isStored && !name.isEmpty())

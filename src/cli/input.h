@@ -19,7 +19,11 @@ class CommandLine;
 struct DisplayedSession
 {
     MapLibrary maps;
+    QString mapsFolder;
     std::unique_ptr<Session> session;
+
+    /// The file of the session's map; empty without one.
+    [[nodiscard]] QString mapPath() const;
 };
 
 /// A place for people, "46.100000, 6.200000"; "none" for an invalid one.

@@ -3,6 +3,7 @@
 
 #include <cli/commands.h>
 #include <cli/console.h>
+#include <cli/cornersjson.h>
 #include <cli/input.h>
 #include <cli/insightjson.h>
 #include <cli/insighttext.h>
@@ -69,7 +70,8 @@ std::optional<Told> tellReported(const QString &path, const CommandLine &line)
     const Session &session = *told.displayed.session;
     told.insight.lack = InsightLack::NoCorners;
     if (session.map() != nullptr)
-        told.insight = insightOf(*session.map(), session.wholeSamples(), session.laps());
+        told.insight = insightOf(*session.map(), editsReported(told.displayed.mapPath()),
+                                 session.wholeSamples(), session.laps());
     return told;
 }
 

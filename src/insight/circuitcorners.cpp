@@ -14,7 +14,7 @@ constexpr double MostModelTime = 1.5;
 
 } // namespace
 
-CircuitCorners findCorners(const Map &map, CircuitRing::Way way)
+CircuitCorners findCorners(const Map &map, const CornerEdits &edits, CircuitRing::Way way)
 {
     CircuitCorners circuit;
     circuit.ring = CircuitRing(map, way);
@@ -22,7 +22,8 @@ CircuitCorners findCorners(const Map &map, CircuitRing::Way way)
         return circuit;
     circuit.shape = shapeOf(circuit.ring);
     circuit.modelTime = modelTime(circuit.shape.hardSpeed);
-    circuit.corners = cornersOf(findRuns(circuit.shape), circuit.shape);
+    const CornerRuns runs = applyEdits(findRuns(circuit.shape), edits, circuit.ring, circuit.shape);
+    circuit.corners = cornersOf(runs, circuit.shape);
     circuit.segments = segmentsOf(circuit.corners, circuit.ring.length());
     circuit.units = unitsOf(circuit.segments, circuit.shape.softSpeed);
     return circuit;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <insight/circuitring.h>
+#include <insight/corneredits.h>
 #include <insight/units.h>
 
 namespace zuno {
@@ -33,8 +34,8 @@ struct CircuitCorners
     }
 };
 
-/// The corners of a map; empty without a usable outline.
-[[nodiscard]] CircuitCorners findCorners(const Map &map,
+/// The corners of a map with what the rider changed of them; empty without a usable outline.
+[[nodiscard]] CircuitCorners findCorners(const Map &map, const CornerEdits &edits = {},
                                          CircuitRing::Way way = CircuitRing::Way::AsDrawn);
 
 /// Whether an outline can be the one that laps of @p bestLap seconds were ridden on: a model rider

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+#include <QString>
+
 #include <insight/circuitshape.h>
 
 namespace zuno {
@@ -16,6 +18,8 @@ struct CornerRun
 {
     std::size_t first = 0;
     std::size_t last = 0;
+    /// What the rider calls it; empty when nothing.
+    QString name = {};
 
     friend bool operator==(const CornerRun &, const CornerRun &) = default;
 };

@@ -34,6 +34,7 @@ double placeOf(double part, const CornerRun &run, const Stations &curvature)
 Corner cornerOf(const CornerRun &run, const Stations &curvature)
 {
     Corner corner;
+    corner.name = run.name;
     corner.start = placeOf(StartPart, run, curvature);
     corner.middle = placeOf(MiddlePart, run, curvature);
     corner.end = placeOf(EndPart, run, curvature);

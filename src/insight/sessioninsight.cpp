@@ -192,13 +192,14 @@ SessionInsight sessionInsight(CircuitCorners circuit, std::span<const PointAcqui
     return insight;
 }
 
-SessionInsight insightOf(const Map &map, std::span<const PointAcquisition> samples,
+SessionInsight insightOf(const Map &map, const CornerEdits &edits,
+                         std::span<const PointAcquisition> samples,
                          const LapList &laps)
 {
     const Lap *best = quickest(laps);
     const CircuitRing::Way way
         = best != nullptr ? wayAround(map, *best) : CircuitRing::Way::AsDrawn;
-    return sessionInsight(findCorners(map, way), samples, laps);
+    return sessionInsight(findCorners(map, edits, way), samples, laps);
 }
 
 } // namespace zuno

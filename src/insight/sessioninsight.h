@@ -77,7 +77,8 @@ struct SessionInsight
                                             const LapList &laps);
 
 /// The same on the map that the laps were cut with, whichever way they go around it.
-[[nodiscard]] SessionInsight insightOf(const Map &map, std::span<const PointAcquisition> samples,
+[[nodiscard]] SessionInsight insightOf(const Map &map, const CornerEdits &edits,
+                                       std::span<const PointAcquisition> samples,
                                        const LapList &laps);
 
 } // namespace zuno
