@@ -10,8 +10,8 @@
 #include <QStringList>
 
 #include <insight/groundplane.h>
-#include <track/map.h>
 #include <session/session.h>
+#include <track/map.h>
 #include "builders.h"
 
 namespace zuno::test {

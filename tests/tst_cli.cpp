@@ -84,7 +84,7 @@ private Q_SLOTS:
              {"event", "weather=fine", "temperature=256", "newSession=2", "invalid=1;2"})
             row(WrongUse, QByteArray("set good.ra1 driver=X ") + wrong, wrong);
         for (const QByteArray &command :
-             QByteArrayList {"decode", "laps", "csv", "payload --lap 1", "set", "map"}) {
+             QByteArrayList {"decode", "laps", "insight", "csv", "payload --lap 1", "set", "map"}) {
             const QByteArray change = command == "set" ? "event=Cup" : "";
             row(WrongUse, command.split(' ').first(), "missing");
             row(FileFailed, command + " pipe.ra1 " + change, "pipe.ra1: cannot be read");
@@ -93,6 +93,10 @@ private Q_SLOTS:
         }
         row(WrongUse, "map new good.ra1", "-o");
         row(FileFailed, "map new good.ra1 -o no.map", "gives no map: hardly a sample");
+        row(WrongUse, "insight run.ra1 --maps demo/Map --against two", "\"two\"");
+        row(FileFailed, "insight run.ra1 --maps demo/Map --lap 1", "no complete lap 1");
+        row(FileFailed, "insight run.ra1 --lap 2", "no circuit");
+        row(FileFailed, "corners good.ra1 --maps demo/Map", "no circuit");
         row(FileFailed, "decode old.ra1", "too old");
         row(FileFailed, "csv good.ra1 --lap 1", "no lap 1");
         row(FileFailed, "set headless.ra1 event=Cup", "left alone");
@@ -134,6 +138,31 @@ private Q_SLOTS:
                 QVERIFY(!isFull || std::abs(rest) <= 1); // the last sector ends at the line
             }
         }
+    }
+
+    // Lap against lap as the laps' table has them, to the millisecond.
+    void comparesLaps()
+    {
+        const QJsonArray laps
+            = run(u"laps --json --maps demo/Map run.ra1"_s).json()[u"laps"].toArray();
+        const QJsonObject json
+            = run(u"insight --json --maps demo/Map run.ra1 --lap 3 --against run.ra1:5"_s).json();
+        double sum = 0.0;
+        for (const QJsonValue &loss : json[u"losses"].toArray())
+            sum += loss[u"loss"].toDouble();
+        QCOMPARE(qRound(1000.0 * sum), laps[2][u"time"].toInt() - laps[4][u"time"].toInt());
+        QCOMPARE(json[u"losses"].toArray().size(), json[u"units"].toArray().size());
+        for (const QJsonValue &lap : json[u"laps"].toArray()) {
+            int time = 0;
+            for (const QJsonValue &unit : lap[u"unitTime"].toArray())
+                time += qRound(1000.0 * unit.toDouble());
+            QCOMPARE(time, laps[lap[u"number"].toInt() - 1][u"time"].toInt());
+        }
+        // The circuit of the session and of its map are the same.
+        const QString map = u"demo/Map"_s + json[u"map"].toString();
+        QVERIFY(run(u"corners --json"_s, {map}).json()[u"corners"] == json[u"corners"]);
+        QVERIFY(
+            run(u"insight --maps demo/Map run.ra1"_s).out.contains("Where the usual lap loses"));
     }
 
     void makesMaps()

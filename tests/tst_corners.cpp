@@ -3,9 +3,11 @@
 
 #include <cmath>
 
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <insight/circuitcorners.h>
+#include <insight/cornerfile.h>
 #include <track/map.h>
 #include "testcircuit.h"
 
@@ -141,6 +143,84 @@ private Q_SLOTS:
             const Corner &corner = circuit.corners[circuit.corners.size() - 1 - i];
             QVERIFY(apart(back.corners[i].middle, -corner.middle, circuit.ring.length()) < 3.0);
         }
+    }
+
+    void edits_data()
+    {
+        QTest::addColumn<QString>("what");
+        QTest::addColumn<double>("along");
+        QTest::addColumn<QString>("corners");
+        const QString found = u"1R180 2L30 3R70 4L30 5R180"_s;
+        QTest::newRow("a name") << u"rename Hook"_s << 380.0 << u"HookR180 2L30 3R70 4L30 5R180"_s;
+        QTest::newRow("beside the corner") << u"delete"_s << 260.0 << u"1L30 2R70 3L30 4R180"_s;
+        QTest::newRow("far from any") << u"delete"_s << 150.0 << found;
+        QTest::newRow("two become one") << u"join"_s << 380.0 << u"1R210 2R70 3L30 4R180"_s;
+        QTest::newRow("over the line") << u"join"_s << -400.0 << u"1R360 2L30 3R70 4L30"_s;
+        QTest::newRow("one becomes two")
+            << u"split"_s << 360.0 << u"1R70 2R110 3L30 4R70 5L30 6R180"_s;
+        QTest::newRow("not in a corner") << u"split"_s << 285.0 << found;
+    }
+    void edits()
+    {
+        QFETCH(QString, what);
+        QFETCH(double, along);
+        const TestCircuit track(Chicane);
+        const std::unique_ptr<Map> map = track.map();
+        CornerEdit edit;
+        edit.kind = what == u"join"     ? CornerEdit::Kind::Join
+                    : what == u"split"  ? CornerEdit::Kind::Split
+                    : what == u"delete" ? CornerEdit::Kind::Delete
+                                        : CornerEdit::Kind::Rename;
+        edit.name = what.section(u' ', 1);
+        edit.place = CircuitRing(*map).coordinate(along);
+        QTEST(cornersText(findCorners(*map, {edit})), "corners");
+        // A place on another circuit means nothing.
+        edit.place = {edit.place.latitude() + 1.0, edit.place.longitude()};
+        QCOMPARE(cornersText(findCorners(*map, {edit})), u"1R180 2L30 3R70 4L30 5R180"_s);
+    }
+
+    void keepsEdits()
+    {
+        const QTemporaryDir folder;
+        const QString path = cornerFilePath(folder.filePath(u"My.Track.map"_s));
+        QVERIFY(path.endsWith(u"/My.Track.corners"));
+        QCOMPARE(int(readCornerFile(path).state), int(CornerFile::State::Missing));
+        const CornerEdits edits {{CornerEdit::Kind::Rename, {46.25, -6.5}, u"Kurve \"Süd\""_s},
+                                 {CornerEdit::Kind::Split, {-46.0, 6.0}, {}},
+                                 {CornerEdit::Kind::Join, {0.0, 180.0}, {}},
+                                 {CornerEdit::Kind::Delete, {1.0, 2.0}, {}}};
+        QCOMPARE(writeCornerFile(path, edits), QString());
+        const CornerFile file = readCornerFile(path);
+        QCOMPARE(int(file.state), int(CornerFile::State::Good));
+        QVERIFY(file.edits == edits);
+    }
+
+    void brokenFiles_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("state");
+        using State = CornerFile::State;
+        const auto row = [](const char *name, const QByteArray &bytes, State state) {
+            QTest::newRow(name) << bytes << int(state);
+        };
+        const QByteArray head = R"({"format":"zuno corners","version":1)";
+        row("empty", "", State::Damaged);
+        row("cut", head, State::Damaged);
+        row("other", R"({"format":"else","version":1})", State::Damaged);
+        row("later", R"({"format":"zuno corners","version":2})", State::Newer);
+        row("no edits", head + "}", State::Good);
+        row("unknown edit", head + R"(,"edits":[{"edit":"x","latitude":1,"longitude":1}]})",
+            State::Good);
+        row("no place", head + R"(,"edits":[{"edit":"join"},7]})", State::Good);
+        row("off the earth", head + R"(,"edits":[{"edit":"join","latitude":91,"longitude":1}]})",
+            State::Good);
+    }
+    void brokenFiles()
+    {
+        QFETCH(QByteArray, bytes);
+        const CornerFile file = parseCorners(bytes);
+        QTEST(int(file.state), "state");
+        QVERIFY(file.edits.isEmpty());
     }
 
     void needsAnOutline()

@@ -8,9 +8,9 @@
 
 #include <insight/recordingrate.h>
 #include <insight/sessioninsight.h>
-#include <track/map.h>
-#include <session/session.h>
 #include <session/recording/smoothing.h>
+#include <session/session.h>
+#include <track/map.h>
 #include "testcircuit.h"
 
 using namespace zuno;
@@ -355,7 +355,8 @@ private Q_SLOTS:
             turned.addTrackPoint(map->trackPoints().at(i));
         turned.computeGeometry();
         const auto session = rideLaps(track(), turned, lapsOf({{}, {}, {}}));
-        const SessionInsight insight = insightOf(turned, {}, session->wholeSamples(), session->laps());
+        const SessionInsight insight
+            = insightOf(turned, {}, session->wholeSamples(), session->laps());
         QCOMPARE(insight.laps.size(), std::size_t {3});
         QVERIFY(insight.circuit.corners.front().isRight);
         QVERIFY(std::fabs(insight.circuit.corners.front().middle - 378.5) < 3.0);

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <base/jsonwriter.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/cornersjson.h>
 #include <cli/input.h>
 #include <cli/insighttext.h>
-#include <base/jsonwriter.h>
 
 namespace zuno::cli {
 
@@ -30,8 +30,8 @@ std::optional<NamedCircuit> circuitReported(const CommandLine &line)
     const QString path = line.argument(0);
     if (isMapFile(path)) {
         const std::unique_ptr<Map> map = mapReported(path, {});
-        return map ? std::optional(NamedCircuit {map->name(),
-                                                findCorners(*map, editsReported(path))})
+        return map ? std::optional(
+                   NamedCircuit {map->name(), findCorners(*map, editsReported(path))})
                    : std::nullopt;
     }
     const DisplayedSession displayed = displayReported(path, line);

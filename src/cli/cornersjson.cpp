@@ -5,9 +5,9 @@
 
 #include <cmath>
 
+#include <base/jsonwriter.h>
 #include <cli/console.h>
 #include <insight/cornerfile.h>
-#include <base/jsonwriter.h>
 
 namespace zuno::cli {
 

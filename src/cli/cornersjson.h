@@ -11,8 +11,8 @@ class JsonWriter;
 
 namespace cli {
 
-/// What the rider changed of the corners of a map file; nothing, and reported, when the file that says
-/// so cannot be read.
+/// What the rider changed of the corners of a map file; nothing, and reported, when the file that
+/// says so cannot be read.
 [[nodiscard]] CornerEdits editsReported(const QString &mapPath);
 
 /// A number as scripts get it: rounded to that many decimals.

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <base/jsonwriter.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/cornersjson.h>
 #include <cli/input.h>
 #include <cli/insightjson.h>
 #include <cli/insighttext.h>
-#include <base/jsonwriter.h>
 
 namespace zuno::cli {
 

@@ -3,8 +3,8 @@
 
 #include <cli/insightjson.h>
 
-#include <cli/cornersjson.h>
 #include <base/jsonwriter.h>
+#include <cli/cornersjson.h>
 
 namespace zuno::cli {
 

@@ -3,9 +3,9 @@
 
 #include <cli/insighttext.h>
 
-#include <cli/console.h>
 #include <base/laptimes.h>
 #include <base/numbers.h>
+#include <cli/console.h>
 
 namespace zuno::cli {
 

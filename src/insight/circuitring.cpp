@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include <track/map.h>
 #include <base/numbers.h>
+#include <track/map.h>
 
 namespace zuno {
 

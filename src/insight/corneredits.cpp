@@ -14,6 +14,9 @@ namespace {
 // Metres by which an edit's place may miss its corner, and the track.
 constexpr double Reach = 60.0;
 
+// Degrees that both parts of a split corner turn at least.
+constexpr double LeastPart = 5.0;
+
 // Applies edits to the runs of one circuit.
 class CornerEditor
 {
@@ -21,6 +24,7 @@ public:
     CornerEditor(CornerRuns &runs, const CircuitRing &ring, const CircuitShape &shape)
         : m_runs(runs)
         , m_ring(ring)
+        , m_curvature(shape.curvature)
         , m_step(shape.curvature.step())
         , m_count(shape.curvature.size())
     {
@@ -106,7 +110,10 @@ private:
         if (in == 0 || in > run.last - run.first)
             return;
         CornerRun rest {run.first + in, run.last, {}};
-        run.last = rest.first - 1;
+        const CornerRun before {run.first, rest.first - 1, run.name};
+        if (turnedIn(before, m_curvature) < LeastPart || turnedIn(rest, m_curvature) < LeastPart)
+            return;
+        run = before;
         if (rest.first >= m_count) {
             rest = {rest.first - m_count, rest.last - m_count, {}};
             m_runs.insert(m_runs.begin(), rest);
@@ -117,6 +124,7 @@ private:
 
     CornerRuns &m_runs;
     const CircuitRing &m_ring;
+    const Stations &m_curvature;
     double m_step;
     std::size_t m_count;
 };

@@ -37,7 +37,7 @@ struct CornerEdit
 using CornerEdits = QList<CornerEdit>;
 
 /// The corners after the edits, one after the other. An edit that means no corner (none within 60
-/// metres of the track), or that would leave half a corner empty, changes nothing.
+/// metres of the track), or that would split off less than 5 degrees, changes nothing.
 [[nodiscard]] CornerRuns applyEdits(CornerRuns runs, const CornerEdits &edits,
                                     const CircuitRing &ring, const CircuitShape &shape);
 

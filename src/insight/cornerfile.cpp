@@ -58,9 +58,8 @@ void addEdit(const QJsonObject &object, CornerEdits &edits)
 
 QJsonObject objectOf(const CornerEdit &edit)
 {
-    const auto known = std::find_if(KindNames.begin(), KindNames.end(), [&](const KindName &name) {
-        return edit.kind == name.kind;
-    });
+    const auto known = std::find_if(KindNames.begin(), KindNames.end(),
+                                    [&](const KindName &name) { return edit.kind == name.kind; });
     QJsonObject object {{QStringLiteral("edit"), QLatin1String(known->name)},
                         {QStringLiteral("latitude"), edit.place.latitude()},
                         {QStringLiteral("longitude"), edit.place.longitude()}};

@@ -32,7 +32,8 @@ struct CornerFile
 /// The path of the file that belongs to a map file.
 [[nodiscard]] QString cornerFilePath(const QString &mapPath);
 
-/// Reads a file; one that is larger than a megabyte is damaged. Edits that make no sense are left out.
+/// Reads a file; one that is larger than a megabyte is damaged. Edits that make no sense are left
+/// out.
 [[nodiscard]] CornerFile readCornerFile(const QString &path);
 [[nodiscard]] CornerFile parseCorners(const QByteArray &bytes);
 

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include <insight/recordingrate.h>
 #include <base/numbers.h>
+#include <insight/recordingrate.h>
 
 namespace zuno {
 
@@ -193,8 +193,7 @@ SessionInsight sessionInsight(CircuitCorners circuit, std::span<const PointAcqui
 }
 
 SessionInsight insightOf(const Map &map, const CornerEdits &edits,
-                         std::span<const PointAcquisition> samples,
-                         const LapList &laps)
+                         std::span<const PointAcquisition> samples, const LapList &laps)
 {
     const Lap *best = quickest(laps);
     const CircuitRing::Way way
