@@ -36,6 +36,10 @@ if(GUI)
     install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${folder} DESTINATION ${program_dir}
       OPTIONAL FILES_MATCHING PATTERN *.qm PATTERN *.pdf)
   endforeach()
+  # Packages of a system take it along, whoever installs by hand does not: with it the program
+  # leaves its replacement to the system.
+  install(FILES ${packaging}/installed-by-package DESTINATION ${program_dir}
+    COMPONENT packaged EXCLUDE_FROM_ALL)
 endif()
 
 # Debian wants manuals and changelogs packed, without a time in
@@ -76,6 +80,8 @@ endif()
 set(CPACK_GENERATOR ZIP)
 if(is_desktop_unix)
   set(CPACK_GENERATOR DEB)
+  set(CPACK_INSTALL_CMAKE_PROJECTS
+    "${PROJECT_BINARY_DIR};${PROJECT_NAME};ALL;/;${PROJECT_BINARY_DIR};${PROJECT_NAME};packaged;/")
 endif()
 set(CPACK_PACKAGE_NAME zunoanalyzer)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})

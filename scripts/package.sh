@@ -61,6 +61,7 @@ versions() {
 # What the program looks for beside itself: all that was built is there.
 beside() {
     local file
+    [[ -s $programs/installed-by-package ]] || { echo "The package would be updated past apt." && return 1; }
     same "the link" "../lib/zunoanalyzer/zunoanalyzer" "$(readlink "$work/root/usr/bin/zunoanalyzer")" || return 1
     for file in "$build"/bin/languages/*.{qm,pdf} "$build"/bin/translations/*.qm; do
         [[ ! -e $file ]] || cmp "$file" "$programs/${file#"$build/bin/"}" || return 1

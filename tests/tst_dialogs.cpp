@@ -38,6 +38,7 @@ private Q_SLOTS:
             std::pair("cb_accel", Setting::ShowAccel),
             std::pair("cb_angleLeft", Setting::ShowAngleLeft),
             std::pair("cb_angleRight", Setting::ShowAngleRight),
+            std::pair("cb_checkForUpdates", Setting::CheckForUpdates),
             std::pair("cb_cumulateTime", Setting::ShowCumulatedTime),
             std::pair("cb_decel", Setting::ShowDecel),
             std::pair("cb_displayMinMax", Setting::ShowLocalMinMax),

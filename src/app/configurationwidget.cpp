@@ -37,6 +37,7 @@ constexpr std::array Choices {
     Choice {&Ui::ConfigurationWidget::cb_displayMinMax, Setting::ShowLocalMinMax},
     Choice {&Ui::ConfigurationWidget::cb_showPartiels, Setting::ShowPartielsPoints},
     Choice {&Ui::ConfigurationWidget::cb_gradientCompare, Setting::UseGradientCompare},
+    Choice {&Ui::ConfigurationWidget::cb_checkForUpdates, Setting::CheckForUpdates},
 };
 
 } // namespace

@@ -15,8 +15,8 @@ namespace Ui {
 class ConfigurationWidget;
 }
 
-/// What the laps table and the map show. The dialog writes nothing by itself: whoever opened it
-/// stores its values once it is accepted.
+/// What the laps table and the map show, and whether new releases are looked for. The dialog writes
+/// nothing by itself: whoever opened it stores its values once it is accepted.
 class ConfigurationWidget final : public QDialog
 {
     Q_OBJECT

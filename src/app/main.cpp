@@ -13,6 +13,7 @@
 #include <app/logfile.h>
 #include <app/update/updateapp.h>
 #include <app/zunoanalyzer.h>
+#include <base/settings.h>
 
 namespace {
 
@@ -73,7 +74,9 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window(arguments.language);
-    zuno::UpdateApp updates(zuno::UpdateApp::configuredServer(), &window);
+    const zuno::Settings settings(zuno::Settings::defaultRoot());
+    zuno::UpdateApp updates(
+        zuno::UpdateSetup::configured(settings, QCoreApplication::applicationDirPath()), &window);
     QObject::connect(&updates, &zuno::UpdateApp::failed, &window, &zuno::ZunoAnalyzer::tell);
     updates.checkForUpdates();
     // Where no window manager maximises it, the window fills the screen all the same.

@@ -69,6 +69,7 @@ constexpr std::array Table {
     Entry {Setting::Splitter3Sizes, Analyzer, u"splitter3Sizes", Bytes, nullptr},
     Entry {Setting::LastFileSelected, Analyzer, u"lastFileSelected", Text, nullptr},
     Entry {Setting::V1400, Analyzer, u"v1400", Bool, u"false"},
+    Entry {Setting::CheckForUpdates, Analyzer, u"checkForUpdates", Bool, u"true"},
 };
 
 const Entry &entryOf(Setting setting)

@@ -50,6 +50,7 @@ enum class Setting {
     Splitter3Sizes,
     LastFileSelected,
     V1400,
+    CheckForUpdates,
 };
 
 /// The program's settings. Each read and each write opens the file anew, since other programs of

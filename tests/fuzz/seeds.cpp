@@ -57,9 +57,13 @@ int main(int count, char **arguments)
         putFile(u"%1/rewrite/%2.ra1"_s.arg(folder).arg(i), sessions[i]);
     }
     putFile(folder + u"/map/sectors.map", map());
-    putFile(folder + u"/update/one.xml",
-            R"(<list><item name="ZUNO Analyzer"><version>1.6.0.0</version><name>setup.exe</name>)"
-            R"(<url>https://www.example.com/setup.exe</url></item><item name="Other"/></list>)");
+    putFile(
+        folder + u"/update/one.xml",
+        R"(<list><item name="ZUNO Analyzer"><version>1.6.0.0</version><name>setup.exe</name>)"
+        R"(<platform>linux-x86_64</platform><size>1000</size><sha256>)"
+            + QByteArray(64, '0')
+            + R"(</sha256><validUntil>2040-01-01T00:00:00Z</validUntil>)"
+              R"(<url>https://www.example.com/setup.exe</url></item><item name="Other"/></list>)");
     putFile(folder + u"/page/drawn.json", R"({"event":"drawn"})");
     putFile(folder + u"/page/moved.json",
             R"({"event":"pointMoved","lat":46,"lng":6,"point":-1,"done":true})");

@@ -3,22 +3,23 @@
 
 #include <app/update/updateapp.h>
 
-#include <optional>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QCoreApplication>
-#include <QDir>
-#include <QHostAddress>
+#include <QDebug>
+#include <QFile>
+#include <QLabel>
+#include <QLocale>
 #include <QMessageBox>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QProcess>
-#include <QRegularExpression>
-#include <QSaveFile>
-#include <QStandardPaths>
 
-#include <app/update/updatedocument.h>
+#include <app/update/installerfile.h>
+#include <app/update/updaterequest.h>
+#include <app/update/updatesignature.h>
+#include <base/settings.h>
 #include <widgets/downloadinprogress.h>
 
 namespace zuno {
@@ -26,45 +27,29 @@ namespace zuno {
 namespace {
 
 constexpr std::chrono::seconds Timeout {30};
-constexpr int MaximumRedirects = 5;
-// The document has a few hundred bytes and installers less than 200 MB; both are held in memory.
+// The document has a few hundred bytes and is held in memory, its signature has 88.
 constexpr qint64 DocumentLimit = 1024 * 1024;
-constexpr qint64 InstallerLimit = 512 * DocumentLimit;
+constexpr qint64 SignatureLimit = 1024;
+// So much of an installer is in memory at once.
+constexpr qint64 PieceSize = 256 * 1024;
 
-// What is downloaded is run, so nobody on the way may exchange it.
-bool isSafe(const QUrl &url)
+// What comes from outside is put between quotes, and its line ends are made visible.
+void logRefusal(const char *reason, const QString &detail)
 {
-    if (!url.isValid() || url.host().isEmpty())
-        return false;
-    const bool isLocal = url.host() == u"localhost" || QHostAddress(url.host()).isLoopback();
-    return url.scheme() == u"https" || (url.scheme() == u"http" && isLocal);
-}
-
-/// Everything that the server has announced; nothing when less has come or the server refused.
-std::optional<QByteArray> wholeAnswer(QNetworkReply &reply)
-{
-    constexpr int Ok = 200;
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (reply.error() != QNetworkReply::NoError || status != Ok)
-        return std::nullopt;
-    QByteArray bytes = reply.readAll();
-    const QVariant announced = reply.header(QNetworkRequest::ContentLengthHeader);
-    if (announced.isValid() && announced.toLongLong() != bytes.size())
-        return std::nullopt;
-    return bytes;
-}
-
-/// The last component of a path of any system, so that a server cannot choose the folder.
-QString lastComponent(const QString &path)
-{
-    static const QRegularExpression separator(QStringLiteral("[/\\\\:]"));
-    return path.section(separator, -1);
+    qCritical() << "No new release is offered:" << reason << detail;
 }
 
 } // namespace
 
-UpdateApp::UpdateApp(QUrl server, QWidget *window)
-    : m_server(std::move(server))
+UpdateSetup UpdateSetup::configured(const Settings &settings, const QString &programFolder)
+{
+    return {QUrl(qEnvironmentVariable("ZUNO_UPDATE_SERVER", QStringLiteral(ZUNO_UPDATE_SERVER))),
+            configuredUpdateKeys(), settings.isOn(Setting::CheckForUpdates),
+            QFile::exists(programFolder + u"/installed-by-package")};
+}
+
+UpdateApp::UpdateApp(UpdateSetup setup, QWidget *window)
+    : m_setup(std::move(setup))
     , m_window(window)
     , m_timeout(Timeout)
     , m_network(new QNetworkAccessManager(this))
@@ -76,42 +61,20 @@ UpdateApp::~UpdateApp()
     delete m_progress;
 }
 
-QUrl UpdateApp::configuredServer()
+QUrl UpdateApp::documentUrl(const QString &suffix) const
 {
-    return QUrl(qEnvironmentVariable("ZUNO_UPDATE_SERVER", QStringLiteral(ZUNO_UPDATE_SERVER)));
+    QUrl url = m_setup.server;
+    url.setPath(u"/downloads/_Infos.xml" + suffix);
+    return url;
 }
 
 void UpdateApp::checkForUpdates()
 {
-    QUrl url = m_server;
-    url.setPath(QStringLiteral("/downloads/_Infos.xml"));
-    if (m_infoReply != nullptr || !isSafe(url))
+    const QUrl url = documentUrl();
+    if (!m_setup.isWanted || m_infoReply != nullptr || !isSafe(url))
         return;
-    m_infoReply = get(url, DocumentLimit);
+    m_infoReply = getWhole(*m_network, url, DocumentLimit, m_timeout);
     connect(m_infoReply, &QNetworkReply::finished, this, &UpdateApp::downloadConfFileFinished);
-}
-
-QNetworkReply *UpdateApp::get(const QUrl &url, qint64 limit)
-{
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(MaximumRedirects);
-    request.setTransferTimeout(static_cast<int>(m_timeout.count()));
-    // The bytes are counted against the announced ones, which are those of the compressed form.
-    request.setRawHeader("Accept-Encoding", "identity");
-    QNetworkReply *reply = m_network->get(request);
-    connect(reply, &QNetworkReply::redirected, reply, [reply](const QUrl &target) {
-        if (isSafe(target))
-            Q_EMIT reply->redirectAllowed();
-        else
-            reply->abort();
-    });
-    connect(reply, &QNetworkReply::readyRead, reply, [reply, limit] {
-        if (reply->bytesAvailable() > limit)
-            reply->abort();
-    });
-    return reply;
 }
 
 void UpdateApp::downloadConfFileFinished()
@@ -123,25 +86,75 @@ void UpdateApp::downloadConfFileFinished()
     m_infoReply = nullptr;
     if (!answer)
         return;
-    const UpdateDocument document(*answer);
-    m_version = document.version();
-    m_url = document.url();
-    m_name = document.name();
-    if (isOffered(m_version, QCoreApplication::applicationVersion()) && isSafe(QUrl(m_url)))
+    m_document = *answer;
+    m_infoReply
+        = getWhole(*m_network, documentUrl(QStringLiteral(".sig")), SignatureLimit, m_timeout);
+    connect(m_infoReply, &QNetworkReply::finished, this, &UpdateApp::signatureFinished);
+}
+
+void UpdateApp::signatureFinished()
+{
+    m_infoReply->deleteLater();
+    const QNetworkReply &reply = *m_infoReply;
+    const std::optional<QByteArray> signature = wholeAnswer(*m_infoReply);
+    m_infoReply = nullptr;
+    if (!signature)
+        logRefusal("there is no signature.", reply.errorString());
+    else if (!isSigned(m_document, *signature, m_setup.keys))
+        logRefusal("the signature is not the maker's.", reply.url().toDisplayString());
+    else
+        consider();
+}
+
+/// Only to be called with a document that is signed.
+void UpdateApp::consider()
+{
+    m_release = UpdateDocument(m_document, platform()).release();
+    const QString own = QCoreApplication::applicationVersion();
+    if (m_release.version.isEmpty())
+        logRefusal("the document has none for this system.", platform());
+    else if (isNewer(own, m_release.version))
+        logRefusal("it is older than this one.", m_release.version);
+    else if (!isNewer(m_release.version, own))
+        return;
+    else if (!m_release.isComplete())
+        logRefusal("the document does not say all of it.", m_release.version);
+    else if (m_release.validUntil < QDateTime::currentDateTimeUtc())
+        logRefusal("the document has expired.", m_release.validUntil.toString(Qt::ISODate));
+    else if (!isSafe(QUrl(m_release.url)))
+        logRefusal("its address is not safe.", m_release.url);
+    else if (m_setup.isPackaged)
+        tellOfRelease();
+    else
         ask();
+}
+
+/// With the title of updates; the texts are shown as they stand.
+QMessageBox *UpdateApp::newBox(const QString &text, const QString &details)
+{
+    auto *box = new QMessageBox(QMessageBox::Information, tr("ZUNO Analyzer update"), text,
+                                QMessageBox::NoButton, m_window);
+    box->setInformativeText(details);
+    // The box passes its own text format on to its main text only.
+    for (QLabel *label : box->findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    return box;
 }
 
 void UpdateApp::ask()
 {
-    auto *box = new QMessageBox(QMessageBox::Information, tr("ZUNO Analyzer update"),
-                                tr("A new version of the application is available. \nDo you want "
-                                   "to download it now?"),
-                                QMessageBox::Yes | QMessageBox::Cancel, m_window);
+    const QString host = QUrl(m_release.url).host(QUrl::FullyEncoded);
+    const QString size = QLocale().formattedDataSize(m_release.size, 1, QLocale::DataSizeSIFormat);
+    QMessageBox *box
+        = newBox(tr("A new version of the application is available. \nDo you want "
+                    "to download it now?"),
+                 tr("Version: %1\nSize: %2\nFrom: %3").arg(m_release.version, size, host));
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::Cancel);
     box->button(QMessageBox::Yes)->setText(tr("Yes"));
     box->button(QMessageBox::Cancel)->setText(tr("Cancel"));
     // The question may open under the hands of a rider who is typing, and comes again next time.
     box->setDefaultButton(QMessageBox::Cancel);
-    box->setAttribute(Qt::WA_DeleteOnClose);
     connect(box, &QMessageBox::finished, this, [this](int answer) {
         if (answer == QMessageBox::Yes)
             startDownload();
@@ -149,9 +162,24 @@ void UpdateApp::ask()
     box->open();
 }
 
+void UpdateApp::tellOfRelease()
+{
+    newBox(tr("A new version of the application is available."),
+           tr("Version: %1\nThis one was installed as a package of your system: install the new "
+              "package in its place.")
+               .arg(m_release.version))
+        ->open();
+}
+
 void UpdateApp::startDownload()
 {
-    m_downloadReply = get(QUrl(m_url), InstallerLimit);
+    m_installer = std::make_unique<InstallerFile>(m_release);
+    if (!m_installer->open()) {
+        Q_EMIT failed(tr("The new version could not be downloaded and started."));
+        return;
+    }
+    m_downloadReply = get(*m_network, QUrl(m_release.url), PieceSize, m_timeout);
+    connect(m_downloadReply, &QNetworkReply::readyRead, this, &UpdateApp::savePieces);
     connect(m_downloadReply, &QNetworkReply::downloadProgress, this, &UpdateApp::downloadProgress);
     connect(m_downloadReply, &QNetworkReply::finished, this,
             &UpdateApp::downloadNewVersionFinished);
@@ -160,11 +188,24 @@ void UpdateApp::startDownload()
     m_progress->show();
 }
 
-// The total is -1 when the server announces none.
+void UpdateApp::savePieces()
+{
+    // An abort ends the download from within, and takes the file away.
+    while (m_installer != nullptr && isGiven(*m_downloadReply)
+           && m_downloadReply->bytesAvailable() > 0) {
+        if (!m_installer->append(m_downloadReply->read(PieceSize))) {
+            m_downloadReply->abort();
+            return;
+        }
+    }
+}
+
+// The total is -1 when the server announces none; the document did.
 void UpdateApp::downloadProgress(qint64 recieved, qint64 total)
 {
+    const qint64 whole = total > 0 ? total : m_release.size;
     const double progress
-        = total > 0 ? static_cast<double>(recieved) / static_cast<double>(total) * 100.0 : 0.0;
+        = whole > 0 ? static_cast<double>(recieved) / static_cast<double>(whole) * 100.0 : 0.0;
     if (m_progress != nullptr)
         m_progress->setProgress(static_cast<int>(progress));
 }
@@ -184,38 +225,29 @@ void UpdateApp::downloadNewVersionFinished()
     m_cancelled = false;
     if (m_downloadReply != nullptr)
         m_downloadReply->deleteLater();
-    if (!isWanted)
-        return;
-    if (install(*m_downloadReply))
-        QCoreApplication::quit();
-    else
-        Q_EMIT failed(tr("The new version could not be downloaded and started."));
+    const bool isStarted = isWanted && install();
+    // Nothing is left of a file that is not finished.
+    m_installer.reset();
     m_downloadReply = nullptr;
+    if (isStarted)
+        QCoreApplication::quit();
+    else if (isWanted)
+        Q_EMIT failed(tr("The new version could not be downloaded and started."));
 }
 
-bool UpdateApp::install(QNetworkReply &reply) const
+bool UpdateApp::install()
 {
-    const std::optional<QByteArray> installer = wholeAnswer(reply);
-    const QString path = installer ? save(*installer) : QString();
-    return !path.isEmpty() && QProcess::startDetached(path, {});
-}
-
-/// The file's path; empty when it could not be written.
-QString UpdateApp::save(const QByteArray &installer) const
-{
-    const QString location = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    const QDir root(location.left(location.lastIndexOf(u'/')));
-    if (!root.exists())
-        return {};
-    root.mkpath(QStringLiteral("Temp"));
-    // Without a name this is the folder, which cannot be opened.
-    QSaveFile file(root.filePath(u"Temp/" + lastComponent(m_name)));
-    const bool isSaved
-        = file.open(QIODevice::WriteOnly) && file.write(installer) == installer.size()
-          && file.flush()
-          && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner)
-          && file.commit();
-    return isSaved ? file.fileName() : QString();
+    savePieces();
+    if (!isGiven(*m_downloadReply)) {
+        qCritical() << "The new release did not come:" << m_downloadReply->errorString();
+        return false;
+    }
+    if (!m_installer->finish()) {
+        qCritical() << "What came is not the release that was announced, or cannot be stored:"
+                    << m_installer->path();
+        return false;
+    }
+    return QProcess::startDetached(m_installer->path(), {});
 }
 
 } // namespace zuno

@@ -3,43 +3,59 @@
 
 #pragma once
 
+#include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
-class QByteArray;
 class QXmlStreamReader;
 
 namespace zuno {
 
+/// A release of this program, as the update server's document tells of it. What the document does
+/// not say, or says in a form that cannot be read, is empty or 0.
+struct Release
+{
+    /// "1.6.0.0".
+    QString version;
+    /// The system and processor that it is for, as platform() names them.
+    QString platform;
+    /// The installer's address, as it stands in the document.
+    QString url;
+    /// The installer's file name, as it stands in the document: it may hold anything.
+    QString name;
+    /// The installer's size in bytes, and the 32 bytes of its SHA-256.
+    qint64 size = 0;
+    QByteArray sha256;
+    /// Until when it may be offered; invalid when the document names no zone.
+    QDateTime validUntil;
+
+    /// Whether all of it is there that a download needs.
+    [[nodiscard]] bool isComplete() const;
+};
+
 /// What the update server's document says of the current release of this program.
 ///
-/// The document lists the maker's programs as elements "item", at any depth; the one whose
-/// attribute "name" is "ZUNO Analyzer" is read, of several the last. All texts are empty when there
-/// is none, and when the document is malformed anywhere: half a document is not acted upon.
+/// The document lists the maker's programs as elements "item", at any depth; those whose attribute
+/// "name" is "ZUNO Analyzer" and whose platform is the wanted one are read, of several the last.
 class UpdateDocument final
 {
 public:
-    explicit UpdateDocument(const QByteArray &xml);
+    explicit UpdateDocument(const QByteArray &xml, const QString &platform);
 
-    /// The release's version, "1.6.0.0".
-    [[nodiscard]] const QString &version() const { return m_version; }
-    /// The installer's address, as it stands in the document.
-    [[nodiscard]] const QString &url() const { return m_url; }
-    /// The installer's file name, as it stands in the document: it may hold anything.
-    [[nodiscard]] const QString &name() const { return m_name; }
+    /// All of it is empty when there is none, and when the document is malformed anywhere: half a
+    /// document is not acted upon.
+    [[nodiscard]] const Release &release() const { return m_release; }
 
 private:
-    void clear();
-    void readItem(QXmlStreamReader &reader);
-
-    QString m_version;
-    QString m_url;
-    QString m_name;
+    Release m_release;
 };
 
-/// Whether the version @p remote is to be offered to an installed @p local: its first number is
-/// greater, or its second is, the first numbers not looked at. Thus 1.6 is offered to a 2.0, from
-/// which a rider can go back. Further numbers do not count; a part that is no number counts as 0.
-/// False when either has fewer than two parts.
-[[nodiscard]] bool isOffered(const QString &remote, const QString &local);
+/// The system and processor of this build, "linux-x86_64".
+[[nodiscard]] QString platform();
+
+/// Whether the version @p remote is newer than an installed @p local: its first number is greater,
+/// or these are equal and its second number is. Further numbers do not count; a part that is no
+/// number counts as 0. False when either has fewer than two parts.
+[[nodiscard]] bool isNewer(const QString &remote, const QString &local);
 
 } // namespace zuno
