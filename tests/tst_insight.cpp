@@ -6,6 +6,7 @@
 
 #include <QTest>
 
+#include <insight/consistency.h>
 #include <insight/recordingrate.h>
 #include <insight/sessioninsight.h>
 #include <session/recording/smoothing.h>
@@ -341,6 +342,54 @@ private Q_SLOTS:
         QTEST(carriesCorners(found), "corners");
         QTEST(figureValidity(found).brakingPoint, "braking");
         QTEST(figureValidity(found).lean, "lean");
+    }
+
+    void trends_data()
+    {
+        QTest::addColumn<QList<double>>("values");
+        QTest::addColumn<double>("correlation");
+        QTest::addColumn<double>("probability");
+        // Probabilities by numeric integration of Student's density.
+        QTest::newRow("falling") << QList<double> {4, 3, 2, 1} << -1.0 << 0.0;
+        QTest::newRow("even") << QList<double> {1, 3, 4, 2} << 0.4 << 0.6;
+        QTest::newRow("odd degrees") << QList<double> {1, 2, 3, 5, 4} << 0.9 << 0.037386;
+        QTest::newRow("ties") << QList<double> {1, 1, 2, 2, 3, 3} << 0.956183 << 0.002838;
+    }
+    void trends()
+    {
+        QFETCH(QList<double>, values);
+        QFETCH(double, correlation);
+        QFETCH(double, probability);
+        const std::optional<Trend> trend = trendOf(values);
+        QVERIFY(trend.has_value());
+        QVERIFY(std::fabs(trend->correlation - correlation) < 1e-5);
+        QVERIFY2(std::fabs(trend->probability - probability) < 1e-5,
+                 qPrintable(QString::number(trend->probability, 'g', 9)));
+        QVERIFY(!trendOf(QList<double> {2, 2, 2, 2}).has_value());
+    }
+
+    void consistency()
+    {
+        // One slower in corner 1, another one before it: ideal and rolling best know neither.
+        const Told told(lapsOf({{}, {0.0, 19.0}, {}, {15.0}, {}, {0.0, 19.5}, {8.0}, {}}));
+        const Consistency consistency = consistencyOf(told.insight);
+        const CircuitCorners &circuit = told.insight.circuit;
+        const double best = told.insight.laps[*told.insight.best].path.duration();
+        QCOMPARE(circuit.unitLabel(consistency.spreads.front().unit), u"1"_s);
+        QVERIFY(consistency.spreads.back().seconds < 0.03);
+        QVERIFY(consistency.rollingBest->time <= best);
+        QVERIFY(consistency.ideal->time <= qRound(1000.0 * best));
+        QVERIFY(consistency.twice->time >= consistency.ideal->time);
+        QVERIFY(!consistency.trend.has_value());
+        qint32 sum = 0;
+        for (std::size_t unit = 0; unit < circuit.units.size(); ++unit) {
+            const InsightLap *lap = told.insight.lap(consistency.ideal->laps[unit]);
+            sum += timesIn(circuit.units, lap->path)[unit];
+        }
+        QCOMPARE(sum, consistency.ideal->time);
+        // What was ridden twice is told from seven laps on only, spreads from five.
+        const Consistency few = consistencyOf(Told(lapsOf({{}, {}, {}, {}})).insight);
+        QVERIFY(few.spreads.empty() && !few.twice && few.ideal);
     }
 
     void backwards()

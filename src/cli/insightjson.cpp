@@ -5,6 +5,7 @@
 
 #include <base/jsonwriter.h>
 #include <cli/cornersjson.h>
+#include <insight/consistency.h>
 
 namespace zuno::cli {
 
@@ -109,6 +110,49 @@ void writeAllFigures(JsonWriter &json, const SessionInsight &insight)
     json.endObject();
 }
 
+void writeIdeal(JsonWriter &json, QByteArrayView name, const std::optional<UnitIdeal> &ideal)
+{
+    json.key(name);
+    if (!ideal) {
+        json.null();
+        return;
+    }
+    json.beginObject();
+    json.member("time", cli::rounded(static_cast<double>(ideal->time) / 1000.0, Milli));
+    json.key("laps");
+    json.beginArray();
+    for (const qint32 lap : ideal->laps)
+        json.value(lap);
+    json.endArray();
+    json.endObject();
+}
+
+void writeConsistency(JsonWriter &json, const SessionInsight &insight)
+{
+    const Consistency consistency = consistencyOf(insight);
+    json.key("consistency");
+    json.beginObject();
+    json.key("spread");
+    json.beginArray();
+    for (const UnitSpread &spread : consistency.spreads) {
+        json.beginObject();
+        json.member("unit", insight.circuit.unitLabel(spread.unit));
+        json.member("seconds", cli::rounded(spread.seconds, Milli));
+        json.member("percent", cli::rounded(spread.percent, 2));
+        json.endObject();
+    }
+    json.endArray();
+    const std::optional<RollingBest> &rolling = consistency.rollingBest;
+    json.member("rollingBest",
+                rolling ? std::optional(cli::rounded(rolling->time, Milli)) : std::nullopt);
+    writeIdeal(json, "ideal", consistency.ideal);
+    writeIdeal(json, "twice", consistency.twice);
+    const std::optional<Trend> &trend = consistency.trend;
+    json.member("trend",
+                trend ? std::optional(cli::rounded(trend->correlation, Milli)) : std::nullopt);
+    json.endObject();
+}
+
 void writeInsight(JsonWriter &json, const SessionInsight &insight)
 {
     json.member("rate", cli::rounded(insight.rate, 1));
@@ -127,6 +171,7 @@ void writeInsight(JsonWriter &json, const SessionInsight &insight)
     json.endArray();
     writeTop(json, insight);
     writeAllFigures(json, insight);
+    writeConsistency(json, insight);
 }
 
 void writeComparison(JsonWriter &json, const LapComparison &comparison,
