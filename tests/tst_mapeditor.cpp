@@ -179,6 +179,7 @@ private Q_SLOTS:
         answer({u"Moved"_s});
         maker.editMap(u"/Hill.map"_s);
         QCOMPARE(shownMap(), u"/Moved.map"_s);
+        QCOMPARE(settings.mapChoice(AtValmora), u"/Moved.map"_s);
         QVERIFY(QFile::exists(root.filePath(u"Trash/files/Hill.map"_s)));
         answer({QString()});
         maker.editMap(u"/Karoosberg.map"_s);

@@ -44,8 +44,7 @@ private:
     // Not where everybody may write: another user's file in the way would cost each write a second.
     static QString folder()
     {
-        const QString runtime
-            = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+        const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
         return runtime.isEmpty() ? QDir::tempPath() : runtime;
     }
 

@@ -9,8 +9,8 @@
 
 #include <library/librarytree.h>
 #include <maps/editor/mapmaker.h>
-#include <widgets/downloadinprogress.h>
 #include <tools/pictures/stage.h>
+#include <widgets/downloadinprogress.h>
 
 namespace zuno {
 

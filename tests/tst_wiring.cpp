@@ -1,0 +1,261 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <functional>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <QWebEngineView>
+
+#include <library/exportdialogs.h>
+#include <maps/editor/mapeditor.h>
+#include <maps/page/jsconnector.h>
+#include <session/csvexport.h>
+#include <session/sessionfile.h>
+#include <track/mapfile.h>
+#include <views/charts/lapchart.h>
+#include <views/charts/lapcharts.h>
+#include <views/laps/lapstablemodel.h>
+
+#include "mainwindow.h"
+
+using namespace zuno;
+using namespace zuno::test;
+
+namespace {
+
+const QString LauraAgain = u"2026-04-18 14h05 Valmora.ra1"_s;
+
+/// Does something to the dialog that is open next, once it is.
+void onDialog(const std::function<void(QWidget &)> &act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        if (QWidget *dialog = QApplication::activeModalWidget())
+            act(*dialog);
+        else
+            onDialog(act);
+    });
+}
+
+/// The window with two sessions of one circuit and one of another, the first on display.
+struct Paddock
+{
+    Paddock()
+    {
+        home.startedBefore();
+        window = std::make_unique<Window>();
+        (void)window->open();
+        window->select(home.path(AtValmora));
+        charts = window->main.findChild<LapCharts *>();
+        page = qobject_cast<JSConnector *>(window->main.findChild<QWebEngineView *>()->page());
+    }
+    [[nodiscard]] QTableView &table() const { return window->part<QTableView>("tw_tours"); }
+    [[nodiscard]] ChartState &state() const { return charts->state(); }
+    /// Compares two laps (rows) of a session; the first may be of the session before.
+    void compare(int first, const QString &other, int second) const
+    {
+        choose(first);
+        window->select(home.path(other));
+        choose(second);
+    }
+    void choose(int row) const
+    {
+        table().selectRow(row);
+        table().setFocus();
+        QTest::keyClick(&table(), Qt::Key_C);
+    }
+
+    Home home {{AtValmora, LauraAgain, AtHaidemoor}, {u"Valmora.map"_s, u"Haidemoor.map"_s}};
+    std::unique_ptr<Window> window;
+    LapCharts *charts = nullptr;
+    JSConnector *page = nullptr;
+};
+
+} // namespace
+
+// What one part tells is done by the other: clicks and keys in the window, seen at the far end.
+class TestWiring final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
+
+    void sectors_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::newRow("click") << false;
+        QTest::newRow("Enter") << true;
+    }
+    // A section's cell zooms the charts to it.
+    void sectors()
+    {
+        QFETCH(const bool, byKey);
+        const Paddock paddock;
+        QTableView &table = paddock.table();
+        const QModelIndex cell
+            = table.model()->index(table.currentIndex().row(), LapsTableModel::FirstSection + 1);
+        QVERIFY(!paddock.state().isZoomed());
+        table.setCurrentIndex(cell);
+        if (byKey)
+            QTest::keyClick(&table, Qt::Key_Return);
+        else
+            QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
+                              table.visualRect(cell).center());
+        QVERIFY(paddock.state().isZoomed());
+        const AxisRange seen = paddock.state().visible();
+        const AxisRange whole = paddock.state().whole();
+        QVERIFY(seen.from > whole.from && seen.to < whole.to);
+    }
+
+    // Both laps go to the map, each with its own line, and the labels name them in their order.
+    void comparison()
+    {
+        const Paddock paddock;
+        QSignalSpy sent(paddock.page, &JSConnector::drawTwoLaps);
+        paddock.compare(2, AtValmora, 4);
+        QCOMPARE(sent.count(), 1);
+        QVERIFY(sent[0][0] != sent[0][1]);
+        const auto first = std::as_const(paddock.state()).first();
+        QCOMPARE(first->lapNumber(), 3);
+        QVERIFY(sent[0][0].toString().contains(
+            u"\"dataTimeStamp\":%1,"_s.arg(first->points().front().dataTimeStamp)));
+        QCOMPARE(paddock.window->label("lb_compareFirst"), u"Lap 3"_s);
+        QCOMPARE(paddock.window->label("lb_compareSecond"), u"Lap 5"_s);
+    }
+
+    // Of another session of the circuit; its laps are there as long as they are looked at.
+    void comparedSession()
+    {
+        const Paddock paddock;
+        const QSignalSpy sent(paddock.page, &JSConnector::drawTwoLaps);
+        const Session *before
+            = paddock.window->main.findSessionByPath(paddock.home.path(AtValmora));
+        paddock.choose(2);
+        paddock.window->select(paddock.home.path(AtHaidemoor));
+        QVERIFY(!before->laps().empty());
+        paddock.window->select(paddock.home.path(LauraAgain));
+        QVERIFY(!before->laps().empty());
+        paddock.choose(3);
+        QCOMPARE(sent.count(), 1);
+        paddock.window->select(paddock.home.path(AtHaidemoor));
+        QVERIFY(before->laps().empty());
+    }
+
+    // A click on the line moves the cursor of the charts, and theirs the map's.
+    void cursor()
+    {
+        const Paddock paddock;
+        QSignalSpy moved(paddock.page, &JSConnector::drawCursor);
+        Q_EMIT paddock.page->samplePicked(50);
+        QCOMPARE(paddock.state().cursor(), 50U);
+        const quint32 stamp = paddock.state().first()->points()[50].dataTimeStamp;
+        QVERIFY(moved.last()[0].toString().contains(u"\"dataTimeStamp\":%1,"_s.arg(stamp)));
+        auto *chart = paddock.charts->parent()->findChild<LapChart *>();
+        QTest::keyClick(chart, Qt::Key_Right);
+        QCOMPARE(paddock.state().cursor(), 51U);
+        QCOMPARE(moved.count(), 2);
+    }
+
+    // In the charts: forwards is to the right.
+    void pages()
+    {
+        const Paddock paddock;
+        ChartState &state = paddock.state();
+        state.showRange({500.0, 700.0});
+        auto *chart = paddock.charts->parent()->findChild<LapChart *>();
+        QTest::keyClick(chart, Qt::Key_PageDown);
+        QVERIFY(state.visible().from > 600.0);
+        QTest::keyClick(chart, Qt::Key_PageUp);
+        QTest::keyClick(chart, Qt::Key_PageUp);
+        QVERIFY(state.visible().from < 400.0);
+    }
+
+    // What is set in the dialog shows in the table and on the map at once.
+    void settings()
+    {
+        const Paddock paddock;
+        const QSignalSpy sent(paddock.page, &JSConnector::setOptions);
+        QVERIFY(!paddock.table().isColumnHidden(LapsTableModel::MaxSpeed));
+        onDialog([](QWidget &dialog) {
+            child<QCheckBox>(dialog, "cb_maxSpeed").click();
+            child<QCheckBox>(dialog, "cb_displayMinMax").click();
+            child<QPushButton>(dialog, "pb_ok").click();
+        });
+        paddock.window->main.openSettings();
+        QVERIFY(paddock.table().isColumnHidden(LapsTableModel::MaxSpeed));
+        QCOMPARE(sent.count(), 1);
+        QVERIFY(sent[0][0].toString().contains(u"\"minMax\":\"false\""_s));
+    }
+
+    // The same as of a session that was displayed, smoothed.
+    void exportsData()
+    {
+        const Home home({AtValmora});
+        const auto session = openSession(home.path(AtValmora)).session;
+        const auto shown = openSession(home.path(AtValmora)).session;
+        shown->smooth();
+        QWidget window;
+        ExportDialogs exports(&window);
+        const QString target = home.path(u"data.csv"_s);
+        onDialog([target](QWidget &dialog) {
+            qobject_cast<QFileDialog *>(&dialog)->selectFile(target);
+            QMetaObject::invokeMethod(&dialog, "accept");
+        });
+        exports.exportSessionData(session.get());
+        QCOMPARE(contents(target), sessionCsv(*shown, QLocale()));
+    }
+
+    // The page's process dies: the page is loaded again.
+    void deadPage()
+    {
+        const Paddock paddock;
+        auto *view = paddock.window->main.findChild<QWebEngineView *>();
+        QTRY_VERIFY(paddock.page->isConnected() && !paddock.page->isLoading());
+        QSignalSpy started(view, &QWebEngineView::loadStarted);
+        Q_EMIT paddock.page->renderProcessTerminated(QWebEnginePage::CrashedTerminationStatus, 1);
+        QTRY_VERIFY(!started.isEmpty());
+    }
+
+    void mapEditor_data()
+    {
+        QTest::addColumn<QMessageBox::StandardButton>("answer");
+        QTest::addColumn<bool>("isOpen");
+        QTest::addColumn<bool>("isSaved");
+        QTest::newRow("cancel") << QMessageBox::Cancel << true << false;
+        QTest::newRow("discard") << QMessageBox::Discard << false << false;
+        QTest::newRow("save") << QMessageBox::Save << true << true;
+    }
+    // Asked whether to save changes, Cancel goes on editing; saving closes it once it is saved.
+    void mapEditor()
+    {
+        QFETCH(const QMessageBox::StandardButton, answer);
+        MapDraft draft;
+        draft.outline = {place(0), place(100), place(100, 100), place(0)};
+        draft.start = place(0);
+        draft.timingPoints = {place(100), place(0)};
+        draft.gateSize = 5.0;
+        draft.name = u"/Hill.map"_s;
+        MapEditor::Content content;
+        content.draft = draft;
+        MapEditor editor(content);
+        QSignalSpy saved(&editor, &MapEditor::saveRequested);
+        editor.show();
+        child<QLineEdit>(editor, "le_name").setText(u"Mountain"_s);
+        onDialog(
+            [answer](QWidget &box) { qobject_cast<QMessageBox *>(&box)->button(answer)->click(); });
+        child<QPushButton>(editor, "pb_cancel").click();
+        QTEST(editor.isVisible(), "isOpen");
+        QTEST(!saved.isEmpty(), "isSaved");
+    }
+};
+
+QTEST_MAIN(TestWiring)
+#include "tst_wiring.moc"
