@@ -306,6 +306,49 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::Cause</name>
+    <message>
+        <source>arrives %1 km/h slower</source>
+        <translation>kommt %1 km/h langsamer an</translation>
+    </message>
+    <message>
+        <source>brakes %1 m earlier</source>
+        <translation>bremst %1 m früher</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower into the corner</source>
+        <translation>%1 km/h langsamer in die Kurve</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the slowest point</source>
+        <translation>%1 km/h langsamer am langsamsten Punkt</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit, on the gas %2 m later</source>
+        <translation>%1 km/h langsamer am Ausgang, %2 m später am Gas</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit</source>
+        <translation>%1 km/h langsamer am Ausgang</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower before the corner</source>
+        <translation>bis zu %1 km/h langsamer vor der Kurve</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower in the corner</source>
+        <translation>bis zu %1 km/h langsamer in der Kurve</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower after the corner</source>
+        <translation>bis zu %1 km/h langsamer nach der Kurve</translation>
+    </message>
+    <message>
+        <source>corner %1: %2</source>
+        <translation>Kurve %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -401,6 +444,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>New releases</source>
+        <translation>Neue Versionen</translation>
+    </message>
+    <message>
+        <source>Look for a new release at every start</source>
+        <translation>Bei jedem Start nach einer neuen Version sehen</translation>
     </message>
 </context>
 <context>
@@ -647,6 +698,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapFlag</name>
+    <message>
+        <source>from the pits</source>
+        <translation>aus der Box</translation>
+    </message>
+    <message>
+        <source>into the pits</source>
+        <translation>in die Box</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>slow +%1 %</source>
+        <translation>langsam +%1 %</translation>
+    </message>
+    <message>
+        <source>positions off</source>
+        <translation>Positionen falsch</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>Lücke</translation>
+    </message>
+    <message>
+        <source>held up</source>
+        <translation>aufgehalten</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1459,24 @@ Jetzt herunterladen?</translation>
     <message>
         <source>The new version could not be downloaded and started.</source>
         <translation>Die neue Version konnte nicht geladen und gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+Size: %2
+From: %3</source>
+        <translation>Version: %1
+Größe: %2
+Von: %3</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available.</source>
+        <translation>Eine neue Version der Anwendung ist verfügbar.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+This one was installed as a package of your system: install the new package in its place.</source>
+        <translation>Version: %1
+Diese wurde als Paket Ihres Systems installiert: Installieren Sie das neue Paket an ihrer Stelle.</translation>
     </message>
 </context>
 <context>

@@ -306,6 +306,49 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::Cause</name>
+    <message>
+        <source>arrives %1 km/h slower</source>
+        <translation>llega %1 km/h más lento</translation>
+    </message>
+    <message>
+        <source>brakes %1 m earlier</source>
+        <translation>frena %1 m antes</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower into the corner</source>
+        <translation>%1 km/h más lento al entrar en la curva</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the slowest point</source>
+        <translation>%1 km/h más lento en el punto más lento</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit, on the gas %2 m later</source>
+        <translation>%1 km/h más lento a la salida, gas %2 m después</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit</source>
+        <translation>%1 km/h más lento a la salida</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower before the corner</source>
+        <translation>hasta %1 km/h más lento antes de la curva</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower in the corner</source>
+        <translation>hasta %1 km/h más lento en la curva</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower after the corner</source>
+        <translation>hasta %1 km/h más lento después de la curva</translation>
+    </message>
+    <message>
+        <source>corner %1: %2</source>
+        <translation>curva %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -401,6 +444,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>New releases</source>
+        <translation>Versiones nuevas</translation>
+    </message>
+    <message>
+        <source>Look for a new release at every start</source>
+        <translation>Buscar una versión nueva en cada inicio</translation>
     </message>
 </context>
 <context>
@@ -647,6 +698,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapFlag</name>
+    <message>
+        <source>from the pits</source>
+        <translation>desde boxes</translation>
+    </message>
+    <message>
+        <source>into the pits</source>
+        <translation>hacia boxes</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>parado</translation>
+    </message>
+    <message>
+        <source>slow +%1 %</source>
+        <translation>lento +%1 %</translation>
+    </message>
+    <message>
+        <source>positions off</source>
+        <translation>posiciones erróneas</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>hueco</translation>
+    </message>
+    <message>
+        <source>held up</source>
+        <translation>estorbado</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1459,24 @@ Do you want to download it now?</source>
     <message>
         <source>The new version could not be downloaded and started.</source>
         <translation>No se pudo descargar e iniciar la nueva versión.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+Size: %2
+From: %3</source>
+        <translation>Versión: %1
+Tamaño: %2
+De: %3</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available.</source>
+        <translation>Hay disponible una nueva versión de la aplicación.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+This one was installed as a package of your system: install the new package in its place.</source>
+        <translation>Versión: %1
+Esta se instaló como paquete de su sistema: instale el paquete nuevo en su lugar.</translation>
     </message>
 </context>
 <context>

@@ -306,6 +306,49 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::Cause</name>
+    <message>
+        <source>arrives %1 km/h slower</source>
+        <translation>arrive %1 km/h plus lentement</translation>
+    </message>
+    <message>
+        <source>brakes %1 m earlier</source>
+        <translation>freine %1 m plus tôt</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower into the corner</source>
+        <translation>%1 km/h plus lent à l&apos;entrée du virage</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the slowest point</source>
+        <translation>%1 km/h plus lent au point le plus lent</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit, on the gas %2 m later</source>
+        <translation>%1 km/h plus lent à la sortie, gaz %2 m plus tard</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit</source>
+        <translation>%1 km/h plus lent à la sortie</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower before the corner</source>
+        <translation>jusqu&apos;à %1 km/h plus lent avant le virage</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower in the corner</source>
+        <translation>jusqu&apos;à %1 km/h plus lent dans le virage</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower after the corner</source>
+        <translation>jusqu&apos;à %1 km/h plus lent après le virage</translation>
+    </message>
+    <message>
+        <source>corner %1: %2</source>
+        <translation>virage %1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -401,6 +444,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>New releases</source>
+        <translation>Nouvelles versions</translation>
+    </message>
+    <message>
+        <source>Look for a new release at every start</source>
+        <translation>Chercher une nouvelle version à chaque démarrage</translation>
     </message>
 </context>
 <context>
@@ -647,6 +698,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapFlag</name>
+    <message>
+        <source>from the pits</source>
+        <translation>sort des stands</translation>
+    </message>
+    <message>
+        <source>into the pits</source>
+        <translation>rentre aux stands</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message>
+        <source>slow +%1 %</source>
+        <translation>lent +%1 %</translation>
+    </message>
+    <message>
+        <source>positions off</source>
+        <translation>positions fausses</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacune</translation>
+    </message>
+    <message>
+        <source>held up</source>
+        <translation>gêné</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1459,24 @@ Voulez-vous la télécharger maintenant&#xa0;?</translation>
     <message>
         <source>The new version could not be downloaded and started.</source>
         <translation>La nouvelle version n&apos;a pas pu être téléchargée et lancée.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+Size: %2
+From: %3</source>
+        <translation>Version : %1
+Taille : %2
+De : %3</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available.</source>
+        <translation>Une nouvelle version de l&apos;application est disponible.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+This one was installed as a package of your system: install the new package in its place.</source>
+        <translation>Version : %1
+Celle-ci a été installée comme paquet de votre système : installez le nouveau paquet à sa place.</translation>
     </message>
 </context>
 <context>

@@ -306,6 +306,49 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::Cause</name>
+    <message>
+        <source>arrives %1 km/h slower</source>
+        <translation>arriva più lento di %1 km/h</translation>
+    </message>
+    <message>
+        <source>brakes %1 m earlier</source>
+        <translation>frena %1 m prima</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower into the corner</source>
+        <translation>%1 km/h più lento all&apos;ingresso della curva</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the slowest point</source>
+        <translation>%1 km/h più lento nel punto più lento</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit, on the gas %2 m later</source>
+        <translation>%1 km/h più lento in uscita, gas %2 m dopo</translation>
+    </message>
+    <message>
+        <source>%1 km/h slower at the exit</source>
+        <translation>%1 km/h più lento in uscita</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower before the corner</source>
+        <translation>fino a %1 km/h più lento prima della curva</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower in the corner</source>
+        <translation>fino a %1 km/h più lento in curva</translation>
+    </message>
+    <message>
+        <source>up to %1 km/h slower after the corner</source>
+        <translation>fino a %1 km/h più lento dopo la curva</translation>
+    </message>
+    <message>
+        <source>corner %1: %2</source>
+        <translation>curva %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -401,6 +444,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>New releases</source>
+        <translation>Nuove versioni</translation>
+    </message>
+    <message>
+        <source>Look for a new release at every start</source>
+        <translation>Cerca una nuova versione a ogni avvio</translation>
     </message>
 </context>
 <context>
@@ -647,6 +698,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapFlag</name>
+    <message>
+        <source>from the pits</source>
+        <translation>dai box</translation>
+    </message>
+    <message>
+        <source>into the pits</source>
+        <translation>ai box</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>fermo</translation>
+    </message>
+    <message>
+        <source>slow +%1 %</source>
+        <translation>lento +%1 %</translation>
+    </message>
+    <message>
+        <source>positions off</source>
+        <translation>posizioni errate</translation>
+    </message>
+    <message>
+        <source>gap</source>
+        <translation>lacuna</translation>
+    </message>
+    <message>
+        <source>held up</source>
+        <translation>ostacolato</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1459,24 @@ Scaricarla adesso?</translation>
     <message>
         <source>The new version could not be downloaded and started.</source>
         <translation>Non è stato possibile scaricare e avviare la nuova versione.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+Size: %2
+From: %3</source>
+        <translation>Versione: %1
+Dimensione: %2
+Da: %3</translation>
+    </message>
+    <message>
+        <source>A new version of the application is available.</source>
+        <translation>È disponibile una nuova versione dell&apos;applicazione.</translation>
+    </message>
+    <message>
+        <source>Version: %1
+This one was installed as a package of your system: install the new package in its place.</source>
+        <translation>Versione: %1
+Questa è stata installata come pacchetto del sistema: installi il nuovo pacchetto al suo posto.</translation>
     </message>
 </context>
 <context>

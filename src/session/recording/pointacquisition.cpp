@@ -79,8 +79,7 @@ bool operator==(const PointAcquisition &a, const PointAcquisition &b)
            && a.dataCoordY == b.dataCoordY && a.dataSpeed == b.dataSpeed
            && a.dataAngle == b.dataAngle && a.dataAccelXPH == b.dataAccelXPH
            && a.dataAccelXPHComputed == b.dataAccelXPHComputed && a.dataAccelYPH == b.dataAccelYPH
-           && a.rawSpeed == b.rawSpeed
-           && a.suspension1().readings == b.suspension1().readings
+           && a.rawSpeed == b.rawSpeed && a.suspension1().readings == b.suspension1().readings
            && a.suspension2().readings == b.suspension2().readings;
 }
 

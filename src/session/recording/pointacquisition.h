@@ -44,8 +44,9 @@ struct SuspensionChannel
 /// One sample of the logger's stream, every tenth of a second.
 ///
 /// The fields up to `dataAccelYPH` are what the file says, but for `dataSpeed` and
-/// `dataAccelXPHComputed`, which the smoothing pass writes; `rawSpeed` is what it found. The suspension readings are shared
-/// between copies of a sample; a sample without any costs one null pointer.
+/// `dataAccelXPHComputed`, which the smoothing pass writes; `rawSpeed` is what it found. The
+/// suspension readings are shared between copies of a sample; a sample without any costs one null
+/// pointer.
 class PointAcquisition
 {
 public:
