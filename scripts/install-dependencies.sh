@@ -15,7 +15,8 @@
 #   --translations  only what scripts/check-translations.sh needs
 set -euo pipefail
 
-core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libbenchmark-dev)
+core=(g++ cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libzip-dev
+    libbenchmark-dev gpsbabel)
 translations=(qt6-base-dev-tools qt6-l10n-tools)
 # What makes the manual, and what its test reads it with.
 manual=(weasyprint python3-markdown poppler-utils)
@@ -25,7 +26,7 @@ gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools
     libssl-dev openssl
     libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core
     "${manual[@]}")
-fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positioning-dev)
+fuzz=(clang libclang-rt-dev cmake ninja-build ccache qt6-base-dev qt6-positioning-dev libzip-dev)
 # The compiler brings the sanitizers' libraries itself.
 format=(git clang-format)
 checks=(git clang-tidy clazy cppcheck shellcheck)
