@@ -55,6 +55,10 @@ endfunction()
 
 if(is_desktop_unix)
   install_packed(${packaging}/zuno.1 zuno.1 ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${packaging}/completion/zuno.bash
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions RENAME zuno)
+  install(FILES ${packaging}/completion/_zuno
+    DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/zsh/vendor-completions)
 endif()
 if(is_desktop_unix AND GUI)
   install_packed(${packaging}/zunoanalyzer.1 zunoanalyzer.1 ${CMAKE_INSTALL_MANDIR}/man1)

@@ -4,16 +4,16 @@
 #
 # Builds the fuzz targets and lets each run for a while, one on each processor, on damaged files that
 # it makes up itself: first of generated seeds, then also of what earlier runs found worth keeping.
-#   scripts/fuzz.sh [session|rewrite|map|update|page|all] [SECONDS]
+#   scripts/fuzz.sh [session|rewrite|map|update|page|formats|all] [SECONDS]
 # Ends with an error when a case was found; it lies in build/fuzz/found and belongs into a test.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-all=(session rewrite map update page)
+all=(session rewrite map update page formats)
 targets=("${all[@]}")
 if [[ ${1:-all} != all ]]; then
     if [[ " ${all[*]} " != *" $1 "* ]]; then
-        echo "usage: scripts/fuzz.sh [session|rewrite|map|update|page|all] [SECONDS]" >&2
+        echo "usage: scripts/fuzz.sh [session|rewrite|map|update|page|formats|all] [SECONDS]" >&2
         exit 2
     fi
     targets=("$1")

@@ -30,6 +30,7 @@ int insight(const QStringList &arguments);
 int csv(const QStringList &arguments);
 int payload(const QStringList &arguments);
 int set(const QStringList &arguments);
+int exportRide(const QStringList &arguments);
 int importFiles(const QStringList &arguments);
 int demo(const QStringList &arguments);
 

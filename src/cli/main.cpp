@@ -22,6 +22,7 @@ constexpr std::array Commands {
     Command {"csv", "The samples of a session or of a lap as CSV", csv},
     Command {"payload", "A lap as the map page gets it (JSON)", payload},
     Command {"set", "Changes the information in a session file", set},
+    Command {"export", "Writes a session or a lap for other programs", exportRide},
     Command {"import", "Makes session files of other loggers' recordings", importFiles},
     Command {"demo", "Writes a library of made-up sessions and maps", demo},
 };

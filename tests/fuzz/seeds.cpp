@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include "../builders.h"
+#include "../madeuprides.h"
 
 using namespace zuno;
 using namespace zuno::test;
@@ -71,5 +72,9 @@ int main(int count, char **arguments)
     putFile(folder + u"/page/clicked.json",
             R"({"event":"trackClicked","lat":46,"lng":6,"metresPerPixel":2})");
     putFile(folder + u"/page/picked.json", R"({"event":"picked","index":2147483647})");
+    for (const Format &format : formats()) {
+        putFile(u"%1/formats/%2"_s.arg(folder, QLatin1String(format.name)),
+                format.write({.count = 25}));
+    }
     return 0;
 }

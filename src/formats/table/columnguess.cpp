@@ -31,6 +31,7 @@ constexpr std::array Rules {
     NameRule {Quantity::Time, "unix time", 96},
     NameRule {Quantity::Time, "datetime", 94},
     NameRule {Quantity::Time, "date time", 94},
+    NameRule {Quantity::Time, "date and time", 94},
     NameRule {Quantity::Time, "gps time", 92},
     NameRule {Quantity::Time, "timestamp", 90},
     NameRule {Quantity::Time, "time stamp", 90},

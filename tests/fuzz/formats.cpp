@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Another logger's file of any kind, all the way to samples and to what is written of them.
+
+#include <cmath>
+
+#include <QBuffer>
+
+#include <formats/convert/rideconverter.h>
+#include <formats/ridereader.h>
+
+#include "check.h"
+
+using namespace zuno;
+using namespace zuno::fuzz;
+
+namespace {
+
+void checkRide(const ConvertedRide &ride)
+{
+    for (std::size_t i = 0; i < ride.size(); ++i) {
+        const RideSample sample = ride.sample(i);
+        check(sample.milliseconds == 100 * i, "samples are even");
+        check(std::isfinite(sample.speed) && sample.speed >= 0, "speeds are numbers");
+        check(std::isfinite(sample.lean) && std::isfinite(sample.along)
+                  && std::isfinite(sample.across),
+              "channels are numbers");
+        check(ride.frame.places()[i].isKnown() == (std::abs(sample.latitude) <= 90), "places are");
+    }
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(readability-identifier-naming): the fuzzer calls it so
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    const RideReader *reader = findRideReader(buffer.peek(HeadSize));
+    if (reader == nullptr)
+        return 0;
+    RideFacts facts;
+    RideConverter converter(facts, [](ConvertedRide &&ride) { checkRide(ride); });
+    (void)reader->read(buffer, facts, converter);
+    converter.finish();
+    return 0;
+}
