@@ -45,6 +45,14 @@ private Q_SLOTS:
             const bool isOff = QByteArray("0 false").contains(stored);
             QVERIFY2(reader.isOn(Setting::ShowPartiels) != isOff, stored);
         }
+        // Typed by hand, a path with commas is none of QSettings' lists.
+        for (const auto &[typed, path] : {std::pair("/a, b/c,d ,e", u"/a, b/c,d ,e"_s),
+                                          {"/J\\xfcrgen,\\\\", u"/Jürgen,\\"_s},
+                                          {"/\xc3\xbc,[1]\n[Other]\nmapFiles=/no,no", u"/ü,[1]"_s},
+                                          {"\"/q, q\"", u"/q, q"_s}}) {
+            write(SettingsFile::Config, QByteArray("mapFiles =/x\nmapFiles = ") + typed);
+            QCOMPARE(reader.mapsFolder(), path);
+        }
         write(SettingsFile::Config, "mapFiles=/J\\xfcrgen\nunknown=kept\n");
         QCOMPARE(reader.mapsFolder(), u"/Jürgen"_s);
         reader.setValue(Setting::MapFiles, u"/Straße"_s);

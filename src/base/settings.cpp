@@ -8,7 +8,9 @@
 #include <filesystem>
 
 #include <QDebug>
+#include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
 
@@ -87,6 +89,44 @@ QVariant standardOf(const Entry &entry)
     return value;
 }
 
+// What QSettings puts for characters that are not written as they are.
+QString unescaped(QString text)
+{
+    static const QRegularExpression escape(
+        QStringLiteral("\\\\(?:x([0-9A-Fa-f]{1,4})|([\\\\\"]))"));
+    for (qsizetype at = 0;;) {
+        const QRegularExpressionMatch found = escape.match(text, at);
+        if (!found.hasMatch())
+            return text;
+        const QString code = found.captured(1);
+        const QChar meant
+            = code.isEmpty() ? found.captured(2).front() : QChar(code.toUShort(nullptr, 16));
+        text.replace(found.capturedStart(), found.capturedLength(), meant);
+        at = found.capturedStart() + 1;
+    }
+}
+
+// Somebody has typed a text with a comma without putting it into quotes, and QSettings takes it for
+// a list. What stands between its commas it does not keep, so the line is read.
+QString textWithCommas(const QString &path, const QString &key)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    QString text;
+    bool isGeneral = true;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+    for (const QString &whole : lines) {
+        const QStringView line = QStringView(whole).trimmed();
+        if (line.startsWith(u'['))
+            isGeneral = line.compare(u"[General]", Qt::CaseInsensitive) == 0;
+        const qsizetype equals = line.indexOf(u'=');
+        if (isGeneral && equals >= 0 && line.first(equals).trimmed() == key)
+            text = unescaped(line.mid(equals + 1).trimmed().toString());
+    }
+    return text;
+}
+
 } // namespace
 
 Settings::Settings(QString root) : m_root(std::move(root)) {}
@@ -119,6 +159,8 @@ QVariant Settings::value(Setting setting) const
 {
     const Entry &entry = entryOf(setting);
     QVariant value = QSettings(path(entry.file), QSettings::IniFormat).value(key(setting));
+    if (entry.type == Text && value.typeId() == QMetaType::QStringList)
+        value = textWithCommas(path(entry.file), key(setting));
     if (!value.isValid() || value.isNull() || !value.convert(QMetaType(entry.type)))
         return standardOf(entry);
     return value;
@@ -190,11 +232,15 @@ QString Settings::mapsFolder() const
                                        : m_root + standardOf(entryOf(Setting::MapFiles)).toString();
 }
 
+QString Settings::standardAcquisitionFolder() const
+{
+    return m_root + standardOf(entryOf(Setting::AcquisitionFolder)).toString();
+}
+
 QString Settings::acquisitionFolder() const
 {
-    return isStored(Setting::AcquisitionFolder)
-               ? value(Setting::AcquisitionFolder).toString()
-               : m_root + standardOf(entryOf(Setting::AcquisitionFolder)).toString();
+    return isStored(Setting::AcquisitionFolder) ? value(Setting::AcquisitionFolder).toString()
+                                                : standardAcquisitionFolder();
 }
 
 QString Settings::mapChoice(const QString &sessionFileName) const

@@ -87,6 +87,8 @@ public:
     /// root.
     [[nodiscard]] QString mapsFolder() const;
     [[nodiscard]] QString acquisitionFolder() const;
+    /// The folder of recordings as long as the rider has named none.
+    [[nodiscard]] QString standardAcquisitionFolder() const;
 
     /// The name of the map that the rider chose for a session, by the session's file name; null
     /// without one.
