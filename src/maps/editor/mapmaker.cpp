@@ -11,9 +11,9 @@
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QStandardPaths>
 
 #include <base/settings.h>
+#include <base/trash.h>
 #include <library/acquisitionlibrary.h>
 #include <library/sessiondisplay.h>
 #include <maps/proposal/mapproposal.h>
@@ -55,13 +55,6 @@ Points smoothedSamples(const QString &path)
     opened.session->smooth();
     const std::span<const PointAcquisition> samples = opened.session->wholeSamples();
     return {samples.begin(), samples.end()};
-}
-
-// Without the folder that the trash is in, Qt 6.4 moves the file to wherever the program stands.
-bool moveToTrash(const QString &path)
-{
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return QDir().mkpath(data) && QFile::moveToTrash(path);
 }
 
 QString describe(NoProposal reason)
