@@ -1,16 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <filesystem>
+#include <fstream>
 #include <functional>
 
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileSystemModel>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -33,16 +37,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Answers the next modal dialog with @p act while this stands.
+/// Answers the next modal dialogs with @p act while this stands.
 class Answer
 {
 public:
-    explicit Answer(const std::function<void(QDialog &)> &act)
+    explicit Answer(const std::function<void(QDialog &)> &act, int times = 1)
     {
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, act] {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, act, times] {
             if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-                m_timer.stop();
-                ++count;
+                if (++count == times)
+                    m_timer.stop();
                 act(*dialog);
             }
         });
@@ -74,6 +78,21 @@ std::function<void(QDialog &)> pressing(const QString &text)
                 button->click();
         }
     };
+}
+
+/// The paths of what is no folder, hidden ones too.
+QStringList namesIn(const QString &folder)
+{
+    QStringList names;
+    QDirIterator files(folder, QDir::Files | QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QFileInfo file(files.next());
+        if (file.isSymLink() || !file.isDir())
+            names.append(QDir(folder).relativeFilePath(file.filePath()));
+    }
+    names.sort();
+    return names;
 }
 
 /// The tree of a folder of sessions.
@@ -232,6 +251,8 @@ private Q_SLOTS:
               std::tuple(u"z"_s, Qt::Key_Escape, 0, u"a.ra1"_s),
               std::tuple(u"b"_s, Qt::Key_Return, 1, u"a.ra1"_s),
               std::tuple(u"A"_s, Qt::Key_Return, 0, u"A.ra1"_s),
+              std::tuple(u".a"_s, Qt::Key_Return, 1, u"a.ra1"_s),
+              std::tuple(u"Aux"_s, Qt::Key_Return, 1, u"a.ra1"_s),
               std::tuple(u"A\\/`~@#$%^&*:?\"<>|y"_s, Qt::Key_Return, 0, u"Ay.ra1"_s)}) {
             Tree tree({u"a.ra1"_s, u"b.ra1"_s});
             QVERIFY(tree.show());
@@ -284,21 +305,225 @@ private Q_SLOTS:
         QTRY_COMPARE(tree.sessions(), u"Days 2/d.ra1|v1.0/a.ra1|v1.0/deep/c.ra1"_s);
     }
 
+    // The answers to the questions, what stands afterwards and what is in the trash (if there is
+    // one), and words of the first question or, without one, of the message.
+    void deletes_data()
+    {
+        QTest::addColumn<QStringList>("chosen");
+        QTest::addColumn<QStringList>("answers");
+        QTest::addColumn<bool>("hasTrash");
+        QTest::addColumn<QString>("gone");
+        QTest::addColumn<QString>("words");
+        const QStringList yes {u"Yes"_s};
+        const QStringList two {u"a.ra1"_s, u"d"_s, u"d/e.ra1"_s};
+        QTest::newRow("two") << two << yes << true << u"a.ra1|d/.h|d/e.ra1|d/n.txt|d/s/f.ra1"_s
+                             << u"a.ra1, d\n\nRecordings: 3, other files: 1, hidden files: 1"_s;
+        QTest::newRow("no") << two << QStringList {u"Cancel"_s} << true << u""_s << u"a.ra1"_s;
+        QTest::newRow("for good") << two << yes + yes << false
+                                  << u"a.ra1|d/.h|d/e.ra1|d/n.txt|d/s/f.ra1"_s << u"trash?"_s;
+        QTest::newRow("not for good")
+            << two << yes + QStringList {u"Cancel"_s} << false << u""_s << u"Recordings: 3"_s;
+        QTest::newRow("logger's in it") << QStringList {u"l"_s} << yes << true << u"l/g.ra1"_s
+                                        << u"logger named it: ZUNO (1), zuno.txt"_s;
+        QTest::newRow("logger's in it, for good")
+            << QStringList {u"l"_s} << yes + yes << false << u"l/g.ra1"_s << u"Recordings: 1"_s;
+        QTest::newRow("logger's") << QStringList {u"a.ra1"_s, u"l/ZUNO (1)"_s} << yes << true
+                                  << u"a.ra1"_s << u"logger named it: ZUNO (1)"_s;
+        QTest::newRow("nothing but logger's") << QStringList {u"l/ZUNO (1)"_s} << QStringList()
+                                              << true << u""_s << u"named it: ZUNO (1)"_s;
+        QTest::newRow("in the logger's") << QStringList {u"l/ZUNO (1)/h.ra1"_s} << yes << true
+                                         << u"l/ZUNO (1)/h.ra1"_s << u"h.ra1"_s;
+        QTest::newRow("link") << QStringList {u"out"_s} << yes << true << u"out"_s << u"out"_s;
+        QTest::newRow("link, for good")
+            << QStringList {u"out"_s} << yes + yes << false << u"out"_s << u"out"_s;
+        QTest::newRow("through a link") << QStringList {u"out/x.ra1"_s} << QStringList() << true
+                                        << u""_s << u"not in your library: x.ra1"_s;
+    }
     void deletes()
     {
-        Tree tree({u"a.ra1"_s, u"b.ra1"_s, u"d/e.ra1"_s, u"d/f.ra1"_s});
+        QFETCH(const QStringList, chosen);
+        QFETCH(const QStringList, answers);
+        QFETCH(const bool, hasTrash);
+        QFETCH(const QString, gone);
+        QFETCH(const QString, words);
+        Tree tree({u"a.ra1"_s, u"d/.h"_s, u"d/e.ra1"_s, u"d/n.txt"_s, u"d/s/f.ra1"_s, u"l/g.ra1"_s,
+                   u"l/ZUNO (1)/h.ra1"_s, u"l/zuno.txt"_s, u"../else/x.ra1"_s});
+        QVERIFY(QFile::link(tree.path(u"../else"_s), tree.path(u"out"_s)));
+        qputenv("XDG_DATA_HOME", tree.root.path().toUtf8());
+        if (!hasTrash)
+            putFile(tree.root.filePath(u"Trash"_s), "in the way");
+        const QStringList all = namesIn(tree.folder());
+        tree.settings.setValue(Setting::LastFileSelected, tree.path(u"a.ra1"_s));
         QVERIFY(tree.show());
+        tree.select(chosen);
+        QCOMPARE(tree.view.selectionModel()->selectedRows().size(), chosen.size());
+        QString told;
         const QSignalSpy failed(&tree.tree, &LibraryTree::failed);
-        for (const auto &[button, left] : {std::pair(u"Cancel"_s, u"a.ra1|b.ra1|d/e.ra1|d/f.ra1"_s),
-                                           std::pair(u"Yes"_s, u"b.ra1"_s)}) {
-            tree.select({u"a.ra1"_s, u"d"_s, u"d/e.ra1"_s});
-            const Answer answer(pressing(button));
-            tree.press(Qt::Key_Delete);
-            QTRY_COMPARE(tree.sessions(), left);
-            for (const char *name : {"a.ra1", "d"})
-                QCOMPARE(QFile::exists(tree.path(QString::fromLatin1(name))), button == u"Cancel");
+        const Answer answer(
+            [&, next = 0](QDialog &dialog) mutable {
+                told += qobject_cast<QMessageBox *>(&dialog)->text();
+                pressing(answers.value(next++))(dialog);
+            },
+            static_cast<int>(answers.size()));
+        tree.press(Qt::Key_Delete);
+        QCOMPARE(answer.count, answers.size());
+        if (answers.isEmpty())
+            told = failed.value(0).value(0).toString();
+        QVERIFY2(told.contains(words), qPrintable(told));
+        QStringList left = all;
+        left.removeIf([&](const QString &name) { return gone.split(u'|').contains(name); });
+        QTRY_COMPARE(namesIn(tree.folder()), left);
+        QCOMPARE(QFile::exists(tree.root.filePath(u"else/x.ra1"_s)), true);
+        const QStringList trash = namesIn(tree.root.filePath(u"Trash/files"_s));
+        QCOMPARE(trash.size(), hasTrash && !gone.isEmpty() ? gone.split(u'|').size() : 0);
+        // What the program itself has emptied is no drive that was taken out.
+        QCOMPARE(tree.settings.value(Setting::LastFileSelected).toString().isEmpty(),
+                 gone.startsWith(u"a.ra1"));
+    }
+
+    // No folder, no tree: the view would show the whole computer.
+    void needsAFolder()
+    {
+        Tree tree({u"a.ra1"_s});
+        QVERIFY(tree.show());
+        for (const QString &folder : {u""_s, u"."_s, u"Sessions"_s, u"/"_s, u"//"_s, u"/../"_s}) {
+            tree.tree.setFolder(folder);
+            QVERIFY2(tree.view.model() == nullptr, qPrintable(folder));
+            tree.tree.select(u"/"_s);
+            for (const int key : {Qt::Key_Delete, Qt::Key_F2})
+                QVERIFY(!tree.press(key));
+            AcquisitionLibrary library;
+            library.load(folder);
+            QCOMPARE(library.size(), 0);
         }
-        QCOMPARE(failed.count(), 0);
+    }
+
+    // A drive that is taken out leaves nothing, or, where it is mounted, an empty folder.
+    void awayAndBack()
+    {
+        for (const bool leavesFolder : {false, true}) {
+            Tree tree({u"a.ra1"_s, u"d/b.ra1"_s});
+            tree.settings.setValue(Setting::LastFileSelected, tree.path(u"a.ra1"_s));
+            QVERIFY(tree.show());
+            const QSignalSpy changed(&tree.tree, &LibraryTree::folderChanged);
+            const QString drive = tree.root.filePath(u"drive"_s);
+            QVERIFY(QDir().rename(tree.folder(), drive));
+            if (leavesFolder)
+                QVERIFY(QDir().mkdir(tree.folder()));
+            QTRY_VERIFY(!tree.tree.isShown());
+            QTRY_COMPARE(tree.sessions(), u""_s);
+            QTRY_VERIFY(!changed.isEmpty());
+            const LibraryFolder folder(tree.folder(), tree.settings);
+            folder.makeFirst();
+            QCOMPARE(QDir(tree.folder()).exists(), leavesFolder);
+            QVERIFY(!folder.mayMakeIn(tree.folder()) && !folder.problem().isEmpty());
+            QTest::qWait(300);
+            QVERIFY(!tree.tree.isShown());
+            QVERIFY(!leavesFolder || QDir().rmdir(tree.folder()));
+            QVERIFY(QDir().rename(drive, tree.folder()));
+            QTRY_COMPARE(tree.sessions(), u"a.ra1|d/b.ra1"_s);
+            QTRY_VERIFY(tree.tree.isShown());
+            QTRY_COMPARE(tree.model().rowCount(tree.view.rootIndex()), 2);
+        }
+    }
+
+    // Only a first start makes the folder, and not where a drive may belong.
+    void firstFolder()
+    {
+        const QTemporaryDir root;
+        const Settings settings(root.path());
+        const QString standard = settings.acquisitionFolder();
+        for (const auto &[last, folder, isMade] :
+             {std::tuple(QString(standard + u"/a.ra1"), standard, false),
+              {u""_s, standard, true},
+              {u""_s, root.filePath(u"mount/x"_s), false},
+              {u""_s, root.filePath(u"x"_s), true},
+              {root.filePath(u"y/a.ra1"_s), root.filePath(u"y"_s), false}}) {
+            QDir(root.path()).mkpath(u"mount"_s);
+            QDir(root.path()).mkpath(QFileInfo(standard).path());
+            settings.setValue(Setting::LastFileSelected, last);
+            const LibraryFolder library(folder, settings);
+            library.makeFirst();
+            QCOMPARE(QDir(folder).exists(), isMade);
+            QCOMPARE(library.isReady(), isMade);
+        }
+    }
+
+    // Made before the library is loaded, or while the tree shows it.
+    void links()
+    {
+        for (const bool isLate : {false, true}) {
+            Tree tree({u"a.ra1"_s, u"d/b.ra1"_s, u"../else/x.ra1"_s, u"../else/deep/y.ra1"_s});
+            const auto link = [&tree](const QString &to, const QString &at) {
+                return QFile::link(to, tree.path(at));
+            };
+            QVERIFY(!isLate || tree.show());
+            QVERIFY(link(u"."_s, u"loop"_s) && link(u".."_s, u"up"_s) && link(u"/"_s, u"all"_s)
+                    && link(u"../a.ra1"_s, u"d/same.ra1"_s) && link(u"../d"_s, u"d/d"_s)
+                    && link(u"../else"_s, u"out"_s) && link(u"../else"_s, u"out 2"_s)
+                    && link(u"."_s, u"out/loop"_s));
+            if (!isLate) {
+                tree.library.load(tree.folder());
+                tree.tree.setFolder(tree.folder());
+            }
+            const QString sessions = u"a.ra1|d/b.ra1|out/deep/y.ra1|out/x.ra1"_s;
+            QTRY_COMPARE(tree.sessions().replace(u"out 2"_s, u"out"_s), sessions);
+            for (const QString &opened : {u"loop"_s, u"loop/loop"_s, u"up"_s, u"out/loop"_s}) {
+                QTRY_VERIFY(tree.index(opened).isValid());
+                tree.view.expand(tree.index(opened));
+            }
+            QTest::qWait(400);
+            QCOMPARE(tree.sessions().replace(u"out 2"_s, u"out"_s), sessions);
+        }
+    }
+
+    // As they come out of an old archive.
+    void unreadableNames()
+    {
+        for (const bool isLate : {false, true}) {
+            Tree tree({u"N\u00FCr.ra1"_s});
+            QVERIFY(!isLate || tree.show());
+            const QByteArray folder = QFile::encodeName(tree.folder());
+            const QByteArray bytes = fullSession().bytes();
+            for (const char *name : {"/N\xfcr.ra1", "/T\xe4g\x85/c.ra1"}) {
+                const std::filesystem::path path(folder.toStdString() + name);
+                std::filesystem::create_directories(path.parent_path());
+                std::ofstream(path, std::ios::binary) << bytes.toStdString();
+            }
+            if (!isLate)
+                tree.library.load(tree.folder());
+            QTRY_COMPARE(tree.sessions(), u"N\u00FCr (2).ra1|N\u00FCr.ra1|T\u00E4g_/c.ra1"_s);
+        }
+    }
+
+    // A key that is held down goes by; a single step, and what the program selects, is told.
+    void tellsTheLastOfARun()
+    {
+        QStringList names;
+        for (int i = 10; i < 40; ++i)
+            names.append(u"%1.ra1"_s.arg(i));
+        Tree tree(names);
+        QVERIFY(tree.show());
+        QTRY_COMPARE(tree.model().rowCount(tree.view.rootIndex()), names.size());
+        QTest::qWait(100);
+        QStringList told;
+        connect(&tree.tree, &LibraryTree::currentChanged, this, [&] {
+            told.append(tree.current());
+            QTest::qSleep(150);
+        });
+        tree.select({u"10.ra1"_s});
+        QCOMPARE(told, QStringList {u"10.ra1"_s});
+        for (int i = 1; i < 25; ++i) {
+            QTest::keyClick(&tree.view, Qt::Key_Down);
+            QTest::qWait(15);
+        }
+        QTRY_COMPARE(told.last(), u"34.ra1"_s);
+        QVERIFY2(told.size() <= 3, qPrintable(told.join(u' ')));
+        QTest::qWait(150);
+        told.clear();
+        QTest::keyClick(&tree.view, Qt::Key_Down);
+        QTest::qWait(20);
+        QCOMPARE(told, QStringList {u"35.ra1"_s});
     }
 
     void delegateTexts()

@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSplitter>
 
 #include <app/aboutwidget.h>
@@ -19,6 +20,7 @@
 #include <app/help.h>
 #include <app/makerlinks.h>
 #include <library/exportdialogs.h>
+#include <library/libraryfolder.h>
 #include <library/librarytree.h>
 #include <library/sessionimport.h>
 #include <library/upgradepass.h>
@@ -69,6 +71,9 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
         SessionSummary::Widgets {m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap,
                                  m_ui->pb_newMapHere, m_ui->lb_idealTime, m_ui->lb_traveledDistance,
                                  m_ui->lb_firstLapSelected, m_ui->tableWidget, m_ui->tw_tours});
+    m_chooseFolder = new QPushButton(tr("Choose another folder..."), m_ui->statePage);
+    connect(m_chooseFolder, &QPushButton::clicked, this, &ZunoAnalyzer::chooseFolder);
+    m_ui->statePageLayout->insertWidget(2, m_chooseFolder, 0, Qt::AlignHCenter);
     m_mapView = new MapViewController(this);
     m_mapView->init(this, m_ui->webview_layout);
     createActions();
@@ -156,6 +161,8 @@ void ZunoAnalyzer::connectParts()
     connect(m_tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
     connect(m_tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
     connect(m_tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
+    connect(m_tree, &LibraryTree::folderChanged, this, &ZunoAnalyzer::onFolderChanged);
+    connect(&m_library, &AcquisitionLibrary::noticed, this, &ZunoAnalyzer::tell);
     connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::joined, this,
@@ -217,16 +224,39 @@ void ZunoAnalyzer::openMapsFolder()
 void ZunoAnalyzer::openAcquisitionFolder()
 {
     const QString folder = m_settings.acquisitionFolder();
-    if (!QDir(folder).exists())
-        QDir().mkdir(folder);
+    LibraryFolder(folder, m_settings).makeFirst();
     loadAcquisitionsFolder(folder);
     m_settings.setValue(Setting::AcquisitionFolder, folder);
+}
+
+void ZunoAnalyzer::chooseFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Folder of your sessions"));
+    if (folder.isEmpty())
+        return;
+    // What was selected in a folder that was lost is no sign that this one was emptied.
+    m_settings.setValue(Setting::LastFileSelected, QString());
+    m_settings.setValue(Setting::AcquisitionFolder, folder);
+    m_library.reload(folder);
+    loadAcquisitionsFolder(folder);
+}
+
+void ZunoAnalyzer::onFolderChanged()
+{
+    if (m_tree->isShown())
+        loadAcquisitionsFolder(QString(m_tree->folder()));
+    else if (m_display.session() == nullptr)
+        showNothing();
 }
 
 void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
 {
     m_library.load(folder);
     m_tree->setFolder(folder);
+    if (!m_tree->isShown()) {
+        showNothing();
+        return;
+    }
     UpgradePass upgrade({m_library, *m_tree, m_display, m_writer, m_settings});
     // The tree lists files that were selected before their folder was loaded in the order of their
     // selection, so it starts anew.
@@ -474,6 +504,7 @@ void ZunoAnalyzer::showState(const QString &text)
     m_ui->lb_state->setText(text);
     const Session *session = m_display.session();
     m_ui->pb_newMap->setVisible(session != nullptr && session->sampleCount() > 0);
+    m_chooseFolder->setVisible(!m_tree->isShown());
     m_ui->lapsStack->setCurrentWidget(m_ui->statePage);
 }
 
@@ -488,12 +519,9 @@ void ZunoAnalyzer::showNothing()
 
 QString ZunoAnalyzer::emptyState() const
 {
-    if (!QDir(m_settings.acquisitionFolder()).exists()) {
-        return tr("The folder of your sessions is not there any more: it was moved, or its drive "
-                  "was "
-                  "taken out.\n\n%1")
-            .arg(QDir::toNativeSeparators(m_settings.acquisitionFolder()));
-    }
+    const QString problem = LibraryFolder(m_settings.acquisitionFolder(), m_settings).problem();
+    if (!problem.isEmpty())
+        return problem;
     if (m_library.size() == 0) {
         return tr("There are no sessions yet.\n\nDrop the session files (.ra1) of your logger "
                   "here, choose them with \"Import\" (Ctrl+I), or copy them to\n%1")

@@ -16,6 +16,7 @@
 #include <library/sessiondisplay.h>
 #include <views/laps/lapselection.h>
 
+class QPushButton;
 class QSplitter;
 
 namespace zuno {
@@ -91,6 +92,8 @@ private:
     void connectParts();
     void openMapsFolder();
     void openAcquisitionFolder();
+    void chooseFolder();
+    void onFolderChanged();
     void showSession(Session *session);
     void showState(const QString &text);
     void showNothing();
@@ -120,6 +123,7 @@ private:
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
     SessionImport *m_import = nullptr;
+    QPushButton *m_chooseFolder = nullptr;
     bool m_isUpgrading = false;
     std::array<QSplitter *, 4> m_splitters {};
 };

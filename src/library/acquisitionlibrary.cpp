@@ -8,20 +8,11 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QDirIterator>
 
+#include <library/libraryfolder.h>
 #include <session/sessionfile.h>
 
 namespace zuno {
-
-namespace {
-
-bool isAtOrBelow(const QString &path, const QString &folder)
-{
-    return path == folder || path.startsWith(folder + u'/');
-}
-
-} // namespace
 
 AcquisitionLibrary::Said::Said(const Session &session)
     : path(session.filePath())
@@ -55,18 +46,54 @@ AcquisitionLibrary::~AcquisitionLibrary() = default;
 
 void AcquisitionLibrary::load(const QString &folder)
 {
-    // Clean paths: they are compared with those of the file tree.
-    QDirIterator files(QDir::cleanPath(folder), QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        if (path.endsWith(Suffix) && indexOf(path) < 0)
-            append(path, "loadAcquisitionsFolder");
+    const LibraryFolder root(folder);
+    if (root.isReady()) {
+        while (makeNamesReadable(root)) {}
+        loadBelow(root);
     }
     tell();
 }
 
+void AcquisitionLibrary::loadBelow(const LibraryFolder &root)
+{
+    const QStringList folders = root.foldersFrom(root.path());
+    for (const QString &folder : folders) {
+        const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
+        for (const QString &name : names) {
+            const QString path = folder + u'/' + name;
+            if (name.endsWith(Suffix) && indexOf(path) < 0)
+                append(path, "loadAcquisitionsFolder");
+        }
+    }
+}
+
+// True when there may be more: nobody has looked into the folders that were renamed.
+bool AcquisitionLibrary::makeNamesReadable(const LibraryFolder &root)
+{
+    bool isRenamed = false;
+    const QStringList folders = root.foldersFrom(root.path());
+    for (const QString &folder : folders)
+        isRenamed = makeNamesReadable(root, folder) || isRenamed;
+    return isRenamed;
+}
+
+bool AcquisitionLibrary::makeNamesReadable(const LibraryFolder &root, const QString &folder)
+{
+    const QStringList renamed
+        = root.mayMakeIn(folder) ? zuno::makeNamesReadable(folder) : QStringList();
+    for (const QString &path : renamed) {
+        Q_EMIT noticed(tr("A name in your library could not be read; it is \"%1\" now.")
+                           .arg(QFileInfo(path).fileName()));
+    }
+    return !renamed.isEmpty();
+}
+
 Session *AcquisitionLibrary::append(const QString &path, const char *caller)
 {
+    // Links lead to a file by several paths.
+    const QString file = QFileInfo(path).canonicalFilePath();
+    if (Session *known = m_files.value(file))
+        return known;
     // Before it is read: what somebody writes meanwhile is not taken for known.
     const FileStamp stamp = FileStamp::of(QFileInfo(path));
     OpenedSession opened = openSession(path);
@@ -77,6 +104,7 @@ Session *AcquisitionLibrary::append(const QString &path, const char *caller)
     }
     m_sessions.push_back(std::move(opened.session));
     m_stamps.insert(m_sessions.back().get(), stamp);
+    m_files.insert(file, m_sessions.back().get());
     return m_sessions.back().get();
 }
 
@@ -130,8 +158,9 @@ Session *AcquisitionLibrary::add(const QString &path, const char *caller)
     const QString clean = QDir::cleanPath(path);
     if (Session *known = find(clean))
         return known;
+    const qsizetype before = size();
     Session *session = append(clean, caller);
-    if (session != nullptr)
+    if (size() != before)
         tell();
     return session;
 }
@@ -143,6 +172,7 @@ void AcquisitionLibrary::remove(Session *session)
         return;
     Q_EMIT sessionAboutToBeRemoved(session);
     m_stamps.remove(session);
+    m_files.removeIf([session](const auto &file) { return file.value() == session; });
     m_sessions.erase(m_sessions.begin() + index);
     tell();
 }
@@ -162,8 +192,11 @@ void AcquisitionLibrary::movePath(const QString &from, const QString &to)
 {
     for (const auto &session : m_sessions) {
         const QString path = session->filePath();
-        if (isAtOrBelow(path, from))
-            session->setFilePath(to + path.mid(from.size()));
+        if (!isAtOrBelow(path, from))
+            continue;
+        session->setFilePath(to + path.mid(from.size()));
+        m_files.removeIf([&session](const auto &file) { return file.value() == session.get(); });
+        m_files.insert(QFileInfo(session->filePath()).canonicalFilePath(), session.get());
     }
     tell();
 }
@@ -177,6 +210,7 @@ void AcquisitionLibrary::reload(const QString &folder)
     }
     m_sessions.clear();
     m_stamps.clear();
+    m_files.clear();
     load(folder);
     for (const Said &one : said) {
         if (Session *again = find(one.path))

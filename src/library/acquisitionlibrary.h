@@ -19,6 +19,8 @@
 
 namespace zuno {
 
+class LibraryFolder;
+
 /// The sessions of the acquisition folder, in the order in which they were loaded. Owns them.
 ///
 /// Files that give no session, or one without samples, are left out and named in the log.
@@ -33,10 +35,12 @@ public:
     explicit AcquisitionLibrary(QObject *parent = nullptr);
     ~AcquisitionLibrary() override;
 
-    /// Loads every session file below @p folder that is not loaded yet.
+    /// Loads every session file below @p folder that is not loaded yet. Nothing is loaded from a
+    /// folder that no library can be in.
     void load(const QString &folder);
     /// Loads one file and appends its session; nullptr, and a message in the log that begins with
-    /// @p caller, when it gives none. A file that is loaded already gives its session.
+    /// @p caller, when it gives none. A file that is loaded already, be it by another path, gives
+    /// its session.
     Session *add(const QString &path, const char *caller);
     /// Loads a session's file again when somebody else has changed it since it was loaded or
     /// noteWritten; the session is then another one. True when it was changed.
@@ -53,6 +57,9 @@ public:
     void removeAt(const QString &path);
     /// Tells the sessions at @p from, or below it, that their files stand at @p to now.
     void movePath(const QString &from, const QString &to);
+    /// Gives files and folders of @p folder in the library @p root names that can be shown, where
+    /// theirs cannot, and tells. True when there were any.
+    bool makeNamesReadable(const LibraryFolder &root, const QString &folder);
     /// Lets go of every session and loads them again; what the rider has said about them, and could
     /// not be written so far, stays.
     void reload(const QString &folder);
@@ -74,6 +81,8 @@ Q_SIGNALS:
     void sessionAboutToBeRemoved(zuno::Session *session);
     /// Sessions came or went.
     void sessionsChanged();
+    /// A message for the rider.
+    void noticed(const QString &message);
 
 private:
     /// Tells whether a file is still the one that was read.
@@ -98,11 +107,15 @@ private:
         StoredState edited;
     };
 
+    void loadBelow(const LibraryFolder &root);
+    bool makeNamesReadable(const LibraryFolder &root);
     Session *append(const QString &path, const char *caller);
     void tell();
 
     std::vector<std::unique_ptr<Session>> m_sessions;
     QHash<const Session *, FileStamp> m_stamps;
+    /// The sessions by where their files stand without links.
+    QHash<QString, Session *> m_files;
     int m_bundles = 0;
     bool m_isUntold = false;
 };

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <utility>
 
-#include <QDir>
 #include <QDirIterator>
 
 #include <library/acquisitionlibrary.h>
@@ -42,15 +41,30 @@ FolderSync::FolderSync(AcquisitionLibrary &library, QObject *parent)
     });
 }
 
-void FolderSync::setRoot(const QString &root)
+void FolderSync::setRoot(const LibraryFolder &root)
 {
+    if (m_root.path() != root.path()) {
+        m_waiting.clear();
+        m_restless.clear();
+    }
     m_root = root;
     m_contents.clear();
+    m_wasRootMissing = !root.isReady();
+    if (m_wasRootMissing && root.state() != LibraryFolder::State::NoPath)
+        look(root.path());
+}
+
+void FolderSync::loseRoot()
+{
+    m_contents.clear();
+    m_wasRootMissing = true;
+    Q_EMIT rootLost();
+    look(m_root.path());
 }
 
 void FolderSync::look(const QString &folder)
 {
-    m_waiting.insert(folder.startsWith(m_root + u'/') ? folder : m_root);
+    m_waiting.insert(isAtOrBelow(folder, m_root.path()) ? folder : m_root.path());
     // Not started anew: a folder that never rests is looked at, too.
     if (!m_soon.isActive())
         m_soon.start(Soon);
@@ -59,11 +73,9 @@ void FolderSync::look(const QString &folder)
 // The tree looks into a folder only when it is opened.
 void FolderSync::lookBelow(const QString &folder)
 {
-    look(folder);
-    QDirIterator folders(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
-                         QDirIterator::Subdirectories);
-    while (folders.hasNext())
-        look(folders.next());
+    const QStringList folders = m_root.foldersFrom(folder);
+    for (const QString &below : folders)
+        look(below);
 }
 
 void FolderSync::lookAtAll()
@@ -86,12 +98,14 @@ void FolderSync::lookAtAll()
 // Nobody tells when it comes back, so it is asked for.
 bool FolderSync::isRootMissing()
 {
-    if (!QFileInfo::exists(m_root)) {
-        m_wasRootMissing = true;
+    const bool wasMissing = std::exchange(m_wasRootMissing, !m_root.isReady());
+    if (m_wasRootMissing) {
         m_contents.clear();
-        m_library.removeAt(m_root);
-        m_restless.insert(m_root);
-    } else if (std::exchange(m_wasRootMissing, false)) {
+        m_library.removeAt(m_root.path());
+        m_restless.insert(m_root.path());
+        if (!wasMissing)
+            Q_EMIT rootLost();
+    } else if (wasMissing) {
         Q_EMIT rootReturned();
     }
     return m_wasRootMissing;
@@ -104,6 +118,10 @@ void FolderSync::lookAt(const QString &folder, const Sessions &known)
         m_library.removeAt(folder);
         return;
     }
+    // The rider may have opened a link that leads back into the library.
+    if (!m_root.isEntered(QFileInfo(folder)))
+        return;
+    m_library.makeNamesReadable(m_root, folder);
     const bool isKnown = m_contents.contains(folder);
     const Contents before = m_contents.value(folder);
     Contents now;
@@ -112,6 +130,8 @@ void FolderSync::lookAt(const QString &folder, const Sessions &known)
         const QString path = entries.next();
         const QFileInfo entry = entries.fileInfo();
         if (entry.isDir()) {
+            if (entry.isSymLink() && !m_root.isEntered(entry))
+                continue;
             now.insert(path, {});
             if (isKnown ? !before.contains(path) : !hasBelow(known, path))
                 lookBelow(path);

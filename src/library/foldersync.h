@@ -11,6 +11,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <library/libraryfolder.h>
+
 namespace zuno {
 
 class AcquisitionLibrary;
@@ -28,8 +30,11 @@ class FolderSync : public QObject
 public:
     explicit FolderSync(AcquisitionLibrary &library, QObject *parent = nullptr);
 
-    /// The folder of all sessions; nothing outside is looked at.
-    void setRoot(const QString &root);
+    /// The folder of all sessions; nothing outside is looked at. While it is not there, it is
+    /// waited for.
+    void setRoot(const LibraryFolder &root);
+    /// Takes the root for lost, whatever may stand there by now.
+    void loseRoot();
     /// Looks at @p folder soon: at its files, whether the folders in it are still there, and at all
     /// that is in new ones.
     void look(const QString &folder);
@@ -37,6 +42,8 @@ public:
 Q_SIGNALS:
     /// The file of a session is another one now.
     void fileChanged(const QString &path);
+    /// The root is not there any more.
+    void rootLost();
     /// The root was away, and is there again.
     void rootReturned();
 
@@ -60,7 +67,7 @@ private:
     [[nodiscard]] bool isRootMissing();
 
     AcquisitionLibrary &m_library;
-    QString m_root;
+    LibraryFolder m_root;
     bool m_wasRootMissing = false;
     QTimer m_soon;
     QTimer m_again;

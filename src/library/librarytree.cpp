@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include <QAction>
-#include <QDir>
+#include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
 #include <QInputDialog>
@@ -20,8 +20,10 @@
 #include <QTreeView>
 
 #include <base/settings.h>
+#include <base/trash.h>
 #include <library/acquisitionlibrary.h>
 #include <library/customfilesystemmodeldelegate.h>
+#include <library/deletion.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -30,6 +32,9 @@ namespace {
 
 // Blanks after a label make its dialog wide enough for a session's name.
 constexpr int LabelPadding = 60;
+
+// Longer than from one step to the next while a key is held down; ms.
+constexpr int StepTime = 120;
 
 QString padded(const QString &label)
 {
@@ -52,6 +57,22 @@ QString askForName(QWidget *parent, const QString &title, const QString &label,
     }
     accepted = dialog.exec() == QDialog::Accepted;
     return dialog.textValue();
+}
+
+// Such a file would vanish from the tree, or could not be copied to every other computer.
+QString whyNoName(const QString &name)
+{
+    static const QRegularExpression reserved(
+        QStringLiteral("^(?:con|prn|aux|nul|com[0-9]|lpt[0-9])(?:\\.|$)|[. ]$"),
+        QRegularExpression::CaseInsensitiveOption);
+    if (name.startsWith(u'.'))
+        return LibraryTree::tr("A name that begins with a dot is hidden; nothing was changed.");
+    if (name.contains(reserved)) {
+        return LibraryTree::tr(
+                   "\"%1\" is a name that not every computer takes; nothing was changed.")
+            .arg(name);
+    }
+    return {};
 }
 
 bool haveSameMap(const QList<Session *> &sessions)
@@ -88,12 +109,14 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
           makeAction(tr("Compute multisession ideal time"), QStringLiteral("compute.png"), {}))
 {
     m_view.setItemDelegate(m_delegate);
+    m_view.installEventFilter(this);
     m_view.setToolTip(tr("Enter displays a session, F2 renames, Del deletes"));
     connect(&m_sync, &FolderSync::fileChanged, this, &LibraryTree::fileChanged);
-    // The model goes on watching the folder that was moved away.
-    connect(
-        &m_sync, &FolderSync::rootReturned, this, [this] { setFolder(m_folder); },
-        Qt::QueuedConnection);
+    connect(&m_sync, &FolderSync::rootLost, this, &LibraryTree::hideFolder, Qt::QueuedConnection);
+    connect(&m_sync, &FolderSync::rootReturned, this, &LibraryTree::showFolder,
+            Qt::QueuedConnection);
+    m_settling.setSingleShot(true);
+    connect(&m_settling, &QTimer::timeout, this, &LibraryTree::tellCurrent);
     connect(m_rename, &QAction::triggered, this, &LibraryTree::renameCurrent);
     connect(m_delete, &QAction::triggered, this, &LibraryTree::deleteSelected);
     connect(m_newFolder, &QAction::triggered, this, &LibraryTree::createFolder);
@@ -130,19 +153,54 @@ QAction *LibraryTree::makeAction(const QString &text, const QString &icon,
 
 void LibraryTree::setFolder(const QString &folder)
 {
-    m_folder = QDir::cleanPath(folder);
+    m_folder = LibraryFolder(folder, m_settings);
     m_sync.setRoot(m_folder);
-    m_isRestored = false;
+    if (m_folder.isReady())
+        listFolder();
+    else
+        dropModel();
+}
+
+void LibraryTree::showFolder()
+{
+    // The model goes on watching the folder that was moved away.
+    if (m_folder.isReady()) {
+        listFolder();
+        Q_EMIT folderChanged();
+    }
+}
+
+void LibraryTree::hideFolder()
+{
+    dropModel();
+    Q_EMIT folderChanged();
+}
+
+// A model without its folder shows the whole computer.
+void LibraryTree::dropModel()
+{
+    m_settling.stop();
     m_view.setModel(nullptr);
+    if (!m_model)
+        return;
+    // It may be the model that has told.
+    m_model->disconnect(this);
+    m_model.release()->deleteLater();
+}
+
+void LibraryTree::listFolder()
+{
+    dropModel();
+    m_isRestored = false;
     m_model = std::make_unique<QFileSystemModel>();
     m_model->setIconProvider(&m_icons);
     m_model->setReadOnly(false);
     m_model->setNameFilters({QStringLiteral("*.ra1")});
     m_model->setNameFilterDisables(false);
-    m_model->setRootPath(m_folder);
+    m_model->setRootPath(folder());
     m_model->sort(0);
     updateViewedStates();
-    const QModelIndex root = m_model->index(m_folder);
+    const QModelIndex root = m_model->index(folder());
     m_view.setModel(m_model.get());
     m_view.setRootIndex(root);
     m_view.setCurrentIndex(root);
@@ -155,13 +213,8 @@ void LibraryTree::setFolder(const QString &folder)
 
 void LibraryTree::connectModel()
 {
-    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        // From here on the rider decides what is selected. When the selected file vanishes, its
-        // neighbour becomes current, but nobody has asked to see it.
-        m_isRestored = true;
-        if (m_view.selectionModel()->hasSelection())
-            Q_EMIT currentChanged();
-    });
+    connect(m_view.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &LibraryTree::onSelectionChanged);
     connect(m_model.get(), &QFileSystemModel::directoryLoaded, this, [this](const QString &folder) {
         restoreSelection();
         // It is also listed again because something in it has changed.
@@ -175,9 +228,40 @@ void LibraryTree::connectModel()
         m_model.get(), &QFileSystemModel::dataChanged, this,
         [this](const QModelIndex &topLeft) { m_sync.look(m_model->filePath(topLeft.parent())); });
     for (const auto signal : {&QFileSystemModel::rowsInserted, &QFileSystemModel::rowsRemoved}) {
-        connect(m_model.get(), signal, this,
-                [this](const QModelIndex &parent) { m_sync.look(m_model->filePath(parent)); });
+        connect(m_model.get(), signal, this, [this](const QModelIndex &parent) {
+            m_sync.look(m_model->filePath(parent));
+            if (!m_view.rootIndex().isValid()) {
+                dropModel();
+                m_sync.loseRoot();
+            }
+        });
     }
+}
+
+// A session takes a while to be worked on, and a key that is held down selects thirty a second:
+// of such a run only the one at which the rider stops is told.
+void LibraryTree::onSelectionChanged()
+{
+    // From here on the rider decides what is selected. When the selected file vanishes, its
+    // neighbour becomes current, but nobody has asked to see it.
+    m_isRestored = true;
+    const auto isRecent = [](const QElapsedTimer &since) {
+        return since.isValid() && !since.hasExpired(StepTime);
+    };
+    if (isRecent(m_sinceKey) && isRecent(m_sinceChange))
+        m_settling.start(StepTime);
+    else
+        tellCurrent();
+    m_sinceChange.start();
+}
+
+void LibraryTree::tellCurrent()
+{
+    m_settling.stop();
+    if (m_view.selectionModel() != nullptr && m_view.selectionModel()->hasSelection())
+        Q_EMIT currentChanged();
+    // The work on it is no pause between two keys.
+    m_sinceChange.start();
 }
 
 void LibraryTree::updateViewedStates()
@@ -200,18 +284,32 @@ bool LibraryTree::isCurrentFile() const
 
 void LibraryTree::select(const QString &path)
 {
-    selectOnly(path);
+    if (!m_model)
+        return;
     m_wanted = path;
-    m_view.scrollTo(m_model->index(path));
+    selectOnly(path);
+    if (m_model)
+        m_view.scrollTo(m_model->index(path));
 }
 
 void LibraryTree::selectOnly(const QString &path)
 {
+    if (!m_model)
+        return;
     const QModelIndex index = m_model->index(path);
     // Current before it is selected: what listens to the selection asks for the current item.
     m_view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
     m_view.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect
                                                | QItemSelectionModel::Rows);
+    if (m_settling.isActive())
+        tellCurrent();
+}
+
+bool LibraryTree::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress)
+        m_sinceKey.start();
+    return QObject::eventFilter(watched, event);
 }
 
 void LibraryTree::restoreSelection()
@@ -242,16 +340,20 @@ QList<Session *> LibraryTree::selectedSessions() const
     return sessions;
 }
 
-// The folders and files that the logger itself names stay as they are, and so does the library's
-// own folder, which is current until something in it is.
-bool LibraryTree::isProtected(const QString &path) const
+QStringList LibraryTree::selectedPaths() const
 {
-    return path == m_folder || QFileInfo(path).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+    QStringList paths;
+    const QModelIndexList rows = selectedRows();
+    for (const QModelIndex &row : rows)
+        paths.append(m_model->filePath(row));
+    return paths;
 }
 
+// The library's own folder is current until something in it is.
 bool LibraryTree::isCurrentProtected() const
 {
-    return isProtected(currentPath());
+    const QString path = currentPath();
+    return LibraryFolder::isLoggers(path) || !m_folder.mayChange(path);
 }
 
 void LibraryTree::fillMenu(QMenu &menu)
@@ -304,8 +406,7 @@ bool LibraryTree::handleKey(const QKeyEvent &event)
             renameCurrent();
         return true;
     case Qt::Key_Delete:
-        if (!isCurrentProtected())
-            deleteSelected();
+        deleteSelected();
         return true;
     case Qt::Key_N:
         if (event.modifiers() != (Qt::ControlModifier | Qt::ShiftModifier))
@@ -332,7 +433,10 @@ void LibraryTree::renameCurrent()
         return;
     if (isFile)
         newName += AcquisitionLibrary::Suffix;
-    rename(path, newName);
+    if (const QString reason = whyNoName(newName); !reason.isEmpty())
+        Q_EMIT failed(reason);
+    else if (m_model)
+        rename(path, newName);
 }
 
 void LibraryTree::rename(const QString &from, const QString &newName)
@@ -342,7 +446,7 @@ void LibraryTree::rename(const QString &from, const QString &newName)
     if (to == from)
         return;
     const bool taken = QFileInfo::exists(to);
-    if (taken || !m_model->setData(index, newName, Qt::EditRole)) {
+    if (taken || !m_folder.mayChange(from) || !m_model->setData(index, newName, Qt::EditRole)) {
         Q_EMIT failed(taken ? tr("There is a \"%1\" already; nothing was renamed.").arg(newName)
                             : tr("\"%1\" could not be renamed.").arg(QFileInfo(from).fileName()));
         return;
@@ -350,7 +454,7 @@ void LibraryTree::rename(const QString &from, const QString &newName)
     m_library.movePath(from, to);
     if (QFileInfo(to).isDir()) {
         // The model goes on watching a renamed folder under its old name.
-        setFolder(m_folder);
+        setFolder(QString(folder()));
         select(to);
     }
     const QString last = m_settings.value(Setting::LastFileSelected).toString();
@@ -366,39 +470,72 @@ void LibraryTree::rename(const QString &from, const QString &newName)
 
 void LibraryTree::deleteSelected()
 {
-    QStringList paths;
-    const QModelIndexList rows = selectedRows();
-    for (const QModelIndex &row : rows)
-        paths.append(m_model->filePath(row));
-    paths.removeIf([this](const QString &path) { return isProtected(path); });
-    if (paths.isEmpty())
-        return;
-    QMessageBox box(QMessageBox::Warning, tr("Delete"),
-                    tr("Are you sure you want to delete the selected files PERMANENTLY (not moved "
-                       "into the trash bin)?"),
-                    QMessageBox::NoButton, m_view.window());
+    const QStringList chosen = selectedPaths();
+    const Deletion deletion(m_folder, chosen);
+    if (deletion.goes().isEmpty()) {
+        if (!chosen.isEmpty())
+            Q_EMIT failed(deletion.remainder());
+    } else if (ask(tr("Do you want to move this to the trash?") + u"\n\n"
+                   + deletion.description())) {
+        remove(deletion);
+    }
+}
+
+void LibraryTree::remove(const Deletion &deletion)
+{
+    QStringList left = deletion.carryOut(m_folder, moveToTrash);
+    if (!left.isEmpty()) {
+        const Deletion rest(m_folder, left);
+        const QString question = tr("Are you sure you want to delete the selected files "
+                                    "PERMANENTLY (not moved into the trash bin)?");
+        if (ask(tr("There is no trash that takes this:") + u' ' + rest.description() + u"\n\n"
+                + question))
+            left = rest.carryOut(m_folder, Deletion::removeForGood);
+        else
+            left.clear();
+    }
+    forgetDeleted();
+    m_sync.look(folder());
+    for (const QString &path : std::as_const(left))
+        Q_EMIT failed(tr("\"%1\" could not be deleted.").arg(QFileInfo(path).fileName()));
+    if (left.isEmpty() && !deletion.remainder().isEmpty())
+        Q_EMIT failed(deletion.remainder());
+}
+
+bool LibraryTree::ask(const QString &question)
+{
+    QMessageBox box(QMessageBox::Warning, tr("Delete"), question, QMessageBox::NoButton,
+                    m_view.window());
+    // Names of files are no markup.
+    box.setTextFormat(Qt::PlainText);
     const QPushButton *yes = box.addButton(tr("Yes"), QMessageBox::YesRole);
     box.setDefaultButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
     box.exec();
-    if (box.clickedButton() != yes)
-        return;
-    for (const QString &path : std::as_const(paths)) {
-        const QSignalBlocker blocker(m_model.get());
-        // A file inside a folder that was deleted before it is gone already.
-        if (QFileInfo::exists(path) && !m_model->remove(m_model->index(path)))
-            Q_EMIT failed(tr("\"%1\" could not be deleted.").arg(QFileInfo(path).fileName()));
-    }
+    return box.clickedButton() == yes;
+}
+
+// A library that the rider has emptied is no drive that was taken out.
+void LibraryTree::forgetDeleted()
+{
+    const QString last = m_settings.value(Setting::LastFileSelected).toString();
+    if (isAtOrBelow(last, folder()) && QFileInfo(folder()).isDir() && !QFileInfo::exists(last))
+        m_settings.setValue(Setting::LastFileSelected, QString());
 }
 
 void LibraryTree::createFolder()
 {
     const QString path = currentPath();
-    if (path.isEmpty() || isCurrentFile())
+    if (isCurrentFile() || !m_folder.mayMakeIn(path))
         return;
     bool accepted = false;
     const QString name
         = askForName(m_view.window(), tr("Create new folder"), tr("Folder name :"), {}, accepted);
-    if (accepted && !name.isEmpty() && !m_model->mkdir(m_model->index(path), name).isValid())
+    if (!accepted || name.isEmpty())
+        return;
+    if (const QString reason = whyNoName(name); !reason.isEmpty())
+        Q_EMIT failed(reason);
+    else if (!m_model || !m_folder.mayMakeIn(path)
+             || !m_model->mkdir(m_model->index(path), name).isValid())
         Q_EMIT failed(tr("The folder \"%1\" could not be created.").arg(name));
 }
 

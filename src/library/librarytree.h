@@ -5,12 +5,15 @@
 
 #include <memory>
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QModelIndex>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <library/foldersync.h>
+#include <library/libraryfolder.h>
 #include <library/recordingicons.h>
 
 class QAction;
@@ -22,6 +25,7 @@ class QTreeView;
 namespace zuno {
 
 class AcquisitionLibrary;
+class Deletion;
 class CustomFileSystemModelDelegate;
 class Session;
 class Settings;
@@ -36,9 +40,11 @@ public:
     LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Settings &settings);
     ~LibraryTree() override;
 
-    /// Shows @p folder.
+    /// Shows @p folder as soon as it is there; until then, nothing.
     void setFolder(const QString &folder);
-    [[nodiscard]] const QString &folder() const { return m_folder; }
+    [[nodiscard]] const QString &folder() const { return m_folder.path(); }
+    /// Whether the folder is there and its files are shown.
+    [[nodiscard]] bool isShown() const { return m_model != nullptr; }
     /// Paints the sessions as the library says they were opened.
     void updateViewedStates();
 
@@ -62,7 +68,9 @@ public:
     void createFolder();
 
 Q_SIGNALS:
-    /// Another item has become current.
+    /// The folder is there again, or is not there any more.
+    void folderChanged();
+    /// Another item has become current; of many in a row, the last.
     void currentChanged();
     /// A file's size or time has changed on the disk.
     void fileChanged(const QString &path);
@@ -72,14 +80,26 @@ Q_SIGNALS:
     /// Something that the rider asked for could not be done.
     void failed(const QString &message);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
+    void showFolder();
+    void hideFolder();
+    void listFolder();
+    void dropModel();
     void connectModel();
+    void onSelectionChanged();
+    void tellCurrent();
     void restoreSelection();
     void rename(const QString &from, const QString &newName);
     [[nodiscard]] QModelIndexList selectedRows() const;
     [[nodiscard]] QList<Session *> selectedSessions() const;
-    [[nodiscard]] bool isProtected(const QString &path) const;
+    [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] bool isCurrentProtected() const;
+    [[nodiscard]] bool ask(const QString &question);
+    void remove(const Deletion &deletion);
+    void forgetDeleted();
     QAction *makeAction(const QString &text, const QString &icon, const QKeySequence &shortcut);
 
     QTreeView &m_view;
@@ -89,7 +109,10 @@ private:
     RecordingIcons m_icons;
     std::unique_ptr<QFileSystemModel> m_model;
     CustomFileSystemModelDelegate *m_delegate;
-    QString m_folder;
+    LibraryFolder m_folder;
+    QTimer m_settling;
+    QElapsedTimer m_sinceKey;
+    QElapsedTimer m_sinceChange;
     /// The file that was to be scrolled to last.
     QString m_wanted;
     QAction *m_rename;
