@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <sys/stat.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
@@ -97,28 +99,109 @@ private Q_SLOTS:
         putFile(outfit.folder.filePath(u"there.ra1"_s), present);
         putFile(outfit.folder.filePath(u"taken.ra1"_s), present);
         QFile::setPermissions(outfit.put(u"first.ra1"_s, recorded("10:11:12")), QFile::ReadOwner);
-        outfit.put(u"all/UPPER.RA1"_s, recorded("10:11:12"));
+        outfit.put(u"all/UPPER.RA1"_s, recorded("10:11:13"));
         outfit.put(u"all/there.ra1"_s, recorded("08:00:00"));
         outfit.put(u"all/deep/taken.ra1"_s, recorded("09:00:00"));
         outfit.put(u"all/deep/<b>.ra1"_s, "no session");
         outfit.put(u"all/photo.jpg"_s, "photo");
+        outfit.put(u".ride.bak"_s, recorded("11:00:00"));
         outfit.put(u"a.txt"_s, "text");
+        QCOMPARE(::mkfifo(QFile::encodeName(outfit.card.filePath(u"pipe.ra1"_s)), 0600), 0);
+        QFile::link(u"/dev/zero"_s, outfit.card.filePath(u"zero.ra1"_s));
         QCOMPARE(outfit.drop(outfit.field, {u"a.txt"_s}), u"nothing"_s);
         QCOMPARE(outfit.drop(outfit.field, {u"all"_s}, Qt::MoveAction), u"nothing"_s);
-        QCOMPARE(outfit.drop(outfit.field, {u"first.ra1"_s, u"all"_s, u"a.txt"_s, u"none.ra1"_s}),
-                 u"Imported: 2, already there: 1, no session files: 2, "
-                 "another session has the name: 1, could not be copied: 1"_s);
+        const QStringList dropped {u"first.ra1"_s, u"all"_s,      u"a.txt"_s,   u".ride.bak"_s,
+                                   u"none.ra1"_s,  u"pipe.ra1"_s, u"zero.ra1"_s};
+        QCOMPARE(outfit.drop(outfit.field, dropped),
+                 u"Imported: 4, already there: 1, no session files: 2, under another name: 1, "
+                 "could not be copied: 3"_s);
         QCOMPARE(outfit.field.text(), QString());
-        for (const auto *name : {u"&lt;b&gt;.ra1", u"a.txt", u"taken.ra1", u"none.ra1"})
+        for (const auto *name : {u"&lt;b&gt;.ra1", u"a.txt", u"taken (2).ra1", u"none.ra1"})
             QVERIFY(outfit.result.details().contains(name));
-        QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '),
-                 u"<b>.ra1 UPPER.ra1 first.ra1 taken.ra1 there.ra1"_s);
+        const QString all = u"UPPER.ra1 first.ra1 ride.bak.ra1 taken (2).ra1 taken.ra1 there.ra1"_s;
+        QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '), all);
         QCOMPARE(contents(outfit.folder.filePath(u"there.ra1"_s)), present);
         QCOMPARE(contents(outfit.folder.filePath(u"taken.ra1"_s)), present);
         const QString first = outfit.library.at(0)->filePath();
         QCOMPARE(first, outfit.folder.filePath(u"first.ra1"_s));
         QCOMPARE(contents(first), recorded("10:11:12"));
         QVERIFY(QFile::permissions(first).testFlag(QFile::WriteOwner));
+        // The numbered one is known as well.
+        QVERIFY(outfit.drop(outfit.field, dropped).startsWith(u"Imported: 0, already there: 5"));
+        QCOMPARE(outfit.folder.entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' '), all);
+    }
+
+    // What stands in the library under the name already: so many bytes of the same recording, or
+    // something else; and whether it is replaced, kept beside the other, or all there is to have.
+    void sameName_data()
+    {
+        QTest::addColumn<QByteArray>("present");
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("summary");
+        const QByteArray whole = fullSession().bytes();
+        const QString replaced = u"Imported: 1, already there: 0, no session files: 0"_s;
+        const QString present = u"Imported: 0, already there: 1, no session files: 0"_s;
+        const QString beside = replaced + u", under another name: 1";
+        for (const qsizetype size : {qsizetype(0), qsizetype(3), qsizetype(30), qsizetype(60),
+                                     whole.size() - 200, whole.size() - 1}) {
+            QTest::addRow("%d bytes", int(size)) << whole.first(size) << whole << replaced;
+            if (size > 30)
+                QTest::addRow("only %d bytes", int(size)) << whole << whole.first(size) << present;
+        }
+        QByteArray other = whole;
+        other[40] = static_cast<char>(other[40] ^ 1);
+        QTest::newRow("all") << whole << whole << present;
+        QTest::newRow("other information")
+            << fullSession({.driver = "Bob"}).bytes() << whole << present;
+        QTest::newRow("other sample") << other << whole << beside;
+        QTest::newRow("begins otherwise") << other.first(60) << whole << beside;
+        QTest::newRow("no session") << QByteArray("text") << whole << beside;
+        QTest::newRow("recorded on")
+            << SessionBytes {.samples = 3, .sampleCount = 9}.bytes().first(17 + 3 * 28)
+            << SessionBytes {.samples = 5, .sampleCount = 12}.bytes() << replaced;
+    }
+    void sameName()
+    {
+        QFETCH(const QByteArray, present);
+        QFETCH(const QByteArray, file);
+        QFETCH(const QString, summary);
+        Outfit outfit;
+        outfit.folder.mkpath(u"."_s);
+        const QString path = outfit.folder.filePath(u"x.ra1"_s);
+        putFile(path, present);
+        outfit.library.load(outfit.settings.acquisitionFolder());
+        outfit.put(u"x.ra1"_s, file);
+        for (const bool isFirst : {true, false}) {
+            const QString told = outfit.drop(outfit.window, {u"x.ra1"_s});
+            QCOMPARE(told,
+                     isFirst ? summary : u"Imported: 0, already there: 1, no session files: 0"_s);
+            const bool isBeside = summary.contains(u"another");
+            const bool isReplaced = !isBeside && summary.startsWith(u"Imported: 1");
+            QCOMPARE(contents(path), isReplaced ? file : present);
+            QCOMPARE(outfit.folder.entryList(QDir::Files).size(), isBeside ? 2 : 1);
+            QCOMPARE(outfit.result.path, isBeside ? outfit.folder.filePath(u"x (2).ra1"_s) : path);
+            Session *session = outfit.library.find(outfit.result.path);
+            QVERIFY(session != nullptr && session->sampleCount() >= 2);
+        }
+    }
+
+    // Nothing is made where the library's drive belongs, or where a link leads out of it.
+    void noFolder()
+    {
+        Outfit outfit;
+        outfit.put(u"x.ra1"_s, recorded("10:11:12"));
+        const QString mount = outfit.root.filePath(u"mount"_s);
+        outfit.settings.setValue(Setting::AcquisitionFolder, mount);
+        outfit.settings.setValue(Setting::LastFileSelected, QString(mount + u"/a.ra1"));
+        const QString refused
+            = u"Nothing was imported: the folder of your sessions is not there."_s;
+        QCOMPARE(outfit.drop(outfit.window, {u"x.ra1"_s}), refused);
+        QDir().mkdir(mount);
+        QCOMPARE(outfit.drop(outfit.window, {u"x.ra1"_s}), refused);
+        QVERIFY(QDir(mount).isEmpty());
+        QFile::link(outfit.root.path(), mount + u"/Imported Sessions");
+        QCOMPARE(outfit.drop(outfit.window, {u"x.ra1"_s}), refused);
+        QVERIFY(!QFile::exists(outfit.root.filePath(u"x.ra1"_s)));
     }
 
     void cancels()

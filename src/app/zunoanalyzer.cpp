@@ -379,18 +379,21 @@ void ZunoAnalyzer::openFile(const QString &path)
         return;
     }
     const QString name = QFileInfo(clean).fileName();
+    if (!QFileInfo(clean).isFile()) {
+        tell(tr("\"%1\" is not there, or is no file.").arg(name));
+        return;
+    }
     // Displaying a file writes to it, so only files of the library are displayed.
     const auto answer = QMessageBox::question(
         this, windowTitle(),
         tr("\"%1\" is not in your library. Do you want to import it?").arg(name));
     if (answer != QMessageBox::Yes)
         return;
-    const QString imported = m_import->importedPath(name);
     connect(
         m_import, &SessionImport::finished, this,
-        [this, imported](const ImportResult &result) {
-            if (result.taken.isEmpty() && m_library.find(imported) != nullptr)
-                m_tree->select(imported);
+        [this](const ImportResult &result) {
+            if (m_library.find(result.path) != nullptr)
+                m_tree->select(result.path);
         },
         Qt::SingleShotConnection);
     m_import->start({clean});

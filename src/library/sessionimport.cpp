@@ -7,10 +7,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <QSaveFile>
 #include <QStatusBar>
 
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
+#include <library/libraryfolder.h>
 #include <library/sessiondrop.h>
 #include <session/sessionfile.h>
 #include <widgets/downloadinprogress.h>
@@ -26,16 +28,55 @@ constexpr qint64 TurnTime = 50; // ms
 // A tool tip has no scroll bar.
 constexpr qsizetype NamesListed = 15;
 
+constexpr qint64 PieceSize = 1 << 16; // bytes
+
+// The result takes longer to read than other messages.
+constexpr int MessageTime = 20000; // ms
+
 bool isSessionName(const QString &name)
 {
     return name.endsWith(AcquisitionLibrary::Suffix, Qt::CaseInsensitive);
 }
 
-/// The information is left out: it is the rider's, and changes.
-bool isSameRecording(const Recording &one, const Recording &other)
+/// Whether @p path goes on where @p present ends: a copy that was broken off, or taken while the
+/// logger was still writing. Nothing of it is lost when it is replaced.
+bool isBeginningOf(const QString &present, const QString &path)
 {
-    return one.date == other.date && one.time == other.time
-           && one.wholeSampleCount == other.wholeSampleCount;
+    QFile shorter(present);
+    QFile longer(path);
+    if (!shorter.open(QIODevice::ReadOnly) || !longer.open(QIODevice::ReadOnly)
+        || shorter.size() >= longer.size())
+        return false;
+    while (!shorter.atEnd()) {
+        const QByteArray piece = shorter.read(PieceSize);
+        if (piece.isEmpty() || longer.read(piece.size()) != piece)
+            return false;
+    }
+    return true;
+}
+
+bool isGrownCopy(const QString &present, const QString &path)
+{
+    const OpenedSession before = openSession(present);
+    const OpenedSession now = openSession(path);
+    if (!before.session || !now.session)
+        return false;
+    const Recording &old = before.session->recording();
+    return old.wholeSampleCount > 0 && old.wholeSampleCount < old.sampleCount
+           && old.wholeSampleCount < now.session->recording().wholeSampleCount
+           && beginsWithSamplesOf(path, present);
+}
+
+/// Whether @p present has all that was recorded in @p path. The information is left out: it is the
+/// rider's, and changes.
+bool isAlreadyIn(const QString &present, const QString &path, const Recording &recording)
+{
+    const OpenedSession opened = openSession(present);
+    if (!opened.session || !beginsWithSamplesOf(present, path))
+        return false;
+    const Recording &there = opened.session->recording();
+    const bool isCutShort = recording.wholeSampleCount < recording.sampleCount;
+    return isCutShort || (recording.date == there.date && recording.time == there.time);
 }
 
 /// A card's files may be write-protected, but the rider's notes go into the copy.
@@ -48,16 +89,34 @@ bool copyFile(const QString &path, const QString &target)
     return true;
 }
 
+/// Replaces @p target in one step.
+bool copyOver(const QString &path, const QString &target)
+{
+    QFile source(path);
+    QSaveFile copy(target);
+    if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
+        return false;
+    while (!source.atEnd()) {
+        const QByteArray piece = source.read(PieceSize);
+        if (piece.isEmpty() || copy.write(piece) != piece.size())
+            return false;
+    }
+    // Qt 6.4 does not look whether there was room for the last of it when it commits.
+    return copy.flush() && copy.commit();
+}
+
 } // namespace
 
 QString ImportResult::summary() const
 {
+    if (!problem.isEmpty())
+        return problem;
     const auto count = [](auto number) { return QLocale().toString(number); };
     QStringList parts {tr("Imported: %1").arg(count(imported)),
                        tr("already there: %1").arg(count(present)),
                        tr("no session files: %1").arg(count(foreign.size()))};
-    if (!taken.isEmpty())
-        parts.append(tr("another session has the name: %1").arg(count(taken.size())));
+    if (!renamed.isEmpty())
+        parts.append(tr("under another name: %1").arg(count(renamed.size())));
     if (!failed.isEmpty())
         parts.append(tr("could not be copied: %1").arg(count(failed.size())));
     const QString text = parts.join(u", ");
@@ -78,14 +137,14 @@ QString ImportResult::details() const
         text += u"<p style=\"white-space: pre\">" + lines.join(u"<br/>") + u"</p>";
     };
     list(tr("No session files:"), foreign);
-    list(tr("Left out, as another session has the name:"), taken);
+    list(tr("Under another name, as another session has theirs:"), renamed);
     list(tr("Could not be copied:"), failed);
     return text;
 }
 
 void ImportResult::showIn(QStatusBar &bar) const
 {
-    bar.showMessage(summary());
+    bar.showMessage(summary(), MessageTime);
     bar.setToolTip(details());
     QObject::connect(
         &bar, &QStatusBar::messageChanged, &bar, [&bar] { bar.setToolTip({}); },
@@ -102,12 +161,14 @@ SessionImport::SessionImport(AcquisitionLibrary &library, const Settings &settin
     connect(&m_turn, &QTimer::timeout, this, &SessionImport::step);
 }
 
-QString SessionImport::importedPath(const QString &fileName) const
+QString SessionImport::importedName(const QString &fileName)
 {
     QString name = fileName;
+    while (name.startsWith(u'.'))
+        name.remove(0, 1);
     if (isSessionName(name))
-        name = name.chopped(AcquisitionLibrary::Suffix.size()) + AcquisitionLibrary::Suffix;
-    return QDir::cleanPath(m_settings.acquisitionFolder()) + u"/Imported Sessions/" + name;
+        name.chop(AcquisitionLibrary::Suffix.size());
+    return name + AcquisitionLibrary::Suffix;
 }
 
 void SessionImport::start(const QStringList &paths)
@@ -117,11 +178,21 @@ void SessionImport::start(const QStringList &paths)
         return;
     m_result = {};
     m_done = 0;
-    m_folder = QFileInfo(importedPath({})).path();
-    if (!QDir(m_folder).exists())
-        QDir().mkdir(m_folder);
+    if (!makeFolder()) {
+        m_waiting.clear();
+        m_result.problem = tr("Nothing was imported: the folder of your sessions is not there.");
+    }
     m_running.start();
     m_turn.start(0);
+}
+
+bool SessionImport::makeFolder()
+{
+    const LibraryFolder library(m_settings.acquisitionFolder(), m_settings);
+    m_folder = library.path() + u"/Imported Sessions";
+    if (library.isReady() && !QDir(m_folder).exists())
+        QDir().mkdir(m_folder);
+    return library.mayMakeIn(m_folder);
 }
 
 void SessionImport::step()
@@ -151,45 +222,73 @@ void SessionImport::takeFolder(const QString &path)
     for (const QFileInfo &entry : entries)
         found.append(entry.filePath());
     m_waiting = found + m_waiting;
+    const QStringList unreadable = unreadableNames(path);
+    for (const QString &name : unreadable) {
+        if (isSessionName(name))
+            m_result.failed.append(name);
+    }
 }
 
 void SessionImport::takeFile(const QString &path)
 {
     ++m_done;
-    const QString name = QFileInfo(path).fileName();
-    const QString target = importedPath(name);
-    if (!isSessionName(name))
-        m_result.foreign.append(name);
-    else if (QFileInfo::exists(target))
-        compare(path, target);
-    else if (!copyFile(path, target))
-        m_result.failed.append(name);
+    const OpenedSession opened = openSession(path);
+    if (opened.error == SessionFileError::Unreadable)
+        m_result.failed.append(QFileInfo(path).fileName());
+    else if (!opened.session || opened.session->sampleCount() == 0)
+        m_result.foreign.append(QFileInfo(path).fileName());
     else
-        load(target);
-}
-
-void SessionImport::load(const QString &target)
-{
-    if (m_library.add(target, "importSession") == nullptr)
-        m_result.foreign.append(QFileInfo(target).fileName());
-    else
-        ++m_result.imported;
+        takeSession(path, *opened.session);
 }
 
 // Loggers number their files anew after a reset: a rider who read that such a file was there
 // already would wipe the only one.
-void SessionImport::compare(const QString &path, const QString &target)
+void SessionImport::takeSession(const QString &path, const Session &session)
+{
+    const QString name = importedName(QFileInfo(path).fileName());
+    for (int number = 1;; ++number) {
+        const QString target = numberedPath(m_folder, name, number);
+        const QFileInfo present(target);
+        if (!present.exists() && !present.isSymLink())
+            return place(path, target);
+        if (isBeginningOf(target, path) || isGrownCopy(target, path))
+            return replace(path, target);
+        if (isAlreadyIn(target, path, session.recording())) {
+            ++m_result.present;
+            m_result.path = target;
+            return;
+        }
+    }
+}
+
+void SessionImport::place(const QString &path, const QString &target)
 {
     const QString name = QFileInfo(path).fileName();
-    const OpenedSession source = openSession(path);
-    const OpenedSession present = openSession(target);
-    if (!source.session)
+    const QString placed = QFileInfo(target).fileName();
+    if (!copyFile(path, target)) {
+        m_result.failed.append(name);
+    } else if (m_library.add(target, "importSession") == nullptr) {
+        // It was another file a moment ago.
+        QFile::remove(target);
         m_result.foreign.append(name);
-    else if (present.session
-             && isSameRecording(source.session->recording(), present.session->recording()))
-        ++m_result.present;
-    else
-        m_result.taken.append(name);
+    } else {
+        ++m_result.imported;
+        m_result.path = target;
+        if (placed != importedName(name))
+            m_result.renamed.append(QStringLiteral("%1 (%2)").arg(name, placed));
+    }
+}
+
+void SessionImport::replace(const QString &path, const QString &target)
+{
+    if (!copyOver(path, target)) {
+        m_result.failed.append(QFileInfo(path).fileName());
+        return;
+    }
+    if (!m_library.refresh(target))
+        m_library.add(target, "importSession");
+    ++m_result.imported;
+    m_result.path = target;
 }
 
 void SessionImport::showProgress()

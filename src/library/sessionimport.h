@@ -18,6 +18,7 @@ namespace zuno {
 
 class AcquisitionLibrary;
 class DownloadInProgress;
+class Session;
 class Settings;
 
 /// What became of the files of an import.
@@ -39,16 +40,23 @@ public:
     int present = 0;
     /// Names of files that hold no session.
     QStringList foreign;
-    /// Names that another recording bears in the folder; these files were left out.
-    QStringList taken;
+    /// The names of imported files that stand under another name, as theirs was taken by another
+    /// recording: "ride.ra1 (ride (2).ra1)".
+    QStringList renamed;
     /// Names of files that could not be copied.
     QStringList failed;
+    /// Where the recording that was handled last stands in the library.
+    QString path;
+    /// Why nothing could be imported; empty otherwise.
+    QString problem;
     bool isCancelled = false;
 };
 
 /// Copies session files into the folder "Imported Sessions" of the acquisition folder, which is
-/// made when it is missing, and loads them. An existing file is never overwritten, and a file is
-/// copied whole or not at all.
+/// made when it is missing, and loads them. Each is looked at first, whatever its name: what is no
+/// session is not copied. A file is copied whole or not at all. An existing file is only replaced
+/// when it is the beginning of the same recording, as a copy is that was broken off; another
+/// recording of the same name gets a number.
 ///
 /// What is dropped on the window is imported as well. A few files are copied at each turn of the
 /// event loop. A long import shows a window with its progress, which can cancel it; what was copied
@@ -64,9 +72,9 @@ public:
     /// Begins to import files, in their order; of a folder, all session files at any depth. What
     /// is given while an import runs is appended to it.
     void start(const QStringList &paths);
-    /// Where a file of that name stands once it is imported: an ending ".RA1" becomes ".ra1",
-    /// which is the only one that a library looks for.
-    [[nodiscard]] QString importedPath(const QString &fileName) const;
+    /// The name that a file gets in the library, which only looks for those that end in ".ra1" and
+    /// are not hidden.
+    [[nodiscard]] static QString importedName(const QString &fileName);
 
 Q_SIGNALS:
     void finished(const zuno::ImportResult &result);
@@ -75,8 +83,10 @@ private:
     void step();
     void takeFolder(const QString &path);
     void takeFile(const QString &path);
-    void load(const QString &target);
-    void compare(const QString &path, const QString &target);
+    void takeSession(const QString &path, const Session &session);
+    void place(const QString &path, const QString &target);
+    void replace(const QString &path, const QString &target);
+    [[nodiscard]] bool makeFolder();
     void showProgress();
     void cancel();
     void finish();

@@ -352,6 +352,31 @@ OpenedSession decodeSession(const QByteArray &bytes, const QString &path)
     return opened;
 }
 
+bool beginsWithSamplesOf(const QString &path, const QString &other)
+{
+    QFile files[] = {QFile(path), QFile(other)};
+    for (QFile &file : files) {
+        if (!QFileInfo(file.fileName()).isFile() || !file.open(ReadPiecewise))
+            return false;
+    }
+    ByteReader mine(files[0], SamplesAtOnce * SampleSize);
+    ByteReader theirs(files[1], SamplesAtOnce * SampleSize);
+    QByteArray version;
+    for (ByteReader *reader : {&mine, &theirs}) {
+        if (readVersion(*reader, version) != SessionFileError::None)
+            return false;
+    }
+    const qint64 count = readExtent(theirs).whole;
+    if (readExtent(mine).whole < count)
+        return false;
+    for (qint64 done = 0; done < count; done += SamplesAtOnce) {
+        const qint64 piece = std::min(SamplesAtOnce, count - done) * SampleSize;
+        if (mine.take(piece) != theirs.take(piece))
+            return false;
+    }
+    return true;
+}
+
 std::optional<SessionLayout> findLayout(ByteReader &reader)
 {
     Recording recording;

@@ -47,6 +47,10 @@ struct OpenedSession
 /// Decodes a session whose bytes are in memory, samples included.
 [[nodiscard]] OpenedSession decodeSession(const QByteArray &bytes, const QString &path);
 
+/// Whether the session file at @p path begins with all samples that the one at @p other holds
+/// whole, byte for byte. False when either is no session file.
+[[nodiscard]] bool beginsWithSamplesOf(const QString &path, const QString &other);
+
 /// Where the parts of a session file stand, for the rewriting of its information block.
 struct SessionLayout
 {
