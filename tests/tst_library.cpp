@@ -10,6 +10,7 @@
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
 #include <library/informationwriter.h>
+#include <library/mapfolder.h>
 #include <library/sessiondisplay.h>
 #include <session/sessionfile.h>
 #include <track/mapfile.h>
@@ -179,6 +180,36 @@ private Q_SLOTS:
             QVERIFY(outfit.display.session()->laps().empty());
             QCOMPARE(outfit.settings.mapChoice(OnTheRoad), hasFolder ? QString() : Haidemoor);
         }
+    }
+
+    // A drive that is taken out keeps its maps; its return shows what is on it now.
+    void mapsAwayAndBack()
+    {
+        const QTemporaryDir root;
+        const QString folder = root.filePath(u"Map"_s);
+        const QString other = root.filePath(u"Other"_s);
+        putFile(folder + Valmora, demoFile(u"Valmora.map"_s));
+        putFile(other + Haidemoor, demoFile(u"Haidemoor.map"_s));
+        MapFolder maps;
+        const QSignalSpy changed(&maps, &MapFolder::changed);
+        QVERIFY(maps.open(folder));
+        const Map *map = maps.library().find(Valmora);
+        QVERIFY(QDir().rename(folder, root.filePath(u"away"_s)));
+        QTest::qWait(700);
+        QCOMPARE(changed.count(), 0);
+        QVERIFY(!maps.open(folder));
+        QCOMPARE(maps.library().find(Valmora), map);
+        putFile(root.filePath(u"away"_s) + Haidemoor, demoFile(u"Haidemoor.map"_s));
+        QVERIFY(QDir().rename(root.filePath(u"away"_s), folder));
+        QTRY_COMPARE(changed.count(), 1);
+        QVERIFY(maps.open(folder));
+        QCOMPARE(maps.library().maps().size(), 2);
+        // It is watched again, and so is another folder.
+        QVERIFY(QFile::remove(folder + Valmora));
+        QTRY_COMPARE(changed.count(), 2);
+        QVERIFY(maps.open(other));
+        QCOMPARE(maps.library().maps().size(), 1);
+        QVERIFY(!maps.open(u"Other"_s) && maps.library().maps().isEmpty());
     }
 
     // Whoever only looks must not change a file; the first look is noted in it, once.

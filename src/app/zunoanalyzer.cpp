@@ -345,7 +345,7 @@ void ZunoAnalyzer::loadMaps()
     const QString folder = m_settings.acquisitionFolder();
     // The sessions point at the maps, so they go first and come back without one.
     m_library.reload(folder);
-    m_maps.load();
+    openMapsFolder();
     onSessionDisplayedChange();
     if (m_display.session() == nullptr)
         showNothing();

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QFileSystemWatcher>
 #include <QList>
@@ -14,7 +15,8 @@
 namespace zuno {
 
 /// The maps of the maps folder, and a watch on it: a map file that is added, changed or taken
-/// away while the program runs shows at once.
+/// away while the program runs shows at once. When the whole folder goes, as with a drive that is
+/// taken out, its maps stay until it is there again.
 class MapFolder : public QObject
 {
     Q_OBJECT
@@ -22,13 +24,11 @@ class MapFolder : public QObject
 public:
     explicit MapFolder(QObject *parent = nullptr);
 
-    /// Loads the maps of @p folder and watches it. False when the folder does not exist; then
-    /// there are no maps.
+    /// Loads the maps of @p folder and watches it. Every map of before is gone; whoever points at
+    /// one must have let go. False when the folder is not there: then there are no maps, or those
+    /// of before if it was open.
     bool open(const QString &folder);
     [[nodiscard]] const MapLibrary &library() const { return m_library; }
-    /// Loads the maps again, and watches folders that are new. Every map of before is gone; whoever
-    /// points at one must have let go.
-    void load();
 
 Q_SIGNALS:
     /// The folder is another than when it was loaded, and has been at rest since. The maps are
@@ -47,6 +47,8 @@ private:
     };
 
     [[nodiscard]] QList<FileStamp> stamps() const;
+    [[nodiscard]] bool isAway() const;
+    void look();
     void watch();
 
     MapLibrary m_library;
@@ -54,6 +56,8 @@ private:
     QFileSystemWatcher m_watcher;
     QTimer m_rest;
     QString m_folder;
+    /// The device that the folder was on when its maps were loaded.
+    QByteArray m_drive;
 };
 
 } // namespace zuno
