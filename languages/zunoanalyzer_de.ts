@@ -69,6 +69,33 @@
     </message>
 </context>
 <context>
+    <name>Deletion</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 und %2 weitere</translation>
+    </message>
+    <message>
+        <source>Recordings: %1</source>
+        <translation>Aufzeichnungen: %1</translation>
+    </message>
+    <message>
+        <source>other files: %1</source>
+        <translation>andere Dateien: %1</translation>
+    </message>
+    <message>
+        <source>hidden files: %1</source>
+        <translation>versteckte Dateien: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as the logger named it: %1</source>
+        <translation>Das bleibt, denn der Logger hat es so benannt: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as it is not in your library: %1</source>
+        <translation>Das bleibt, denn es ist nicht in Ihrer Bibliothek: %1</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -118,10 +145,6 @@
         <translation>keine Sessiondateien: %1</translation>
     </message>
     <message>
-        <source>another session has the name: %1</source>
-        <translation>Name von einer anderen Session belegt: %1</translation>
-    </message>
-    <message>
         <source>could not be copied: %1</source>
         <translation>nicht kopierbar: %1</translation>
     </message>
@@ -138,12 +161,43 @@
         <translation>Keine Sessiondateien:</translation>
     </message>
     <message>
-        <source>Left out, as another session has the name:</source>
-        <translation>Ausgelassen, da eine andere Session so heißt:</translation>
-    </message>
-    <message>
         <source>Could not be copied:</source>
         <translation>Konnten nicht kopiert werden:</translation>
+    </message>
+    <message>
+        <source>under another name: %1</source>
+        <translation>unter anderem Namen: %1</translation>
+    </message>
+    <message>
+        <source>Under another name, as another session has theirs:</source>
+        <translation>Unter anderem Namen, da eine andere Session so heißt:</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryFolder</name>
+    <message>
+        <source>As soon as it is back, your sessions are shown again.</source>
+        <translation>Sobald er wieder da ist, werden Ihre Sessions wieder gezeigt.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the folder of your sessions: that takes the whole path of a folder of its own.</source>
+        <translation>„%1“ kann nicht der Ordner Ihrer Sessions sein: Das muss der volle Pfad eines eigenen Ordners sein.</translation>
+    </message>
+    <message>
+        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
+
+%1</source>
+        <translation>Der Ordner Ihrer Sessions ist nicht mehr da: Er wurde verschoben, oder sein Laufwerk wurde entfernt.
+
+%1</translation>
+    </message>
+    <message>
+        <source>There is nothing left in the folder of your sessions: it was emptied, or its drive was taken out.
+
+%1</source>
+        <translation>Im Ordner Ihrer Sessions ist nichts mehr: Er wurde geleert, oder sein Laufwerk wurde entfernt.
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -303,6 +357,13 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AcquisitionLibrary</name>
+    <message>
+        <source>A name in your library could not be read; it is &quot;%1&quot; now.</source>
+        <translation>Ein Name in Ihrer Bibliothek war nicht lesbar; er ist jetzt „%1“.</translation>
     </message>
 </context>
 <context>
@@ -911,6 +972,22 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
     </message>
+    <message>
+        <source>A name that begins with a dot is hidden; nothing was changed.</source>
+        <translation>Ein Name mit einem Punkt am Anfang ist versteckt; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
+        <translation>„%1“ ist ein Name, den nicht jeder Computer annimmt; nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Do you want to move this to the trash?</source>
+        <translation>Das in den Papierkorb verschieben?</translation>
+    </message>
+    <message>
+        <source>There is no trash that takes this:</source>
+        <translation>Kein Papierkorb nimmt das an:</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1306,6 +1383,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Importing sessions: %1 of %2</source>
         <translation>Sessions werden importiert: %1 von %2</translation>
     </message>
+    <message>
+        <source>Nothing was imported: the folder of your sessions is not there.</source>
+        <translation>Nichts wurde importiert: Der Ordner Ihrer Sessions ist nicht da.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionInfos</name>
@@ -1677,12 +1758,16 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
         <translation>„%1“ ist nicht mehr da: die Datei wurde gelöscht oder verschoben.</translation>
     </message>
     <message>
-        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
-
-%1</source>
-        <translation>Der Ordner Ihrer Sessions ist nicht mehr da: Er wurde verschoben, oder sein Laufwerk wurde entfernt.
-
-%1</translation>
+        <source>Choose another folder...</source>
+        <translation>Anderen Ordner wählen ...</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Ordner Ihrer Sessions</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there, or is no file.</source>
+        <translation>„%1“ ist nicht da oder keine Datei.</translation>
     </message>
 </context>
 </TS>

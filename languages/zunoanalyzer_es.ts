@@ -69,6 +69,33 @@
     </message>
 </context>
 <context>
+    <name>Deletion</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 y %2 más</translation>
+    </message>
+    <message>
+        <source>Recordings: %1</source>
+        <translation>Grabaciones: %1</translation>
+    </message>
+    <message>
+        <source>other files: %1</source>
+        <translation>otros archivos: %1</translation>
+    </message>
+    <message>
+        <source>hidden files: %1</source>
+        <translation>archivos ocultos: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as the logger named it: %1</source>
+        <translation>Esto se queda, porque el nombre es del registrador: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as it is not in your library: %1</source>
+        <translation>Esto se queda, porque no está en su biblioteca: %1</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -118,10 +145,6 @@
         <translation>no son archivos de sesión: %1</translation>
     </message>
     <message>
-        <source>another session has the name: %1</source>
-        <translation>nombre ya usado por otra sesión: %1</translation>
-    </message>
-    <message>
         <source>could not be copied: %1</source>
         <translation>no se pudieron copiar: %1</translation>
     </message>
@@ -138,12 +161,43 @@
         <translation>No son archivos de sesión:</translation>
     </message>
     <message>
-        <source>Left out, as another session has the name:</source>
-        <translation>Omitidos, porque otra sesión tiene el mismo nombre:</translation>
-    </message>
-    <message>
         <source>Could not be copied:</source>
         <translation>No se pudieron copiar:</translation>
+    </message>
+    <message>
+        <source>under another name: %1</source>
+        <translation>con otro nombre: %1</translation>
+    </message>
+    <message>
+        <source>Under another name, as another session has theirs:</source>
+        <translation>Con otro nombre, porque otra sesión tiene el suyo:</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryFolder</name>
+    <message>
+        <source>As soon as it is back, your sessions are shown again.</source>
+        <translation>En cuanto vuelva, se mostrarán de nuevo sus sesiones.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the folder of your sessions: that takes the whole path of a folder of its own.</source>
+        <translation>«%1» no puede ser la carpeta de sus sesiones: hace falta la ruta completa de una carpeta propia.</translation>
+    </message>
+    <message>
+        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
+
+%1</source>
+        <translation>La carpeta de sus sesiones ya no está: se ha movido, o se ha retirado su unidad.
+
+%1</translation>
+    </message>
+    <message>
+        <source>There is nothing left in the folder of your sessions: it was emptied, or its drive was taken out.
+
+%1</source>
+        <translation>No queda nada en la carpeta de sus sesiones: se ha vaciado, o se ha retirado su unidad.
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -303,6 +357,13 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AcquisitionLibrary</name>
+    <message>
+        <source>A name in your library could not be read; it is &quot;%1&quot; now.</source>
+        <translation>Un nombre de su biblioteca no se podía leer; ahora es «%1».</translation>
     </message>
 </context>
 <context>
@@ -911,6 +972,22 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>No se pudo crear la carpeta «%1».</translation>
     </message>
+    <message>
+        <source>A name that begins with a dot is hidden; nothing was changed.</source>
+        <translation>Un nombre que empieza por un punto queda oculto; no se ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
+        <translation>«%1» es un nombre que no todos los ordenadores admiten; no se ha cambiado nada.</translation>
+    </message>
+    <message>
+        <source>Do you want to move this to the trash?</source>
+        <translation>¿Mover esto a la papelera?</translation>
+    </message>
+    <message>
+        <source>There is no trash that takes this:</source>
+        <translation>Ninguna papelera admite esto:</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1306,6 +1383,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Importing sessions: %1 of %2</source>
         <translation>Importando sesiones: %1 de %2</translation>
     </message>
+    <message>
+        <source>Nothing was imported: the folder of your sessions is not there.</source>
+        <translation>No se ha importado nada: la carpeta de sus sesiones no está.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionInfos</name>
@@ -1677,12 +1758,16 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
         <translation>«%1» ya no está: se ha eliminado o movido.</translation>
     </message>
     <message>
-        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
-
-%1</source>
-        <translation>La carpeta de sus sesiones ya no está: se ha movido, o se ha retirado su unidad.
-
-%1</translation>
+        <source>Choose another folder...</source>
+        <translation>Elegir otra carpeta...</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Carpeta de sus sesiones</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there, or is no file.</source>
+        <translation>«%1» no está, o no es un archivo.</translation>
     </message>
 </context>
 </TS>

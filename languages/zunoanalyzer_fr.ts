@@ -69,6 +69,33 @@
     </message>
 </context>
 <context>
+    <name>Deletion</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 et %2 autres</translation>
+    </message>
+    <message>
+        <source>Recordings: %1</source>
+        <translation>Enregistrements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>other files: %1</source>
+        <translation>autres fichiers&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>hidden files: %1</source>
+        <translation>fichiers cachés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as the logger named it: %1</source>
+        <translation>Ceci reste, car le boîtier l&apos;a nommé ainsi&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as it is not in your library: %1</source>
+        <translation>Ceci reste, car ce n&apos;est pas dans votre bibliothèque&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -118,10 +145,6 @@
         <translation>fichiers non reconnus&#xa0;: %1</translation>
     </message>
     <message>
-        <source>another session has the name: %1</source>
-        <translation>nom déjà pris par une autre session&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>could not be copied: %1</source>
         <translation>copie impossible&#xa0;: %1</translation>
     </message>
@@ -138,12 +161,43 @@
         <translation>Fichiers non reconnus&#xa0;:</translation>
     </message>
     <message>
-        <source>Left out, as another session has the name:</source>
-        <translation>Ignorés, car une autre session porte ce nom&#xa0;:</translation>
-    </message>
-    <message>
         <source>Could not be copied:</source>
         <translation>N&apos;ont pas pu être copiés&#xa0;:</translation>
+    </message>
+    <message>
+        <source>under another name: %1</source>
+        <translation>sous un autre nom&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Under another name, as another session has theirs:</source>
+        <translation>Sous un autre nom, car une autre session porte le leur&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryFolder</name>
+    <message>
+        <source>As soon as it is back, your sessions are shown again.</source>
+        <translation>Dès qu&apos;il est de retour, vos sessions s&apos;affichent à nouveau.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the folder of your sessions: that takes the whole path of a folder of its own.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être le dossier de vos sessions&#xa0;: il faut le chemin complet d&apos;un dossier à part.</translation>
+    </message>
+    <message>
+        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
+
+%1</source>
+        <translation>Le dossier de vos sessions n&apos;est plus là&#xa0;: il a été déplacé, ou son disque a été retiré.
+
+%1</translation>
+    </message>
+    <message>
+        <source>There is nothing left in the folder of your sessions: it was emptied, or its drive was taken out.
+
+%1</source>
+        <translation>Il n&apos;y a plus rien dans le dossier de vos sessions&#xa0;: il a été vidé, ou son disque a été retiré.
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -303,6 +357,13 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AcquisitionLibrary</name>
+    <message>
+        <source>A name in your library could not be read; it is &quot;%1&quot; now.</source>
+        <translation>Un nom de votre bibliothèque était illisible&#xa0;; c&apos;est maintenant «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -911,6 +972,22 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;a pas pu être créé.</translation>
     </message>
+    <message>
+        <source>A name that begins with a dot is hidden; nothing was changed.</source>
+        <translation>Un nom qui commence par un point est caché&#xa0;; rien n&apos;a été changé.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
+        <translation>«&#xa0;%1&#xa0;» est un nom que certains ordinateurs refusent&#xa0;; rien n&apos;a été changé.</translation>
+    </message>
+    <message>
+        <source>Do you want to move this to the trash?</source>
+        <translation>Mettre ceci à la corbeille&#xa0;?</translation>
+    </message>
+    <message>
+        <source>There is no trash that takes this:</source>
+        <translation>Aucune corbeille n&apos;accepte ceci&#xa0;:</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1306,6 +1383,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Importing sessions: %1 of %2</source>
         <translation>Importation des sessions&#xa0;: %1 sur %2</translation>
     </message>
+    <message>
+        <source>Nothing was imported: the folder of your sessions is not there.</source>
+        <translation>Rien n&apos;a été importé&#xa0;: le dossier de vos sessions n&apos;est pas là.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionInfos</name>
@@ -1677,12 +1758,16 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
         <translation>«&#xa0;%1&#xa0;» n&apos;est plus là&#xa0;: le fichier a été supprimé ou déplacé.</translation>
     </message>
     <message>
-        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
-
-%1</source>
-        <translation>Le dossier de vos sessions n&apos;est plus là&#xa0;: il a été déplacé, ou son disque a été retiré.
-
-%1</translation>
+        <source>Choose another folder...</source>
+        <translation>Choisir un autre dossier...</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Dossier de vos sessions</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there, or is no file.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas là, ou n&apos;est pas un fichier.</translation>
     </message>
 </context>
 </TS>

@@ -69,6 +69,33 @@
     </message>
 </context>
 <context>
+    <name>Deletion</name>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation>%1 e altri %2</translation>
+    </message>
+    <message>
+        <source>Recordings: %1</source>
+        <translation>Registrazioni: %1</translation>
+    </message>
+    <message>
+        <source>other files: %1</source>
+        <translation>altri file: %1</translation>
+    </message>
+    <message>
+        <source>hidden files: %1</source>
+        <translation>file nascosti: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as the logger named it: %1</source>
+        <translation>Questo resta, perché il nome è del logger: %1</translation>
+    </message>
+    <message>
+        <source>This stays, as it is not in your library: %1</source>
+        <translation>Questo resta, perché non è nella tua libreria: %1</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -118,10 +145,6 @@
         <translation>non file di sessione: %1</translation>
     </message>
     <message>
-        <source>another session has the name: %1</source>
-        <translation>con il nome di un&apos;altra sessione: %1</translation>
-    </message>
-    <message>
         <source>could not be copied: %1</source>
         <translation>copia non riuscita: %1</translation>
     </message>
@@ -138,12 +161,43 @@
         <translation>Non sono file di sessione:</translation>
     </message>
     <message>
-        <source>Left out, as another session has the name:</source>
-        <translation>Esclusi perché un&apos;altra sessione ha lo stesso nome:</translation>
-    </message>
-    <message>
         <source>Could not be copied:</source>
         <translation>Non è stato possibile copiarli:</translation>
+    </message>
+    <message>
+        <source>under another name: %1</source>
+        <translation>con un altro nome: %1</translation>
+    </message>
+    <message>
+        <source>Under another name, as another session has theirs:</source>
+        <translation>Con un altro nome, perché il loro è di un&apos;altra sessione:</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryFolder</name>
+    <message>
+        <source>As soon as it is back, your sessions are shown again.</source>
+        <translation>Appena torna, le sessioni si vedono di nuovo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the folder of your sessions: that takes the whole path of a folder of its own.</source>
+        <translation>«%1» non può essere la cartella delle sessioni: serve il percorso completo di una cartella a parte.</translation>
+    </message>
+    <message>
+        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
+
+%1</source>
+        <translation>La cartella delle tue sessioni non c&apos;è più: è stata spostata, o il suo disco è stato scollegato.
+
+%1</translation>
+    </message>
+    <message>
+        <source>There is nothing left in the folder of your sessions: it was emptied, or its drive was taken out.
+
+%1</source>
+        <translation>Nella cartella delle tue sessioni non c&apos;è più niente: è stata svuotata, o il suo disco è stato scollegato.
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -303,6 +357,13 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Close</source>
         <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AcquisitionLibrary</name>
+    <message>
+        <source>A name in your library could not be read; it is &quot;%1&quot; now.</source>
+        <translation>Un nome nella libreria non era leggibile; ora è «%1».</translation>
     </message>
 </context>
 <context>
@@ -911,6 +972,22 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Non è stato possibile creare la cartella «%1».</translation>
     </message>
+    <message>
+        <source>A name that begins with a dot is hidden; nothing was changed.</source>
+        <translation>Un nome che comincia con un punto è nascosto; nulla è cambiato.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
+        <translation>«%1» è un nome che non tutti i computer accettano; nulla è cambiato.</translation>
+    </message>
+    <message>
+        <source>Do you want to move this to the trash?</source>
+        <translation>Spostare questo nel cestino?</translation>
+    </message>
+    <message>
+        <source>There is no trash that takes this:</source>
+        <translation>Nessun cestino accetta questo:</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1306,6 +1383,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Importing sessions: %1 of %2</source>
         <translation>Importazione delle sessioni: %1 di %2</translation>
     </message>
+    <message>
+        <source>Nothing was imported: the folder of your sessions is not there.</source>
+        <translation>Nulla è stato importato: la cartella delle sessioni non c&apos;è.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionInfos</name>
@@ -1677,12 +1758,16 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
         <translation>«%1» non c&apos;è più: è stato eliminato o spostato.</translation>
     </message>
     <message>
-        <source>The folder of your sessions is not there any more: it was moved, or its drive was taken out.
-
-%1</source>
-        <translation>La cartella delle tue sessioni non c&apos;è più: è stata spostata, o il suo disco è stato scollegato.
-
-%1</translation>
+        <source>Choose another folder...</source>
+        <translation>Scegli un&apos;altra cartella...</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Cartella delle sessioni</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not there, or is no file.</source>
+        <translation>«%1» non c&apos;è, o non è un file.</translation>
     </message>
 </context>
 </TS>
