@@ -1314,6 +1314,58 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Date :</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Strecke:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Beste Runde:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Idealzeit:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Veranstaltung:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Fahrer:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Motorrad:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Reifen:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Streckentemperatur:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Streckenzustand:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notizen:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Hier zum Beispiel Reifendrücke und Fahrwerkseinstellungen eintragen...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1553,58 +1605,6 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
     <message>
         <source>Compare time</source>
         <translation>Zeit vergleichen</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Session-Infos</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Datum:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Strecke:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Beste Runde:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Veranstaltung:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Fahrer:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Motorrad:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Reifen:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Streckentemperatur:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>Grad</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>Streckenzustand:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Notizen:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Hier zum Beispiel Reifendrücke und Fahrwerkseinstellungen eintragen...</translation>
     </message>
     <message>
         <source>   Import   </source>

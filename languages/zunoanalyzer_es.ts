@@ -1314,6 +1314,58 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Date :</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Mejor vuelta:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tiempo ideal:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Piloto:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Neumáticos:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. de la pista:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>grados</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Estado de la pista:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notas:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Anote aquí, por ejemplo, las presiones de los neumáticos, los reglajes de suspensión...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1553,58 +1605,6 @@ Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje ter
     <message>
         <source>Compare time</source>
         <translation>Comparar tiempo</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Datos de sesiones</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Fecha:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Circuito:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Mejor vuelta:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Evento:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Piloto:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Moto:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Neumáticos:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Temp. de la pista:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>grados</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>Estado de la pista:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Notas:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Anote aquí, por ejemplo, las presiones de los neumáticos, los reglajes de suspensión...</translation>
     </message>
     <message>
         <source>   Import   </source>

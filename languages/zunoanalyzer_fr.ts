@@ -1314,6 +1314,58 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Date :</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuit&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Meilleur tour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Temps idéal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Événement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilote&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Pneus&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>degrés</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>État de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Notez ici, par exemple, vos pressions de pneus, vos réglages de suspension...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1553,58 +1605,6 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
     <message>
         <source>Compare time</source>
         <translation>Comparer le temps</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Infos des sessions</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Date&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Circuit&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Meilleur tour&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Événement&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Pilote&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Moto&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Pneus&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Temp. de la piste&#xa0;:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>degrés</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>État de la piste&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Notes&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Notez ici, par exemple, vos pressions de pneus, vos réglages de suspension...</translation>
     </message>
     <message>
         <source>   Import   </source>

@@ -1314,6 +1314,58 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>Date :</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Giro migliore:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tempo ideale:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilota:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Pneumatici:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. della pista:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>gradi</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Stato della pista:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Note:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Inserisci qui, per esempio, le pressioni delle gomme, le regolazioni delle sospensioni...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1553,58 +1605,6 @@ Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia ter
     <message>
         <source>Compare time</source>
         <translation>Confronta il tempo</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Info sessioni</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Data:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Circuito:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Giro migliore:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Evento:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Pilota:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Moto:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Pneumatici:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Temp. della pista:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>gradi</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>Stato della pista:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Note:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Inserisci qui, per esempio, le pressioni delle gomme, le regolazioni delle sospensioni...</translation>
     </message>
     <message>
         <source>   Import   </source>

@@ -17,7 +17,6 @@
 #include <app/chartwidgets.h>
 #include <app/configurationwidget.h>
 #include <app/help.h>
-#include <app/makerlinks.h>
 #include <library/exportdialogs.h>
 #include <library/librarytree.h>
 #include <library/sessionimport.h>
@@ -72,7 +71,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     m_mapView = new MapViewController(this);
     m_mapView->init(this, m_ui->webview_layout);
     createActions();
-    createInfosPage();
+    m_infos = new SessionInfos(m_writer, m_language, this);
     m_charts = new LapCharts(chartWidgets(*m_ui), m_selection, m_settings, this);
     connectParts();
     showNothing();
@@ -111,17 +110,6 @@ void ZunoAnalyzer::createActions()
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
 }
 
-void ZunoAnalyzer::createInfosPage()
-{
-    m_infos = new SessionInfos(
-        {m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires, m_ui->cb_weather,
-         m_ui->sb_trackTemp, m_ui->l_degrees, m_ui->te_infos, m_ui->lb_notesCount, m_ui->lb_hint,
-         m_ui->lb_date, m_ui->lb_circuit, m_ui->lb_bestLap, m_ui->lb_idealTime_2, m_ui->tabWidget},
-        m_writer, this);
-    m_ui->webSite->setText(webSiteLink(m_language));
-    m_ui->mail->setText(mailLink());
-}
-
 void ZunoAnalyzer::createSplitters()
 {
     const auto make
@@ -138,8 +126,9 @@ void ZunoAnalyzer::createSplitters()
     m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_ui->bottomWidget});
     tabs->clear();
     tabs->addTab(m_splitters[1], tr("Maps and Laps  "));
-    tabs->addTab(m_ui->infos, tr(" Session infos  "));
+    tabs->addTab(m_infos, tr(" Session infos  "));
     tabs->setCurrentIndex(0);
+    connect(tabs, &QTabWidget::currentChanged, m_infos, &SessionInfos::onTabChanged);
     m_splitters[2] = make(Qt::Horizontal, TabHandle, {tabs});
     m_splitters[3] = make(Qt::Horizontal, VerticalHandle, {m_ui->treePane, m_splitters[2]});
     m_splitters[3]->setStretchFactor(1, 1);

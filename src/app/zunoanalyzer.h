@@ -86,7 +86,6 @@ protected:
 private:
     void switchTranslator(QTranslator &translator, const QString &file);
     void createActions();
-    void createInfosPage();
     void createSplitters();
     void connectParts();
     void openMapsFolder();
