@@ -232,36 +232,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Wurde sie auf einer anderen Strecke gefahren, so wählen Sie deren Karte mit „Karten“ (Strg+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Keine Karte gefunden, bitte in der Kartenauswahl eine wählen</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Karte: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Länge der Karte: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Idealzeit: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Gefahrene Strecke: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Sektor</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Bestzeit</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Runde</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -732,6 +708,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Idealzeit:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Gefahrene Strecke:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Neue Karte aus dieser Session...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Die Bestzeit jedes Sektors und die Runde, in der sie gefahren wurde</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sektor</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Bestzeit</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Runde</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapsTableModel</name>
     <message>
         <source>Complete</source>
@@ -1187,6 +1194,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Karte:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Länge der Karte:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Neue Karte aus dieser Session...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Keine Karte gefunden, bitte in der Kartenauswahl eine wählen</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Länge der Karte: %1 m</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
@@ -1555,30 +1593,6 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
         <translation>Karte und Runden</translation>
     </message>
     <message>
-        <source>Ideal time :</source>
-        <translation>Idealzeit:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Gefahrene Strecke:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>Die Bestzeit jedes Sektors und die Runde, in der sie gefahren wurde</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Karte:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Länge der Karte:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
         <source>Speed</source>
         <translation>Tempo</translation>
     </message>
@@ -1667,10 +1681,6 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Runde %1 (%2) gegen Runde %3 (%4): %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Neue Karte aus dieser Session...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

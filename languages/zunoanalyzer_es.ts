@@ -232,36 +232,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Ningún mapa encontrado, elija uno en la configuración de mapas</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Mapa: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Longitud del mapa: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Tiempo ideal: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Distancia recorrida: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Sector</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Mejor tiempo</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Vuelta</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -732,6 +708,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tiempo ideal:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distancia recorrida:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuevo mapa de esta sesión...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>El mejor tiempo de cada sector y la vuelta en que se hizo</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sector</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Mejor tiempo</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Vuelta</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapsTableModel</name>
     <message>
         <source>Complete</source>
@@ -1187,6 +1194,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Mapa:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Longitud del mapa:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuevo mapa de esta sesión...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Ningún mapa encontrado, elija uno en la configuración de mapas</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mapa: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Longitud del mapa: %1 m</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
@@ -1555,30 +1593,6 @@ Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje ter
         <translation>Mapa y vueltas</translation>
     </message>
     <message>
-        <source>Ideal time :</source>
-        <translation>Tiempo ideal:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Distancia recorrida:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>El mejor tiempo de cada sector y la vuelta en que se hizo</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Mapa:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Longitud del mapa:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
         <source>Speed</source>
         <translation>Velocidad</translation>
     </message>
@@ -1667,10 +1681,6 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Vuelta %1 (%2) frente a vuelta %3 (%4): %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Nuevo mapa de esta sesión...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

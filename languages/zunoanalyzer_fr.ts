@@ -232,36 +232,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Si elle a été roulée sur un autre circuit, choisissez la carte de ce circuit avec «&#xa0;Cartes&#xa0;» (Ctrl+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Aucune carte trouvée, choisissez-en une dans la configuration des cartes</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Carte&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Longueur de la carte&#xa0;: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Temps idéal&#xa0;: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Distance parcourue&#xa0;: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Secteur</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Meilleur temps</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Tour</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -732,6 +708,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Temps idéal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distance parcourue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nouvelle carte à partir de cette session...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Le meilleur temps de chaque secteur et le tour qui le détient</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Secteur</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Meilleur temps</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Tour</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapsTableModel</name>
     <message>
         <source>Complete</source>
@@ -1187,6 +1194,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Carte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Longueur de la carte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nouvelle carte à partir de cette session...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Aucune carte trouvée, choisissez-en une dans la configuration des cartes</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Longueur de la carte&#xa0;: %1 m</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
@@ -1555,30 +1593,6 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
         <translation>Carte et tours</translation>
     </message>
     <message>
-        <source>Ideal time :</source>
-        <translation>Temps idéal&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Distance parcourue&#xa0;:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>Le meilleur temps de chaque secteur et le tour qui le détient</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Carte&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Longueur de la carte&#xa0;:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
         <source>Speed</source>
         <translation>Vitesse</translation>
     </message>
@@ -1667,10 +1681,6 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Tour %1 (%2) contre tour %3 (%4)&#xa0;: %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Nouvelle carte à partir de cette session...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

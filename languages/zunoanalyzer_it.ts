@@ -232,36 +232,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Nessuna mappa trovata, scegline una nella configurazione delle mappe</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Mappa: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Lunghezza della mappa: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Tempo ideale: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Distanza percorsa: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Settore</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Miglior tempo</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Giro</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -732,6 +708,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tempo ideale:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distanza percorsa:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuova mappa da questa sessione...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Il miglior tempo di ogni settore e il giro in cui è stato fatto</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Settore</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Miglior tempo</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Giro</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapsTableModel</name>
     <message>
         <source>Complete</source>
@@ -1187,6 +1194,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Mappa:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Lunghezza della mappa:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuova mappa da questa sessione...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Nessuna mappa trovata, scegline una nella configurazione delle mappe</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mappa: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Lunghezza della mappa: %1 m</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapWarning</name>
     <message>
         <source>the line</source>
@@ -1555,30 +1593,6 @@ Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia ter
         <translation>Mappa e giri</translation>
     </message>
     <message>
-        <source>Ideal time :</source>
-        <translation>Tempo ideale:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Distanza percorsa:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>Il miglior tempo di ogni settore e il giro in cui è stato fatto</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Mappa:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Lunghezza della mappa:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
         <source>Speed</source>
         <translation>Velocità</translation>
     </message>
@@ -1667,10 +1681,6 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Giro %1 (%2) contro giro %3 (%4): %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Nuova mappa da questa sessione...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

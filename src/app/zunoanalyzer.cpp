@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QSplitter>
@@ -23,11 +22,13 @@
 #include <library/upgradepass.h>
 #include <maps/dialog/mapswidget.h>
 #include <maps/editor/mapmaker.h>
+#include <maps/page/mappane.h>
 #include <maps/page/mapviewcontroller.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
 #include <track/map.h>
 #include <views/idealtime/idealtimedialog.h>
+#include <views/laps/lapspane.h>
 #include <views/laps/lapsview.h>
 #include <views/laps/sessionsummary.h>
 
@@ -61,26 +62,20 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     // Before anything that has a text or shows a number.
     loadLanguage(language.isNull() ? m_settings.value(Setting::Language).toString() : language);
     m_ui->setupUi(this);
-    m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
     m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
     m_ui->tw_arbo->installEventFilter(this);
-    m_summary = std::make_unique<SessionSummary>(
-        SessionSummary::Widgets {m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap,
-                                 m_ui->pb_newMapHere, m_ui->lb_idealTime, m_ui->lb_traveledDistance,
-                                 m_ui->lb_firstLapSelected, m_ui->tableWidget, m_ui->tw_tours});
-    m_mapView = new MapViewController(this);
-    m_mapView->init(this, m_ui->webview_layout);
+    m_laps = new LapsPane(m_selection, m_settings, this);
+    m_map = new MapPane(this);
     createActions();
     m_infos = new SessionInfos(m_writer, m_language, this);
     m_charts = new LapCharts(chartWidgets(*m_ui), m_selection, m_settings, this);
     connectParts();
     showNothing();
-    m_summary->showFirstLap(m_selection.first());
     openMapsFolder();
     createSplitters();
     openAcquisitionFolder();
     m_settings.writeDisplayDefaults();
-    m_lapsView->applyColumns();
+    m_laps->table().applyColumns();
 }
 
 ZunoAnalyzer::~ZunoAnalyzer()
@@ -88,7 +83,7 @@ ZunoAnalyzer::~ZunoAnalyzer()
     // The views go before what they show.
     delete m_tree;
     delete m_charts;
-    delete m_lapsView;
+    delete m_laps;
 }
 
 void ZunoAnalyzer::createActions()
@@ -121,7 +116,7 @@ void ZunoAnalyzer::createSplitters()
               return splitter;
           };
     QTabWidget *tabs = m_ui->tabWidget;
-    m_splitters[0] = make(Qt::Horizontal, VerticalHandle, {m_ui->lapsPane, m_ui->googleWidget});
+    m_splitters[0] = make(Qt::Horizontal, VerticalHandle, {m_laps, m_map});
     m_splitters[0]->setStretchFactor(0, 1);
     m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_ui->bottomWidget});
     tabs->clear();
@@ -170,15 +165,13 @@ void ZunoAnalyzer::connectParts()
         tell(tr("\"%1\" is no longer there: it was deleted or moved.")
                  .arg(QFileInfo(path).fileName()));
     });
-    connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
-    connect(&m_selection, &LapSelection::firstLapChanged, this,
-            [this] { m_summary->showFirstLap(m_selection.first()); });
+    connect(&m_laps->table(), &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
             [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);
     connect(m_tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
     connect(m_tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
-    connect(m_lapsView, &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
+    connect(&m_laps->table(), &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
     connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
     m_import = new SessionImport(m_library, m_settings, this);
     connect(m_import, &SessionImport::finished, this,
@@ -187,13 +180,13 @@ void ZunoAnalyzer::connectParts()
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
     m_mapMaker = new MapMaker({m_library, m_maps.library(), m_display, m_settings}, this);
     connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::loadMaps);
-    for (const QPushButton *button : {m_ui->pb_newMap, m_ui->pb_newMapHere})
-        connect(button, &QPushButton::clicked, m_mapMaker, &MapMaker::newMap);
-    connect(m_mapView, &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
+    connect(m_laps, &LapsPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
+    connect(m_map, &MapPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
+    connect(&m_map->view(), &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
     connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
-    connect(&m_selection, &LapSelection::comparisonRequested, m_mapView,
+    connect(&m_selection, &LapSelection::comparisonRequested, &m_map->view(),
             &MapViewController::drawTwoLaps);
-    connectCharts(*m_charts, *m_lapsView, *m_mapView);
+    connectCharts(*m_charts, m_laps->table(), m_map->view());
 }
 
 void ZunoAnalyzer::openMapsFolder()
@@ -286,17 +279,17 @@ void ZunoAnalyzer::detectMap()
 
 void ZunoAnalyzer::onMapReady()
 {
-    m_mapView->initOnlineMap(m_library.sessions(), static_cast<int>(m_display.index()));
-    m_mapView->setOptions(m_settings.path(SettingsFile::Analyzer));
+    m_map->view().initOnlineMap(m_library.sessions(), static_cast<int>(m_display.index()));
+    m_map->view().setOptions(m_settings.path(SettingsFile::Analyzer));
     showLapOnMap();
 }
 
 void ZunoAnalyzer::showLapOnMap()
 {
     if (const SessionLap lap = m_selection.current())
-        m_mapView->drawLap(lap);
+        m_map->view().drawLap(lap);
     else
-        m_mapView->clearLaps();
+        m_map->view().clearLaps();
 }
 
 void ZunoAnalyzer::loadMaps()
@@ -361,8 +354,8 @@ void ZunoAnalyzer::openSettings()
     if (dialog.exec() != QDialog::Accepted)
         return;
     dialog.storeValues();
-    m_lapsView->applyColumns();
-    m_mapView->setOptions(m_settings.path(SettingsFile::Analyzer));
+    m_laps->table().applyColumns();
+    m_map->view().setOptions(m_settings.path(SettingsFile::Analyzer));
 }
 
 void ZunoAnalyzer::openMaps()
@@ -390,7 +383,8 @@ void ZunoAnalyzer::openStatistics()
         connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_statistics,
                 [this] { m_statistics->setSessions(m_library.sessions()); });
         connect(m_infos, &SessionInfos::saved, m_statistics, &SessionsStats::refreshSoon);
-        connect(m_lapsView, &LapsView::validityChanged, m_statistics, &SessionsStats::refreshSoon);
+        connect(&m_laps->table(), &LapsView::validityChanged, m_statistics,
+                &SessionsStats::refreshSoon);
         connect(&m_display, &SessionDisplay::mapApplied, m_statistics, &SessionsStats::refreshSoon);
     } else {
         m_statistics->setSessions(m_library.sessions());
@@ -445,32 +439,26 @@ void ZunoAnalyzer::showSession(Session *session)
     // The pass displays every session; the last one is shown when it is over.
     if (m_isUpgrading)
         return;
-    m_mapView->centerMap(session->map());
+    m_map->view().centerMap(session->map());
     m_selection.setSession(session);
-    m_lapsView->showLaps();
-    m_summary->showSession(session);
+    m_laps->showSession();
+    m_map->showSession(session);
     m_infos->showSession(session);
-    m_summary->showFirstLap(m_selection.first());
-    const bool hasLaps = !session->laps().empty();
-    if (hasLaps)
-        m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
-    else
+    if (session->laps().empty())
         showState(emptyState());
 }
 
 void ZunoAnalyzer::showState(const QString &text)
 {
-    m_ui->lb_state->setText(text);
     const Session *session = m_display.session();
-    m_ui->pb_newMap->setVisible(session != nullptr && session->sampleCount() > 0);
-    m_ui->lapsStack->setCurrentWidget(m_ui->statePage);
+    m_laps->showState(text, session != nullptr && session->sampleCount() > 0);
 }
 
 void ZunoAnalyzer::showNothing()
 {
     m_selection.setSession(nullptr);
-    m_lapsView->showLaps();
-    m_summary->showSession(nullptr);
+    m_laps->showSession();
+    m_map->showSession(nullptr);
     m_infos->showSession(nullptr);
     showState(emptyState());
 }
@@ -506,7 +494,6 @@ void ZunoAnalyzer::showComparison(const SessionLap &first, const SessionLap &sec
 
 void ZunoAnalyzer::onValidityChanged(Session *session)
 {
-    m_summary->showSession(session);
     m_infos->showSession(session);
     m_writer.write(*session, InformationWriter::Cause::Edited);
 }

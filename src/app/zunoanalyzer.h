@@ -21,13 +21,12 @@ class QSplitter;
 namespace zuno {
 
 class LapCharts;
-class LapsView;
+class LapsPane;
 class LibraryTree;
 class MapMaker;
-class MapViewController;
+class MapPane;
 class SessionImport;
 class SessionInfos;
-class SessionSummary;
 class SessionsStats;
 
 namespace Ui {
@@ -110,12 +109,11 @@ private:
     InformationWriter m_writer;
     LapSelection m_selection;
     SessionDisplay m_display;
-    std::unique_ptr<SessionSummary> m_summary;
-    LapsView *m_lapsView = nullptr;
+    LapsPane *m_laps = nullptr;
     LapCharts *m_charts = nullptr;
     LibraryTree *m_tree = nullptr;
     MapMaker *m_mapMaker = nullptr;
-    MapViewController *m_mapView = nullptr;
+    MapPane *m_map = nullptr;
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
     SessionImport *m_import = nullptr;

@@ -60,7 +60,6 @@ void MapViewController::init(QWidget *window, QLayout *layout)
 {
     if (m_view != nullptr)
         return;
-    m_window = window;
     m_view = new QWebEngineView(window);
     m_view->setMinimumWidth(MinimumWidth);
     // Going back, saving and looking at the source are of no use on a map.

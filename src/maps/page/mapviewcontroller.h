@@ -119,7 +119,6 @@ private:
     void sendDraft(OutlineForm outline);
     [[nodiscard]] bool isKnownPoint(int point) const;
 
-    QWidget *m_window = nullptr;
     QWebEngineView *m_view = nullptr;
     JSConnector *m_page = nullptr;
     std::optional<Editing> m_editing;
