@@ -457,6 +457,26 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Vorsprung auf Runde %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Beschl./Verzög.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Fed. vorn</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Fed. hinten</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -674,6 +694,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Beschl./Verzög.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Fed. vorn</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Fed. hinten</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Positionen vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Zeit vergleichen</translation>
     </message>
 </context>
 <context>
@@ -1591,34 +1642,6 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
     <message>
         <source>Map and Laps</source>
         <translation>Karte und Runden</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Tempo</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Schräglage</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Beschl./Verzög.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Fed. vorn</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Fed. hinten</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Positionen vergleichen</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Zeit vergleichen</translation>
     </message>
     <message>
         <source>   Import   </source>

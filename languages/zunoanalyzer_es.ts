@@ -457,6 +457,26 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Ventaja sobre la vuelta %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Acel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. del.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. tras.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -674,6 +694,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Acel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. del.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. tras.</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Comparar posiciones</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Comparar tiempo</translation>
     </message>
 </context>
 <context>
@@ -1591,34 +1642,6 @@ Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje ter
     <message>
         <source>Map and Laps</source>
         <translation>Mapa y vueltas</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocidad</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Inclinación</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Acel./Decel.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Susp. del.</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Susp. tras.</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Comparar posiciones</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Comparar tiempo</translation>
     </message>
     <message>
         <source>   Import   </source>

@@ -457,6 +457,26 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Avance sur le tour %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accél./Décél.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. avant</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. arrière</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -674,6 +694,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accél./Décél.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. avant</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. arrière</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Comparer les positions</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Comparer le temps</translation>
     </message>
 </context>
 <context>
@@ -1591,34 +1642,6 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
     <message>
         <source>Map and Laps</source>
         <translation>Carte et tours</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Vitesse</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Angle</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Accél./Décél.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Susp. avant</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Susp. arrière</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Comparer les positions</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Comparer le temps</translation>
     </message>
     <message>
         <source>   Import   </source>

@@ -457,6 +457,26 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Vantaggio sul giro %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Sosp. ant.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Sosp. post.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -674,6 +694,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>S%1</source>
         <comment>section, short</comment>
         <translation>S%1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Sosp. ant.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Sosp. post.</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Confronta le posizioni</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Confronta il tempo</translation>
     </message>
 </context>
 <context>
@@ -1591,34 +1642,6 @@ Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia ter
     <message>
         <source>Map and Laps</source>
         <translation>Mappa e giri</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocità</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Piega</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Accel./Decel.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Sosp. ant.</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Sosp. post.</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Confronta le posizioni</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Confronta il tempo</translation>
     </message>
     <message>
         <source>   Import   </source>

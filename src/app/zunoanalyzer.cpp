@@ -13,7 +13,6 @@
 #include <QSplitter>
 
 #include <app/aboutwidget.h>
-#include <app/chartwidgets.h>
 #include <app/configurationwidget.h>
 #include <app/help.h>
 #include <library/exportdialogs.h>
@@ -27,6 +26,7 @@
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
 #include <track/map.h>
+#include <views/charts/lapcharts.h>
 #include <views/idealtime/idealtimedialog.h>
 #include <views/laps/lapspane.h>
 #include <views/laps/lapsview.h>
@@ -68,7 +68,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     m_map = new MapPane(this);
     createActions();
     m_infos = new SessionInfos(m_writer, m_language, this);
-    m_charts = new LapCharts(chartWidgets(*m_ui), m_selection, m_settings, this);
+    m_charts = new LapCharts(m_selection, m_settings, this);
     connectParts();
     showNothing();
     openMapsFolder();
@@ -118,7 +118,9 @@ void ZunoAnalyzer::createSplitters()
     QTabWidget *tabs = m_ui->tabWidget;
     m_splitters[0] = make(Qt::Horizontal, VerticalHandle, {m_laps, m_map});
     m_splitters[0]->setStretchFactor(0, 1);
-    m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_ui->bottomWidget});
+    m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_charts});
+    // Until the rider chooses: two parts of the height to three, larger than any least height.
+    m_splitters[1]->setSizes({2000, 3000});
     tabs->clear();
     tabs->addTab(m_splitters[1], tr("Maps and Laps  "));
     tabs->addTab(m_infos, tr(" Session infos  "));
@@ -184,9 +186,22 @@ void ZunoAnalyzer::connectParts()
     connect(m_map, &MapPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
     connect(&m_map->view(), &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
     connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
-    connect(&m_selection, &LapSelection::comparisonRequested, &m_map->view(),
-            &MapViewController::drawTwoLaps);
-    connectCharts(*m_charts, m_laps->table(), m_map->view());
+    connectViews();
+}
+
+// Laps table, charts and map follow each other: a sector that is clicked in the table, the cursor
+// of the charts, a place that is clicked on the map.
+void ZunoAnalyzer::connectViews()
+{
+    const LapsView *table = &m_laps->table();
+    const MapViewController *map = &m_map->view();
+    const ChartState *state = &m_charts->state();
+    connect(&m_selection, &LapSelection::comparisonRequested, map, &MapViewController::drawTwoLaps);
+    connect(table, &LapsView::sectorChosen, state, &ChartState::showSector);
+    connect(map, &MapViewController::samplePicked, state, &ChartState::pinSample);
+    connect(state, &ChartState::stretchShown, map, &MapViewController::showStretch);
+    connect(m_charts, &LapCharts::cursorMoved, map, &MapViewController::drawCursor);
+    connect(m_charts, &LapCharts::secondCursorMoved, map, &MapViewController::drawSecondCursor);
 }
 
 void ZunoAnalyzer::openMapsFolder()

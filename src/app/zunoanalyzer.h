@@ -87,6 +87,7 @@ private:
     void createActions();
     void createSplitters();
     void connectParts();
+    void connectViews();
     void openMapsFolder();
     void openAcquisitionFolder();
     void showSession(Session *session);
