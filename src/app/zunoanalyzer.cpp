@@ -10,15 +10,17 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QSplitter>
+#include <QTreeView>
 
 #include <app/aboutwidget.h>
 #include <app/configurationwidget.h>
 #include <app/help.h>
 #include <library/exportdialogs.h>
+#include <library/librarypane.h>
 #include <library/librarytree.h>
 #include <library/sessionimport.h>
 #include <library/upgradepass.h>
+#include <maps/detection/mapdetection.h>
 #include <maps/dialog/mapswidget.h>
 #include <maps/editor/mapmaker.h>
 #include <maps/page/mappane.h>
@@ -35,15 +37,6 @@
 namespace zuno {
 
 namespace {
-
-constexpr QStringView VerticalHandle = u"QSplitter::handle { image: url(:/Resources/split_v.png); }"
-                                       "QSplitter::handle:vertical { height: 8px;}";
-constexpr QStringView HorizontalHandle
-    = u"QSplitter::handle { image: url(:/Resources/split_h.png); }"
-      "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }";
-constexpr QStringView TabHandle
-    = u"QSplitter::handle { image: url(:/Resources/split_v.png); }"
-      "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }";
 
 constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitter1Sizes,
                                        Setting::Splitter2Sizes, Setting::Splitter3Sizes};
@@ -62,8 +55,8 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     // Before anything that has a text or shows a number.
     loadLanguage(language.isNull() ? m_settings.value(Setting::Language).toString() : language);
     m_ui->setupUi(this);
-    m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
-    m_ui->tw_arbo->installEventFilter(this);
+    m_files = new LibraryPane(m_library, m_settings, this);
+    m_files->view()->installEventFilter(this);
     m_laps = new LapsPane(m_selection, m_settings, this);
     m_map = new MapPane(this);
     createActions();
@@ -72,7 +65,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     connectParts();
     showNothing();
     openMapsFolder();
-    createSplitters();
+    arrangePanes();
     openAcquisitionFolder();
     m_settings.writeDisplayDefaults();
     m_laps->table().applyColumns();
@@ -81,7 +74,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
 ZunoAnalyzer::~ZunoAnalyzer()
 {
     // The views go before what they show.
-    delete m_tree;
+    delete m_files;
     delete m_charts;
     delete m_laps;
 }
@@ -105,48 +98,38 @@ void ZunoAnalyzer::createActions()
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
 }
 
-void ZunoAnalyzer::createSplitters()
+void ZunoAnalyzer::arrangePanes()
 {
-    const auto make
-        = [](Qt::Orientation orientation, QStringView style, const QList<QWidget *> &contents) {
-              auto *splitter = new QSplitter(orientation);
-              for (QWidget *widget : contents)
-                  splitter->addWidget(widget);
-              splitter->setStyleSheet(style.toString());
-              return splitter;
-          };
-    QTabWidget *tabs = m_ui->tabWidget;
-    m_splitters[0] = make(Qt::Horizontal, VerticalHandle, {m_laps, m_map});
-    m_splitters[0]->setStretchFactor(0, 1);
-    m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_charts});
+    m_ui->splitter0->addWidget(m_laps);
+    m_ui->splitter0->addWidget(m_map);
+    m_ui->splitter0->setStretchFactor(0, 1);
+    m_ui->splitter1->addWidget(m_charts);
     // Until the rider chooses: two parts of the height to three, larger than any least height.
-    m_splitters[1]->setSizes({2000, 3000});
-    tabs->clear();
-    tabs->addTab(m_splitters[1], tr("Maps and Laps  "));
-    tabs->addTab(m_infos, tr(" Session infos  "));
-    tabs->setCurrentIndex(0);
-    connect(tabs, &QTabWidget::currentChanged, m_infos, &SessionInfos::onTabChanged);
-    m_splitters[2] = make(Qt::Horizontal, TabHandle, {tabs});
-    m_splitters[3] = make(Qt::Horizontal, VerticalHandle, {m_ui->treePane, m_splitters[2]});
-    m_splitters[3]->setStretchFactor(1, 1);
+    m_ui->splitter1->setSizes({2000, 3000});
+    m_ui->tabWidget->addTab(m_infos, tr(" Session infos  "));
+    connect(m_ui->tabWidget, &QTabWidget::currentChanged, m_infos, &SessionInfos::onTabChanged);
+    m_ui->splitter3->insertWidget(0, m_files);
+    m_ui->splitter3->setStretchFactor(1, 1);
+    setTabOrder(m_files->view(), m_ui->tabWidget);
+    m_splitters = {m_ui->splitter0, m_ui->splitter1, m_ui->splitter2, m_ui->splitter3};
     for (std::size_t i = 0; i < m_splitters.size(); ++i) {
-        m_splitters[i]->setObjectName(QStringLiteral("splitter%1").arg(i));
         m_splitters[i]->restoreState(m_settings.value(SplitterSettings[i]).toByteArray());
         connect(m_splitters[i], &QSplitter::splitterMoved, this, &ZunoAnalyzer::saveSplitterStates);
     }
-    setCentralWidget(m_splitters[3]);
 }
 
 void ZunoAnalyzer::connectParts()
 {
-    connect(m_tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
-    connect(m_tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
-    connect(m_tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
-    connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
+    const LibraryTree *tree = &m_files->tree();
+    connect(tree, &LibraryTree::rowsInserted, this, &ZunoAnalyzer::onAddNewFiles);
+    connect(tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
+    connect(tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
+    connect(tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
+    connect(tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::joined, this,
             [this](const Session *, const QString &message) { tell(message); });
-    connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
+    connect(&m_library, &AcquisitionLibrary::sessionsChanged, tree,
             &LibraryTree::updateViewedStates);
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, this, [this] {
         if (m_display.session() == nullptr)
@@ -156,7 +139,7 @@ void ZunoAnalyzer::connectParts()
             &LapSelection::forget);
     connect(&m_display, &SessionDisplay::mapApplied, this, &ZunoAnalyzer::showSession);
     connect(&m_display, &SessionDisplay::cleared, this, &ZunoAnalyzer::showNothing);
-    connect(&m_display, &SessionDisplay::viewedStateChanged, m_tree,
+    connect(&m_display, &SessionDisplay::viewedStateChanged, tree,
             &LibraryTree::updateViewedStates);
     connect(&m_display, &SessionDisplay::notASession, this, [this](const QString &path) {
         showState(tr("\"%1\" holds no session that can be shown: it is damaged, empty, or was "
@@ -171,17 +154,17 @@ void ZunoAnalyzer::connectParts()
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
             [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);
-    connect(m_tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
-    connect(m_tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
+    connect(tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
+    connect(tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
     connect(&m_laps->table(), &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
     connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
     m_import = new SessionImport(m_library, m_settings, this);
     connect(m_import, &SessionImport::finished, this,
             [this](const ImportResult &result) { result.showIn(*statusBar()); });
     connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
-    connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
+    connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::reloadMaps);
     m_mapMaker = new MapMaker({m_library, m_maps.library(), m_display, m_settings}, this);
-    connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::loadMaps);
+    connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::reloadMaps);
     connect(m_laps, &LapsPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
     connect(m_map, &MapPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
     connect(&m_map->view(), &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
@@ -207,7 +190,8 @@ void ZunoAnalyzer::connectViews()
 void ZunoAnalyzer::openMapsFolder()
 {
     const QString folder = m_settings.mapsFolder();
-    if (m_maps.open(folder))
+    loadMaps(folder);
+    if (QDir(folder).exists())
         m_settings.setValue(Setting::MapFiles, folder);
 }
 
@@ -223,15 +207,15 @@ void ZunoAnalyzer::openAcquisitionFolder()
 void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
 {
     m_library.load(folder);
-    m_tree->setFolder(folder);
-    UpgradePass upgrade({m_library, *m_tree, m_display, m_writer, m_settings});
+    m_files->tree().setFolder(folder);
+    UpgradePass upgrade({m_library, m_files->tree(), m_display, m_writer, m_settings});
     // The tree lists files that were selected before their folder was loaded in the order of their
     // selection, so it starts anew.
     m_isUpgrading = true;
     const bool hasRun = upgrade.runOnce();
     m_isUpgrading = false;
     if (hasRun) {
-        m_tree->setFolder(folder);
+        m_files->tree().setFolder(folder);
         if (m_display.session() != nullptr)
             showSession(m_display.session());
     }
@@ -269,8 +253,8 @@ QMap<QString, bool> ZunoAnalyzer::viewedStateMap() const
 void ZunoAnalyzer::onSessionDisplayedChange()
 {
     // A folder is no session; what is displayed stays.
-    if (m_tree->isCurrentFile())
-        m_display.display(m_tree->currentPath());
+    if (m_files->tree().isCurrentFile())
+        m_display.display(m_files->tree().currentPath());
 }
 
 // Somebody else has replaced a session file, or goes on writing it.
@@ -307,12 +291,28 @@ void ZunoAnalyzer::showLapOnMap()
         m_map->view().clearLaps();
 }
 
-void ZunoAnalyzer::loadMaps()
+void ZunoAnalyzer::onAddNewFiles(const QModelIndex &parent, int first, int last)
 {
-    const QString folder = m_settings.acquisitionFolder();
+    m_files->tree().onAddNewFiles(parent, first, last);
+}
+
+void ZunoAnalyzer::chooseMapByLength(Session *session, const QList<const Map *> &candidates)
+{
+    if (session != nullptr)
+        zuno::chooseMapByLength(*session, candidates);
+}
+
+void ZunoAnalyzer::loadMaps(const QString &folder)
+{
     // The sessions point at the maps, so they go first and come back without one.
-    m_library.reload(folder);
-    m_maps.load();
+    if (m_library.size() > 0)
+        m_library.reload(m_settings.acquisitionFolder());
+    m_maps.open(folder);
+}
+
+void ZunoAnalyzer::reloadMaps()
+{
+    loadMaps(m_settings.mapsFolder());
     onSessionDisplayedChange();
     if (m_display.session() == nullptr)
         showNothing();
@@ -342,7 +342,7 @@ void ZunoAnalyzer::openFile(const QString &path)
 {
     const QString clean = QFileInfo(path).absoluteFilePath();
     if (m_library.find(clean) != nullptr) {
-        m_tree->select(clean);
+        m_files->tree().select(clean);
         return;
     }
     const QString name = QFileInfo(clean).fileName();
@@ -357,7 +357,7 @@ void ZunoAnalyzer::openFile(const QString &path)
         m_import, &SessionImport::finished, this,
         [this, imported](const ImportResult &result) {
             if (result.taken.isEmpty() && m_library.find(imported) != nullptr)
-                m_tree->select(imported);
+                m_files->tree().select(imported);
         },
         Qt::SingleShotConnection);
     m_import->start({clean});
@@ -382,7 +382,7 @@ void ZunoAnalyzer::openMaps()
     connect(&dialog, &MapsWidget::editMap, m_mapMaker, &MapMaker::editMap);
     connect(&dialog, &MapsWidget::renameMap, m_mapMaker, &MapMaker::renameMap);
     connect(&dialog, &MapsWidget::deleteMap, m_mapMaker, &MapMaker::deleteMap);
-    connect(&dialog, &MapsWidget::reloadMaps, this, &ZunoAnalyzer::loadMaps);
+    connect(&dialog, &MapsWidget::reloadMaps, this, &ZunoAnalyzer::reloadMaps);
     connect(this, &ZunoAnalyzer::mapsLoaded, &dialog,
             [this, &dialog] { dialog.setMaps(m_maps.library().maps(), m_display.session()); });
     dialog.exec();
@@ -411,7 +411,7 @@ void ZunoAnalyzer::openStatistics()
 
 void ZunoAnalyzer::goToSession(Session *sess)
 {
-    m_tree->select(sess->filePath());
+    m_files->tree().select(sess->filePath());
 }
 
 void ZunoAnalyzer::openIdealTime(const QList<Session *> &sessions)
@@ -423,7 +423,7 @@ void ZunoAnalyzer::openIdealTime(const QList<Session *> &sessions)
 
 void ZunoAnalyzer::goToLap(const QString &filePath, int lapNumber)
 {
-    m_tree->select(filePath);
+    m_files->tree().select(filePath);
     const Session *session = m_display.session();
     if (session != nullptr && session->filePath() == filePath)
         m_selection.setCurrentLap(lapNumber - 1);
@@ -443,8 +443,8 @@ void ZunoAnalyzer::openAbout()
 
 bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->tw_arbo && event->type() == QEvent::KeyPress
-        && m_tree->handleKey(*static_cast<QKeyEvent *>(event)))
+    if (watched == m_files->view() && event->type() == QEvent::KeyPress
+        && m_files->tree().handleKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QMainWindow::eventFilter(watched, event);
 }

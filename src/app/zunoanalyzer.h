@@ -7,6 +7,7 @@
 #include <memory>
 
 #include <QMainWindow>
+#include <QModelIndex>
 #include <QTranslator>
 
 #include <base/settings.h>
@@ -22,7 +23,7 @@ namespace zuno {
 
 class LapCharts;
 class LapsPane;
-class LibraryTree;
+class LibraryPane;
 class MapMaker;
 class MapPane;
 class SessionImport;
@@ -60,8 +61,14 @@ public Q_SLOTS:
     void detectMap();
     /// The map page listens: gives it the map, the options and the lap to draw.
     void onMapReady();
-    /// Reads the maps again and displays the current session anew.
-    void loadMaps();
+    /// Files have appeared in the tree's folder @p parent.
+    void onAddNewFiles(const QModelIndex &parent, int first, int last);
+    /// Lets go of every map and loads those of @p folder; sessions have none then.
+    void loadMaps(const QString &folder);
+    /// Loads the maps of the settings' folder again and displays the current session anew.
+    void reloadMaps();
+    /// Gives a session that map of the candidates whose length is nearest to its second lap's.
+    void chooseMapByLength(zuno::Session *session, const QList<const zuno::Map *> &candidates);
     void saveSplitterStates();
     void importSession();
     void openSettings();
@@ -85,7 +92,7 @@ protected:
 private:
     void switchTranslator(QTranslator &translator, const QString &file);
     void createActions();
-    void createSplitters();
+    void arrangePanes();
     void connectParts();
     void connectViews();
     void openMapsFolder();
@@ -112,7 +119,7 @@ private:
     SessionDisplay m_display;
     LapsPane *m_laps = nullptr;
     LapCharts *m_charts = nullptr;
-    LibraryTree *m_tree = nullptr;
+    LibraryPane *m_files = nullptr;
     MapMaker *m_mapMaker = nullptr;
     MapPane *m_map = nullptr;
     SessionInfos *m_infos = nullptr;

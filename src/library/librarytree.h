@@ -50,6 +50,10 @@ public:
     /// The same without scrolling, for work on many files.
     void selectOnly(const QString &path);
 
+    /// Takes the session files of @p parent into the library that are not in it; whoever listens to
+    /// rowsInserted() calls it.
+    void onAddNewFiles(const QModelIndex &parent, int first, int last);
+
     /// Acts on a key pressed in the tree; false when it means nothing here.
     bool handleKey(const QKeyEvent &event);
     /// Opens the menu of the current item; @p position is in the view's viewport.
@@ -62,6 +66,8 @@ public:
     void createFolder();
 
 Q_SIGNALS:
+    /// The tree's model has found files or folders.
+    void rowsInserted(const QModelIndex &parent, int first, int last);
     /// Another item has become current.
     void currentChanged();
     /// A file's size or time has changed on the disk.
