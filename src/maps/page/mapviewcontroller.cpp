@@ -171,7 +171,7 @@ void MapViewController::setOptions(const QString &settingsPath)
         return;
     const QSettings settings(settingsPath, QSettings::IniFormat);
     const auto text = [&settings](Setting setting) {
-        return settings.value(Settings::key(setting)).toString();
+        return settings.value(Settings::key(setting), Settings::standard(setting)).toString();
     };
     const PageOptions options {text(Setting::ShowLocalMinMax), text(Setting::ShowPartielsPoints),
                                text(Setting::UseGradientCompare)};
