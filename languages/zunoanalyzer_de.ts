@@ -1640,10 +1640,6 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Karte und Runden</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importieren   </translation>
     </message>

@@ -1640,10 +1640,6 @@ Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje ter
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Mapa y vueltas</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importar   </translation>
     </message>

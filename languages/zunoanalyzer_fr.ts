@@ -1640,10 +1640,6 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Carte et tours</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importer   </translation>
     </message>

@@ -1640,10 +1640,6 @@ Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia ter
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Mappa e giri</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importa   </translation>
     </message>
