@@ -191,6 +191,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Unverändert</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -990,6 +997,25 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Wählen Sie eine Session, um die Runden dieser Karte zu sehen.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Keine vollständige Runde. Länge: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Vollständig: %1. Beste: %2 (Runde %3). Ideal: %4. Länge: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Keine Probleme gefunden.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1062,30 +1088,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <translation>Wie weit von einem Zeitnahmepunkt entfernt eine Runde noch gemessen wird; an der Start-Ziel-Linie doppelt so weit</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Die Pfeiltasten links und rechts verschieben den gewählten Punkt um 1 m, mit Umschalt um 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punkt</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Ab der Linie</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Hinzufügen</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Fügt im längsten Sektor einen Zeitnahmepunkt hinzu; ein Klick auf die Strecke fügt dort einen hinzu</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -1116,34 +1118,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Unverändert</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Start-Ziel</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (auf der Linie)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Wählen Sie eine Session, um die Runden dieser Karte zu sehen.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Keine vollständige Runde. Länge: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Vollständig: %1. Beste: %2 (Runde %3). Ideal: %4. Länge: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>Keine Probleme gefunden.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1273,6 +1247,41 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Map length : %1 m</source>
         <translation>Länge der Karte: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Die Pfeiltasten links und rechts verschieben den gewählten Punkt um 1 m, mit Umschalt um 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Ab der Linie</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Fügt im längsten Sektor einen Zeitnahmepunkt hinzu; ein Klick auf die Strecke fügt dort einen hinzu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Start-Ziel</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (auf der Linie)</translation>
     </message>
 </context>
 <context>

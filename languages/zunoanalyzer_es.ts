@@ -191,6 +191,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Como está</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -990,6 +997,25 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Elija una sesión para ver las vueltas que da el mapa.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Ninguna vuelta completa. Longitud: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Completas: %1. Mejor: %2 (vuelta %3). Ideal: %4. Longitud: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>No se han encontrado problemas.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1062,30 +1088,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <translation>A qué distancia de un punto de cronometraje se toma aún el tiempo; el doble en la línea de meta</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Las flechas izquierda y derecha mueven el punto elegido 1 m; con Mayús, 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punto</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Desde la línea</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Añadir</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Añade un punto de cronometraje en el sector más largo; un clic en la pista lo añade allí</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Quitar</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Guardar</translation>
     </message>
@@ -1116,34 +1118,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Como está</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Meta</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (en la línea)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Elija una sesión para ver las vueltas que da el mapa.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Ninguna vuelta completa. Longitud: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Completas: %1. Mejor: %2 (vuelta %3). Ideal: %4. Longitud: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>No se han encontrado problemas.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1273,6 +1247,41 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Map length : %1 m</source>
         <translation>Longitud del mapa: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Las flechas izquierda y derecha mueven el punto elegido 1 m; con Mayús, 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Desde la línea</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Añade un punto de cronometraje en el sector más largo; un clic en la pista lo añade allí</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (en la línea)</translation>
     </message>
 </context>
 <context>

@@ -191,6 +191,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Tel quel</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -990,6 +997,25 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Choisissez une session pour voir les tours que donne la carte.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Aucun tour complet. Longueur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Complets&#xa0;: %1. Meilleur&#xa0;: %2 (tour %3). Idéal&#xa0;: %4. Longueur&#xa0;: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Aucun problème trouvé.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1062,30 +1088,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <translation>Jusqu&apos;à quelle distance d&apos;un point de chronométrage un tour est chronométré&#xa0;; le double sur la ligne de départ/arrivée</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Les flèches gauche et droite déplacent le point sélectionné de 1 m, avec Maj de 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Point</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Depuis la ligne</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Ajouter</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Ajoute un point de chronométrage dans le secteur le plus long&#xa0;; un clic sur la piste en ajoute un à cet endroit</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Retirer</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
@@ -1116,34 +1118,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>%1 m</source>
         <translation>%1&#xa0;m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Tel quel</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Départ/arrivée</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (sur la ligne)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Choisissez une session pour voir les tours que donne la carte.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Aucun tour complet. Longueur&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Complets&#xa0;: %1. Meilleur&#xa0;: %2 (tour %3). Idéal&#xa0;: %4. Longueur&#xa0;: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>Aucun problème trouvé.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1273,6 +1247,41 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Map length : %1 m</source>
         <translation>Longueur de la carte&#xa0;: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Les flèches gauche et droite déplacent le point sélectionné de 1 m, avec Maj de 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Depuis la ligne</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Ajoute un point de chronométrage dans le secteur le plus long&#xa0;; un clic sur la piste en ajoute un à cet endroit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Départ/arrivée</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (sur la ligne)</translation>
     </message>
 </context>
 <context>

@@ -191,6 +191,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Così com&apos;è</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -990,6 +997,25 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Scegli una sessione per vedere i giri che la mappa ne ricava.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Nessun giro completo. Lunghezza: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Completi: %1. Migliore: %2 (giro %3). Ideale: %4. Lunghezza: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Nessun problema trovato.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1062,30 +1088,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <translation>Fino a che distanza da un punto di intertempo un giro viene cronometrato; il doppio sul traguardo</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Le frecce sinistra e destra spostano il punto selezionato di 1 m, con Shift di 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punto</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Dal traguardo</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Aggiungi</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Aggiunge un punto di intertempo nel settore più lungo; un clic sulla pista ne aggiunge uno in quel punto</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Rimuovi</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Salva</translation>
     </message>
@@ -1116,34 +1118,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>%1 m</source>
         <translation>%1&#xa0;m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Così com&apos;è</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Traguardo</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (sul traguardo)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Scegli una sessione per vedere i giri che la mappa ne ricava.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Nessun giro completo. Lunghezza: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Completi: %1. Migliore: %2 (giro %3). Ideale: %4. Lunghezza: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>Nessun problema trovato.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1273,6 +1247,41 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Map length : %1 m</source>
         <translation>Lunghezza della mappa: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Le frecce sinistra e destra spostano il punto selezionato di 1 m, con Shift di 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Dal traguardo</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Aggiunge un punto di intertempo nel settore più lungo; un clic sulla pista ne aggiunge uno in quel punto</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Traguardo</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (sul traguardo)</translation>
     </message>
 </context>
 <context>
