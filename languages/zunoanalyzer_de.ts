@@ -245,6 +245,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Unverändert</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -286,36 +293,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Wurde sie auf einer anderen Strecke gefahren, so wählen Sie deren Karte mit „Karten“ (Strg+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Keine Karte gefunden, bitte in der Kartenauswahl eine wählen</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Karte: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Länge der Karte: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Idealzeit: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Gefahrene Strecke: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Sektor</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Bestzeit</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Runde</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -542,6 +525,26 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Vorsprung auf Runde %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Beschl./Verzög.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Fed. vorn</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Fed. hinten</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -762,6 +765,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Beschl./Verzög.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Fed. vorn</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Fed. hinten</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Positionen vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Zeit vergleichen</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -790,6 +824,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>held up</source>
         <translation>aufgehalten</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Idealzeit:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Gefahrene Strecke:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Neue Karte aus dieser Session...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Die Bestzeit jedes Sektors und die Runde, in der sie gefahren wurde</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sektor</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Bestzeit</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Runde</translation>
     </message>
 </context>
 <context>
@@ -1009,6 +1074,25 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Wählen Sie eine Session, um die Runden dieser Karte zu sehen.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Keine vollständige Runde. Länge: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Vollständig: %1. Beste: %2 (Runde %3). Ideal: %4. Länge: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Keine Probleme gefunden.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1081,30 +1165,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <translation>Wie weit von einem Zeitnahmepunkt entfernt eine Runde noch gemessen wird; an der Start-Ziel-Linie doppelt so weit</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Die Pfeiltasten links und rechts verschieben den gewählten Punkt um 1 m, mit Umschalt um 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punkt</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Ab der Linie</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Hinzufügen</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Fügt im längsten Sektor einen Zeitnahmepunkt hinzu; ein Klick auf die Strecke fügt dort einen hinzu</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Entfernen</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -1135,34 +1195,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Unverändert</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Start-Ziel</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (auf der Linie)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Wählen Sie eine Session, um die Runden dieser Karte zu sehen.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Keine vollständige Runde. Länge: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Vollständig: %1. Beste: %2 (Runde %3). Ideal: %4. Länge: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>Keine Probleme gefunden.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1261,6 +1293,72 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>New track</source>
         <translation>Neue Strecke</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Karte:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Länge der Karte:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Neue Karte aus dieser Session...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Keine Karte gefunden, bitte in der Kartenauswahl eine wählen</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Karte: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Länge der Karte: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Die Pfeiltasten links und rechts verschieben den gewählten Punkt um 1 m, mit Umschalt um 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Ab der Linie</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Fügt im längsten Sektor einen Zeitnahmepunkt hinzu; ein Klick auf die Strecke fügt dort einen hinzu</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Start-Ziel</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (auf der Linie)</translation>
     </message>
 </context>
 <context>
@@ -1394,6 +1492,58 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>%1 / %2</source>
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Strecke:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Beste Runde:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Idealzeit:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Veranstaltung:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Fahrer:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Motorrad:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Reifen:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Streckentemperatur:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>Grad</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Streckenzustand:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notizen:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Hier zum Beispiel Reifendrücke und Fahrwerkseinstellungen eintragen...</translation>
     </message>
 </context>
 <context>
@@ -1580,114 +1730,6 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Karte und Runden</translation>
-    </message>
-    <message>
-        <source>Ideal time :</source>
-        <translation>Idealzeit:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Gefahrene Strecke:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>Die Bestzeit jedes Sektors und die Runde, in der sie gefahren wurde</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Karte:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Länge der Karte:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Tempo</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Schräglage</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Beschl./Verzög.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Fed. vorn</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Fed. hinten</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Positionen vergleichen</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Zeit vergleichen</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Session-Infos</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Datum:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Strecke:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Beste Runde:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Veranstaltung:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Fahrer:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Motorrad:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Reifen:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Streckentemperatur:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>Grad</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>Streckenzustand:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Notizen:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Hier zum Beispiel Reifendrücke und Fahrwerkseinstellungen eintragen...</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importieren   </translation>
     </message>
@@ -1748,10 +1790,6 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Runde %1 (%2) gegen Runde %3 (%4): %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Neue Karte aus dieser Session...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

@@ -245,6 +245,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Como está</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -286,36 +293,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Si se rodó en otro circuito, elija su mapa con «Mapas» (Ctrl+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Ningún mapa encontrado, elija uno en la configuración de mapas</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Mapa: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Longitud del mapa: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Tiempo ideal: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Distancia recorrida: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Sector</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Mejor tiempo</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Vuelta</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -542,6 +525,26 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Ventaja sobre la vuelta %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Acel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. del.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. tras.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -762,6 +765,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Acel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. del.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. tras.</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Comparar posiciones</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Comparar tiempo</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -790,6 +824,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>held up</source>
         <translation>estorbado</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tiempo ideal:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distancia recorrida:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuevo mapa de esta sesión...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>El mejor tiempo de cada sector y la vuelta en que se hizo</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Sector</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Mejor tiempo</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Vuelta</translation>
     </message>
 </context>
 <context>
@@ -1009,6 +1074,25 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Elija una sesión para ver las vueltas que da el mapa.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Ninguna vuelta completa. Longitud: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Completas: %1. Mejor: %2 (vuelta %3). Ideal: %4. Longitud: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>No se han encontrado problemas.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1081,30 +1165,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <translation>A qué distancia de un punto de cronometraje se toma aún el tiempo; el doble en la línea de meta</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Las flechas izquierda y derecha mueven el punto elegido 1 m; con Mayús, 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punto</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Desde la línea</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Añadir</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Añade un punto de cronometraje en el sector más largo; un clic en la pista lo añade allí</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Quitar</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Guardar</translation>
     </message>
@@ -1135,34 +1195,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>%1 m</source>
         <translation>%1 m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Como está</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Meta</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (en la línea)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Elija una sesión para ver las vueltas que da el mapa.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Ninguna vuelta completa. Longitud: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Completas: %1. Mejor: %2 (vuelta %3). Ideal: %4. Longitud: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>No se han encontrado problemas.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1261,6 +1293,72 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>New track</source>
         <translation>Circuito nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Mapa:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Longitud del mapa:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuevo mapa de esta sesión...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Ningún mapa encontrado, elija uno en la configuración de mapas</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mapa: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Longitud del mapa: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Las flechas izquierda y derecha mueven el punto elegido 1 m; con Mayús, 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Desde la línea</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Añade un punto de cronometraje en el sector más largo; un clic en la pista lo añade allí</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (en la línea)</translation>
     </message>
 </context>
 <context>
@@ -1394,6 +1492,58 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>%1 / %2</source>
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Mejor vuelta:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tiempo ideal:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Piloto:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Neumáticos:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. de la pista:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>grados</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Estado de la pista:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notas:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Anote aquí, por ejemplo, las presiones de los neumáticos, los reglajes de suspensión...</translation>
     </message>
 </context>
 <context>
@@ -1580,114 +1730,6 @@ Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje ter
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Mapa y vueltas</translation>
-    </message>
-    <message>
-        <source>Ideal time :</source>
-        <translation>Tiempo ideal:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Distancia recorrida:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>El mejor tiempo de cada sector y la vuelta en que se hizo</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Mapa:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Longitud del mapa:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocidad</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Inclinación</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Acel./Decel.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Susp. del.</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Susp. tras.</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Comparar posiciones</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Comparar tiempo</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Datos de sesiones</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Fecha:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Circuito:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Mejor vuelta:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Evento:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Piloto:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Moto:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Neumáticos:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Temp. de la pista:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>grados</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>Estado de la pista:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Notas:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Anote aquí, por ejemplo, las presiones de los neumáticos, los reglajes de suspensión...</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importar   </translation>
     </message>
@@ -1748,10 +1790,6 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Vuelta %1 (%2) frente a vuelta %3 (%4): %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Nuevo mapa de esta sesión...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

@@ -245,6 +245,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Tel quel</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -286,36 +293,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Si elle a été roulée sur un autre circuit, choisissez la carte de ce circuit avec «&#xa0;Cartes&#xa0;» (Ctrl+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Aucune carte trouvée, choisissez-en une dans la configuration des cartes</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Carte&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Longueur de la carte&#xa0;: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Temps idéal&#xa0;: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Distance parcourue&#xa0;: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Secteur</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Meilleur temps</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Tour</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -542,6 +525,26 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Avance sur le tour %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accél./Décél.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. avant</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. arrière</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -762,6 +765,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accél./Décél.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Susp. avant</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Susp. arrière</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Comparer les positions</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Comparer le temps</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -790,6 +824,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>held up</source>
         <translation>gêné</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Temps idéal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distance parcourue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nouvelle carte à partir de cette session...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Le meilleur temps de chaque secteur et le tour qui le détient</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Secteur</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Meilleur temps</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Tour</translation>
     </message>
 </context>
 <context>
@@ -1009,6 +1074,25 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Choisissez une session pour voir les tours que donne la carte.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Aucun tour complet. Longueur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Complets&#xa0;: %1. Meilleur&#xa0;: %2 (tour %3). Idéal&#xa0;: %4. Longueur&#xa0;: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Aucun problème trouvé.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1081,30 +1165,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <translation>Jusqu&apos;à quelle distance d&apos;un point de chronométrage un tour est chronométré&#xa0;; le double sur la ligne de départ/arrivée</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Les flèches gauche et droite déplacent le point sélectionné de 1 m, avec Maj de 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Point</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Depuis la ligne</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Ajouter</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Ajoute un point de chronométrage dans le secteur le plus long&#xa0;; un clic sur la piste en ajoute un à cet endroit</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Retirer</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
@@ -1135,34 +1195,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>%1 m</source>
         <translation>%1&#xa0;m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Tel quel</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Départ/arrivée</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (sur la ligne)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Choisissez une session pour voir les tours que donne la carte.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Aucun tour complet. Longueur&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Complets&#xa0;: %1. Meilleur&#xa0;: %2 (tour %3). Idéal&#xa0;: %4. Longueur&#xa0;: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>Aucun problème trouvé.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1261,6 +1293,72 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>New track</source>
         <translation>Nouveau circuit</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Carte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Longueur de la carte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nouvelle carte à partir de cette session...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Aucune carte trouvée, choisissez-en une dans la configuration des cartes</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Carte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Longueur de la carte&#xa0;: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Les flèches gauche et droite déplacent le point sélectionné de 1 m, avec Maj de 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Depuis la ligne</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Ajoute un point de chronométrage dans le secteur le plus long&#xa0;; un clic sur la piste en ajoute un à cet endroit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Départ/arrivée</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (sur la ligne)</translation>
     </message>
 </context>
 <context>
@@ -1394,6 +1492,58 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>%1 / %2</source>
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuit&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Meilleur tour&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Temps idéal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Événement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilote&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Pneus&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>degrés</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>État de la piste&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Notes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Notez ici, par exemple, vos pressions de pneus, vos réglages de suspension...</translation>
     </message>
 </context>
 <context>
@@ -1580,114 +1730,6 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Carte et tours</translation>
-    </message>
-    <message>
-        <source>Ideal time :</source>
-        <translation>Temps idéal&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Distance parcourue&#xa0;:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>Le meilleur temps de chaque secteur et le tour qui le détient</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Carte&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Longueur de la carte&#xa0;:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Vitesse</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Angle</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Accél./Décél.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Susp. avant</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Susp. arrière</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Comparer les positions</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Comparer le temps</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Infos des sessions</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Date&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Circuit&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Meilleur tour&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Événement&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Pilote&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Moto&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Pneus&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Temp. de la piste&#xa0;:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>degrés</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>État de la piste&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Notes&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Notez ici, par exemple, vos pressions de pneus, vos réglages de suspension...</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importer   </translation>
     </message>
@@ -1748,10 +1790,6 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Tour %1 (%2) contre tour %3 (%4)&#xa0;: %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Nouvelle carte à partir de cette session...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

@@ -245,6 +245,13 @@
     </message>
 </context>
 <context>
+    <name>OutlineChoice</name>
+    <message>
+        <source>As it is</source>
+        <translation>Così com&apos;è</translation>
+    </message>
+</context>
+<context>
     <name>SessionFile</name>
     <message>
         <source>cannot be read</source>
@@ -286,36 +293,12 @@ If it was ridden on another circuit, choose its map with &quot;Maps&quot; (Ctrl+
 Se hai girato su un altro circuito, scegli la sua mappa con «Mappe» (Ctrl+M).</translation>
     </message>
     <message>
-        <source>No map found, please try to select one from the Map configuraton panel</source>
-        <translation>Nessuna mappa trovata, scegline una nella configurazione delle mappe</translation>
-    </message>
-    <message>
-        <source>Map : %1</source>
-        <translation>Mappa: %1</translation>
-    </message>
-    <message>
-        <source>Map length : %1 m</source>
-        <translation>Lunghezza della mappa: %1 m</translation>
-    </message>
-    <message>
         <source>Ideal Time : %1</source>
         <translation>Tempo ideale: %1</translation>
     </message>
     <message>
         <source>Traveled distance : %1 m</source>
         <translation>Distanza percorsa: %1 m</translation>
-    </message>
-    <message>
-        <source>Section</source>
-        <translation>Settore</translation>
-    </message>
-    <message>
-        <source>Best time</source>
-        <translation>Miglior tempo</translation>
-    </message>
-    <message>
-        <source>Lap</source>
-        <translation>Giro</translation>
     </message>
     <message>
         <source>Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time : %4 --- max speed : %5 km/h</source>
@@ -542,6 +525,26 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Ahead on the lap %1 (%2 - %3)</source>
         <translation>Vantaggio sul giro %1 (%2 - %3)</translation>
     </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Sosp. ant.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Sosp. post.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::DownloadInProgress</name>
@@ -762,6 +765,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::LapCharts</name>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accel./Decel.</translation>
+    </message>
+    <message>
+        <source>Front susp.</source>
+        <translation>Sosp. ant.</translation>
+    </message>
+    <message>
+        <source>Rear susp.</source>
+        <translation>Sosp. post.</translation>
+    </message>
+    <message>
+        <source>Compare positions</source>
+        <translation>Confronta le posizioni</translation>
+    </message>
+    <message>
+        <source>Compare time</source>
+        <translation>Confronta il tempo</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -790,6 +824,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>held up</source>
         <translation>ostacolato</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapsPane</name>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tempo ideale:</translation>
+    </message>
+    <message>
+        <source>Traveled distance :</source>
+        <translation>Distanza percorsa:</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuova mappa da questa sessione...</translation>
+    </message>
+    <message>
+        <source>The best time of each section, and the lap that holds it</source>
+        <translation>Il miglior tempo di ogni settore e il giro in cui è stato fatto</translation>
+    </message>
+    <message>
+        <source>Section</source>
+        <translation>Settore</translation>
+    </message>
+    <message>
+        <source>Best time</source>
+        <translation>Miglior tempo</translation>
+    </message>
+    <message>
+        <source>Lap</source>
+        <translation>Giro</translation>
     </message>
 </context>
 <context>
@@ -1009,6 +1074,25 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::MapCheckPane</name>
+    <message>
+        <source>Choose a session to see the laps that the map gives.</source>
+        <translation>Scegli una sessione per vedere i giri che la mappa ne ricava.</translation>
+    </message>
+    <message>
+        <source>No complete lap. Length: %1</source>
+        <translation>Nessun giro completo. Lunghezza: %1</translation>
+    </message>
+    <message>
+        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
+        <translation>Completi: %1. Migliore: %2 (giro %3). Ideale: %4. Lunghezza: %5</translation>
+    </message>
+    <message>
+        <source>No problems found.</source>
+        <translation>Nessun problema trovato.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::MapDraft</name>
     <message>
         <source>The folder &quot;%1&quot; cannot be made.</source>
@@ -1081,30 +1165,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <translation>Fino a che distanza da un punto di intertempo un giro viene cronometrato; il doppio sul traguardo</translation>
     </message>
     <message>
-        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
-        <translation>Le frecce sinistra e destra spostano il punto selezionato di 1 m, con Shift di 10 m</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punto</translation>
-    </message>
-    <message>
-        <source>From the line</source>
-        <translation>Dal traguardo</translation>
-    </message>
-    <message>
-        <source>Add</source>
-        <translation>Aggiungi</translation>
-    </message>
-    <message>
-        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
-        <translation>Aggiunge un punto di intertempo nel settore più lungo; un clic sulla pista ne aggiunge uno in quel punto</translation>
-    </message>
-    <message>
-        <source>Remove</source>
-        <translation>Rimuovi</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Salva</translation>
     </message>
@@ -1135,34 +1195,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>%1 m</source>
         <translation>%1&#xa0;m</translation>
-    </message>
-    <message>
-        <source>As it is</source>
-        <translation>Così com&apos;è</translation>
-    </message>
-    <message>
-        <source>Start/finish</source>
-        <translation>Traguardo</translation>
-    </message>
-    <message>
-        <source>%1 (on the line)</source>
-        <translation>%1 (sul traguardo)</translation>
-    </message>
-    <message>
-        <source>Choose a session to see the laps that the map gives.</source>
-        <translation>Scegli una sessione per vedere i giri che la mappa ne ricava.</translation>
-    </message>
-    <message>
-        <source>No complete lap. Length: %1</source>
-        <translation>Nessun giro completo. Lunghezza: %1</translation>
-    </message>
-    <message>
-        <source>Complete laps: %1. Best: %2 (lap %3). Ideal: %4. Length: %5</source>
-        <translation>Completi: %1. Migliore: %2 (giro %3). Ideale: %4. Lunghezza: %5</translation>
-    </message>
-    <message>
-        <source>No problems found.</source>
-        <translation>Nessun problema trovato.</translation>
     </message>
     <message>
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
@@ -1261,6 +1293,72 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>New track</source>
         <translation>Nuovo circuito</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPane</name>
+    <message>
+        <source>Map :</source>
+        <translation>Mappa:</translation>
+    </message>
+    <message>
+        <source>Map Length :</source>
+        <translation>Lunghezza della mappa:</translation>
+    </message>
+    <message>
+        <source>errorMap</source>
+        <translation>errorMap</translation>
+    </message>
+    <message>
+        <source>New map from this session...</source>
+        <translation>Nuova mappa da questa sessione...</translation>
+    </message>
+    <message>
+        <source>No map found, please try to select one from the Map configuraton panel</source>
+        <translation>Nessuna mappa trovata, scegline una nella configurazione delle mappe</translation>
+    </message>
+    <message>
+        <source>Map : %1</source>
+        <translation>Mappa: %1</translation>
+    </message>
+    <message>
+        <source>Map length : %1 m</source>
+        <translation>Lunghezza della mappa: %1 m</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MapPointsPane</name>
+    <message>
+        <source>Left and right arrows move the selected point by 1 m, with Shift by 10 m</source>
+        <translation>Le frecce sinistra e destra spostano il punto selezionato di 1 m, con Shift di 10 m</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Dal traguardo</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Adds a timing point in the longest section; a click on the track adds one there</source>
+        <translation>Aggiunge un punto di intertempo nel settore più lungo; un clic sulla pista ne aggiunge uno in quel punto</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Start/finish</source>
+        <translation>Traguardo</translation>
+    </message>
+    <message>
+        <source>%1 (on the line)</source>
+        <translation>%1 (sul traguardo)</translation>
     </message>
 </context>
 <context>
@@ -1394,6 +1492,58 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>%1 / %2</source>
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Data:</translation>
+    </message>
+    <message>
+        <source>Track :</source>
+        <translation>Circuito:</translation>
+    </message>
+    <message>
+        <source>Best lap :</source>
+        <translation>Giro migliore:</translation>
+    </message>
+    <message>
+        <source>Ideal time :</source>
+        <translation>Tempo ideale:</translation>
+    </message>
+    <message>
+        <source>Event :</source>
+        <translation>Evento:</translation>
+    </message>
+    <message>
+        <source>Driver :</source>
+        <translation>Pilota:</translation>
+    </message>
+    <message>
+        <source>Vehicle :</source>
+        <translation>Moto:</translation>
+    </message>
+    <message>
+        <source>Tires :</source>
+        <translation>Pneumatici:</translation>
+    </message>
+    <message>
+        <source>Track temp :</source>
+        <translation>Temp. della pista:</translation>
+    </message>
+    <message>
+        <source>degres</source>
+        <translation>gradi</translation>
+    </message>
+    <message>
+        <source>Track condition :</source>
+        <translation>Stato della pista:</translation>
+    </message>
+    <message>
+        <source>Notes :</source>
+        <translation>Note:</translation>
+    </message>
+    <message>
+        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
+        <translation>Inserisci qui, per esempio, le pressioni delle gomme, le regolazioni delle sospensioni...</translation>
     </message>
 </context>
 <context>
@@ -1580,114 +1730,6 @@ Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia ter
         <translation>ZUNO Analyzer</translation>
     </message>
     <message>
-        <source>Map and Laps</source>
-        <translation>Mappa e giri</translation>
-    </message>
-    <message>
-        <source>Ideal time :</source>
-        <translation>Tempo ideale:</translation>
-    </message>
-    <message>
-        <source>Traveled distance :</source>
-        <translation>Distanza percorsa:</translation>
-    </message>
-    <message>
-        <source>The best time of each section, and the lap that holds it</source>
-        <translation>Il miglior tempo di ogni settore e il giro in cui è stato fatto</translation>
-    </message>
-    <message>
-        <source>Map :</source>
-        <translation>Mappa:</translation>
-    </message>
-    <message>
-        <source>Map Length :</source>
-        <translation>Lunghezza della mappa:</translation>
-    </message>
-    <message>
-        <source>errorMap</source>
-        <translation>errorMap</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocità</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Piega</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Accel./Decel.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Sosp. ant.</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Sosp. post.</translation>
-    </message>
-    <message>
-        <source>Compare positions</source>
-        <translation>Confronta le posizioni</translation>
-    </message>
-    <message>
-        <source>Compare time</source>
-        <translation>Confronta il tempo</translation>
-    </message>
-    <message>
-        <source>Sessions infos</source>
-        <translation>Info sessioni</translation>
-    </message>
-    <message>
-        <source>Date :</source>
-        <translation>Data:</translation>
-    </message>
-    <message>
-        <source>Track :</source>
-        <translation>Circuito:</translation>
-    </message>
-    <message>
-        <source>Best lap :</source>
-        <translation>Giro migliore:</translation>
-    </message>
-    <message>
-        <source>Event :</source>
-        <translation>Evento:</translation>
-    </message>
-    <message>
-        <source>Driver :</source>
-        <translation>Pilota:</translation>
-    </message>
-    <message>
-        <source>Vehicle :</source>
-        <translation>Moto:</translation>
-    </message>
-    <message>
-        <source>Tires :</source>
-        <translation>Pneumatici:</translation>
-    </message>
-    <message>
-        <source>Track temp :</source>
-        <translation>Temp. della pista:</translation>
-    </message>
-    <message>
-        <source>degres</source>
-        <translation>gradi</translation>
-    </message>
-    <message>
-        <source>Track condition :</source>
-        <translation>Stato della pista:</translation>
-    </message>
-    <message>
-        <source>Notes :</source>
-        <translation>Note:</translation>
-    </message>
-    <message>
-        <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
-        <translation>Inserisci qui, per esempio, le pressioni delle gomme, le regolazioni delle sospensioni...</translation>
-    </message>
-    <message>
         <source>   Import   </source>
         <translation>   Importa   </translation>
     </message>
@@ -1748,10 +1790,6 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     <message>
         <source>Lap %1 (%2) against lap %3 (%4): %5 s</source>
         <translation>Giro %1 (%2) contro giro %3 (%4): %5 s</translation>
-    </message>
-    <message>
-        <source>New map from this session...</source>
-        <translation>Nuova mappa da questa sessione...</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer there: it was deleted or moved.</source>

@@ -5,6 +5,8 @@
 #include <memory>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -14,10 +16,11 @@
 #include <session/session.h>
 #include <track/map.h>
 #include <views/charts/lapchart.h>
+#include <views/charts/lapcharts.h>
 #include <views/laps/lapselection.h>
 
 #include "builders.h"
-#include "chartpane.h"
+#include "widgets.h"
 
 using namespace zuno;
 using namespace zuno::test;
@@ -59,6 +62,8 @@ struct Charts
         }
         return titles.join(u' ');
     }
+    [[nodiscard]] QCheckBox &box(const char *name) const { return child<QCheckBox>(pane, name); }
+    [[nodiscard]] QLabel &label(const char *name) const { return child<QLabel>(pane, name); }
     /// Cursor and visible range to the metre or second.
     [[nodiscard]] int cursor() const { return qRound(state.cursorPlace()); }
     [[nodiscard]] QPoint visible() const
@@ -81,9 +86,8 @@ struct Charts
     std::unique_ptr<Lap> first = straight(1, u"0..400/10"_s);
     std::unique_ptr<Lap> second = straight(2, u"0..400/8"_s);
     LapSelection selection;
-    ChartPane pane;
-    LapCharts charts {pane.widgets, selection, settings};
-    ChartState &state = charts.state();
+    LapCharts pane {selection, settings};
+    ChartState &state = pane.state();
 };
 
 } // namespace
@@ -96,17 +100,17 @@ private Q_SLOTS:
     void visibility()
     {
         Charts view;
-        const auto &boxes = view.pane.widgets.channels;
         QCOMPARE(view.shown(), u"Speed Lean"_s);
         // Checked, but there is nothing to show.
-        QVERIFY(boxes[2]->isChecked() && !boxes[2]->isEnabled());
-        QCOMPARE(boxes[3]->toolTip(), u"This recording holds no front suspension."_s);
-        boxes[1]->setChecked(false);
+        QVERIFY(view.box("cb_accel").isChecked() && !view.box("cb_accel").isEnabled());
+        QCOMPARE(view.box("cb_frontSuspension").toolTip(),
+                 u"This recording holds no front suspension."_s);
+        view.box("cb_angleLandR").setChecked(false);
         QCOMPARE(view.shown(), u"Speed"_s);
-        QVERIFY(view.pane.widgets.labels.rows[1].first->isHidden());
-        ChartPane next;
-        const LapCharts started(next.widgets, view.selection, view.settings);
-        QVERIFY(next.widgets.channels[0]->isChecked() && !next.widgets.channels[1]->isChecked());
+        QVERIFY(view.label("angle").isHidden());
+        const LapCharts next(view.selection, view.settings);
+        QVERIFY(child<QCheckBox>(next, "cb_speed").isChecked()
+                && !child<QCheckBox>(next, "cb_angleLandR").isChecked());
         view.state.showLap({});
         QVERIFY(view.pane.isHidden());
     }
@@ -115,8 +119,8 @@ private Q_SLOTS:
     void axisBoxes()
     {
         Charts view;
-        QCheckBox *position = view.pane.widgets.byPosition;
-        QCheckBox *time = view.pane.widgets.byTime;
+        QCheckBox *position = &view.box("cb_comparePositions2");
+        QCheckBox *time = &view.box("cb_compareTime");
         for (QCheckBox *clicked : {time, time, position, position}) {
             const bool wasByTime = time->isChecked();
             clicked->click();
@@ -128,10 +132,10 @@ private Q_SLOTS:
     void cursor()
     {
         Charts view;
-        const QSignalSpy moved(&view.charts, &LapCharts::cursorMoved);
+        const QSignalSpy moved(&view.pane, &LapCharts::cursorMoved);
         view.mouse(QEvent::MouseMove, 104);
-        QCOMPARE(view.pane.widgets.labels.rows[0].first->text(), u"20.0 km/h"_s);
-        QCOMPARE(view.pane.widgets.labels.time->text(), u"00:01.000   100 m"_s);
+        QCOMPARE(view.label("vitesse").text(), u"20.0 km/h"_s);
+        QCOMPARE(view.label("timeFromStart").text(), u"00:01.000   100 m"_s);
         QVERIFY(moved.last()[0].toString().contains(u"\"dataTimeStamp\":1000,"_s));
         view.mouse(QEvent::MouseButtonPress, 200, true);
         view.mouse(QEvent::MouseButtonRelease, 200);
@@ -164,11 +168,11 @@ private Q_SLOTS:
         view.mouse(QEvent::MouseButtonRelease, 100);
         QCOMPARE(view.visible(), QPoint(100, 300));
         QCOMPARE(view.cursor(), 100);
-        view.pane.widgets.byTime->click();
+        view.box("cb_compareTime").click();
         QCOMPARE(view.visible(), QPoint(1, 3));
         QTest::keyClick(&view.chart(), Qt::Key_Escape);
         QVERIFY(!view.state.isZoomed());
-        view.pane.widgets.byPosition->click();
+        view.box("cb_comparePositions2").click();
         view.state.pin(200);
         QTest::keyClick(&view.chart(), Qt::Key_Plus);
         QCOMPARE(view.visible(), QPoint(40, 360));
@@ -198,24 +202,25 @@ private Q_SLOTS:
     {
         Charts view;
         view.compare(*view.first, *view.second);
-        const CursorLabels::Row &speed = view.pane.widgets.labels.rows[0];
-        const QLabel &gap = *view.pane.widgets.labels.gap;
+        const QLabel &speed = view.label("vitesse");
+        const QLabel &secondSpeed = view.label("vitesse2");
+        const QLabel &gap = view.label("diffTime");
         QCOMPARE(view.shown(), u"Time Speed Lean"_s);
-        const QSignalSpy second(&view.charts, &LapCharts::secondCursorMoved);
+        const QSignalSpy second(&view.pane, &LapCharts::secondCursorMoved);
         view.state.pin(100);
-        QCOMPARE(speed.first->text() + speed.second->text() + speed.difference->text(),
+        QCOMPARE(speed.text() + secondSpeed.text() + view.label("diffSpeed").text(),
                  u"20.0 km/h32.5 km/h-12.5 km/h"_s);
         QCOMPARE(gap.text(), u"Ahead on the lap 2 (Ride.ra1 - 00:05.000) : 0.250 s"_s);
         QVERIFY(second.last()[0].toString().contains(u"\"dataTimeStamp\":1250,"_s));
-        view.pane.widgets.byTime->click();
+        view.box("cb_compareTime").click();
         QCOMPARE(view.state.whole().to, 5.0);
-        QCOMPARE(speed.second->text(), u"30.0 km/h"_s);
+        QCOMPARE(secondSpeed.text(), u"30.0 km/h"_s);
         view.compare(*view.second, *view.first);
         view.state.pin(5.0);
-        QCOMPARE(speed.second->text(), u"\u2013"_s);
+        QCOMPARE(secondSpeed.text(), u"\u2013"_s);
         QCOMPARE(gap.text(), u"Delay on the lap 1 : 1.000 s"_s);
         view.state.showLap({&view.session, view.first.get()});
-        QVERIFY(speed.second->isHidden() && gap.isHidden());
+        QVERIFY(secondSpeed.isHidden() && gap.isHidden());
     }
 
     void lostSamples()

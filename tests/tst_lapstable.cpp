@@ -28,8 +28,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Columns = LapsTableModel::FirstSection + 3;
-
 using MapPointer = std::unique_ptr<Map>;
 
 MapPointer circuit(const QString &name = u"/Hill.map"_s)
@@ -196,14 +194,14 @@ private Q_SLOTS:
     {
         Table table;
         const auto &model = *table.table.model();
-        const QString red(Columns, u'r');
+        const QString red(model.columnCount(), u'r');
         const auto rows = [&model] {
             QStringList rows;
             for (int row = 0; row < 5; ++row)
                 rows.append(::colours(model, row));
             return rows;
         };
-        const QString none(Columns, u'.');
+        const QString none(model.columnCount(), u'.');
         const QString rear = u"............gg..."_s;
         QCOMPARE(rows(),
                  QStringList({none, u"..............mm."_s, u"...gg.gggggg....m"_s, rear, none}));
@@ -219,14 +217,22 @@ private Q_SLOTS:
     {
         Table table;
         QCOMPARE(hidden(table.table), u"10 11 12 13"_s);
+        // As a rider has it who used the program before there were settings: each has its default.
         QFile::remove(table.settings.path(SettingsFile::Analyzer));
-        // A missing key hides its column; in the order of the columns, each setting shows the next.
+        table.view.applyColumns();
+        QCOMPARE(hidden(table.table), u"10 11 12 13"_s);
+        // In the order of the columns, each setting shows the next.
+        const Setting settings[] {Setting::ShowLapType,      Setting::ShowCumulatedTime,
+                                  Setting::ShowMaxSpeed,     Setting::ShowMinSpeed,
+                                  Setting::ShowAngleLeft,    Setting::ShowAngleRight,
+                                  Setting::ShowAccel,        Setting::ShowDecel,
+                                  Setting::ShowMinFrontSusp, Setting::ShowMaxFrontSusp,
+                                  Setting::ShowMinRearSusp,  Setting::ShowMaxRearSusp};
+        for (const Setting setting : settings)
+            table.settings.setValue(setting, false);
+        table.settings.setValue(Setting::ShowPartiels, false);
         QString rest = u"1 2 4 5 6 7 8 9 10 11 12 13 14 15 16"_s;
-        for (const Setting setting :
-             {Setting::ShowLapType, Setting::ShowCumulatedTime, Setting::ShowMaxSpeed,
-              Setting::ShowMinSpeed, Setting::ShowAngleLeft, Setting::ShowAngleRight,
-              Setting::ShowAccel, Setting::ShowDecel, Setting::ShowMinFrontSusp,
-              Setting::ShowMaxFrontSusp, Setting::ShowMinRearSusp, Setting::ShowMaxRearSusp}) {
+        for (const Setting setting : settings) {
             table.view.applyColumns();
             QCOMPARE(hidden(table.table), rest);
             table.settings.setValue(setting, true);

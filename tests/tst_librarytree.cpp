@@ -105,6 +105,7 @@ struct Tree
         library.load(folder());
         QObject::connect(&library, &AcquisitionLibrary::sessionsChanged, &tree,
                          &LibraryTree::updateViewedStates);
+        QObject::connect(&tree, &LibraryTree::rowsInserted, &tree, &LibraryTree::onAddNewFiles);
         view.setSelectionMode(QAbstractItemView::ExtendedSelection);
         view.resize(400, 400);
         view.show();

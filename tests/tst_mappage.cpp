@@ -351,7 +351,7 @@ void TestMapPage::options()
     QSignalSpy sent(m_view->page(), &JSConnector::setOptions);
     m_view->setOptions(settings.path(SettingsFile::Analyzer));
     QCOMPARE(sent.value(0).value(0).toString().toUtf8(),
-             R"({"minMax":"true","landmarks":"false","compareGradient":""})");
+             R"({"minMax":"true","landmarks":"false","compareGradient":"true"})");
     QTRY_COMPARE(shapes("s.label.text", "s.visible && s.label"), QByteArray("57 201"));
     run(call("setOptions", {QStringLiteral(R"({"minMax":"false","landmarks":"true"})")}));
     QCOMPARE(shapes("s.label.text", "s.visible && s.label"), "P1 P2 Start");

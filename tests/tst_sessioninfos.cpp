@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QApplication>
-#include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
@@ -16,7 +14,6 @@
 #include <library/informationwriter.h>
 #include <session/sessionfile.h>
 #include <stats/sessioninfos.h>
-#include <stats/temperaturebox.h>
 
 #include "builders.h"
 #include "widgets.h"
@@ -37,36 +34,24 @@ struct Page
 {
     explicit Page(const InformationBytes &information = {})
     {
-        form.condition->setEditable(true);
-        form.condition->addItems({u"Dry"_s, u"Wet"_s});
-        infos = std::make_unique<SessionInfos>(form, writer);
         putFile(path, bytesOf(information));
         session = openSession(path).session;
-        infos->showSession(session.get());
-        if (!showActive(window))
+        infos.showSession(session.get());
+        if (!showActive(infos))
             qFatal("the window stays inactive");
     }
     [[nodiscard]] QByteArray file() const { return contents(path); }
-
-    template<typename Widget>
-    Widget *add()
+    template<typename Widget = QLineEdit>
+    [[nodiscard]] Widget &field(const char *name) const
     {
-        fields.append(new Widget(&window));
-        return static_cast<Widget *>(fields.last());
+        return child<Widget>(infos, name);
     }
 
     QTemporaryDir folder;
     QString path = folder.filePath(u"ride.ra1"_s);
-    QWidget window;
-    QList<QWidget *> fields;
-    SessionInfos::Form form {add<QLineEdit>(), add<QLineEdit>(), add<QLineEdit>(),
-                             add<QLineEdit>(), add<QComboBox>(), add<TemperatureBox>(),
-                             add<QLabel>(),    add<QTextEdit>(), add<QLabel>(),
-                             add<QLabel>(),    add<QLabel>(),    add<QLabel>(),
-                             add<QLabel>(),    add<QLabel>(),    add<QTabWidget>()};
     InformationWriter writer;
     std::unique_ptr<Session> session;
-    std::unique_ptr<SessionInfos> infos;
+    SessionInfos infos {writer, u"en"_s};
 };
 
 /// Letters that no keyboard has arrive like any other.
@@ -113,22 +98,22 @@ private Q_SLOTS:
 
     void typing()
     {
-        enum Field { Event, Driver, Vehicle, Tyres, Condition, Temperature, Degrees, Notes };
         using To = InformationBytes;
-        const std::tuple<Field, QString, void (*)(To &)> rows[] {
-            {Event, u"  Fr\u00FCh  "_s, [](To &to) { to.event = "Fruh"; }},
-            {Driver, u" \u00C6 "_s, [](To &to) { to.driver = " AE "; }},
-            {Vehicle, u""_s, [](To &to) { to.vehicle = ""; }},
-            {Tyres, u"\u9234"_s, [](To &) {}},
-            {Condition, u"D"_s, [](To &to) { to.condition = "D"; }},
-            {Temperature, u"unknown"_s, [](To &to) { to.temperature = 99; }},
-            {Temperature, u"255"_s, [](To &to) { to.temperature = 255; }},
-            {Notes, QString(260, u'\u00E9'), [](To &to) { to.notes = QByteArray(255, 'e'); }},
+        const std::tuple<const char *, QString, void (*)(To &)> rows[] {
+            {"le_event", u"  Fr\u00FCh  "_s, [](To &to) { to.event = "Fruh"; }},
+            {"le_driver", u" \u00C6 "_s, [](To &to) { to.driver = " AE "; }},
+            {"le_vehicle", u""_s, [](To &to) { to.vehicle = ""; }},
+            {"le_tires", u"\u9234"_s, [](To &) {}},
+            {"cb_weather", u"D"_s, [](To &to) { to.condition = "D"; }},
+            {"sb_trackTemp", u"unknown"_s, [](To &to) { to.temperature = 99; }},
+            {"sb_trackTemp", u"255"_s, [](To &to) { to.temperature = 255; }},
+            {"te_infos", QString(260, u'\u00E9'), [](To &to) { to.notes = QByteArray(255, 'e'); }},
         };
-        for (const auto &[field, typed, store] : rows) {
-            Page page;
-            type(*page.fields[field], typed);
-            QTest::keyClick(page.fields[field], Qt::Key_Backtab);
+        for (const auto &[name, typed, store] : rows) {
+            const Page page;
+            auto &field = page.field<QWidget>(name);
+            type(field, typed);
+            QTest::keyClick(&field, Qt::Key_Backtab);
             InformationBytes expected;
             store(expected);
             QCOMPARE(page.file(), bytesOf(expected));
@@ -139,16 +124,18 @@ private Q_SLOTS:
     void shown()
     {
         const Page page;
-        QLineEdit &driver = *page.form.driver;
+        auto &driver = page.field("le_driver");
         type(driver, u"x"_s);
         driver.home(false);
         press(driver, u'\u00C6');
-        QCOMPARE(driver.text() + page.form.hint->text(), u"AExReplaced: \u00C6 \u2192 AE"_s);
+        QCOMPARE(driver.text() + page.field<QLabel>("lb_hint").text(),
+                 u"AExReplaced: \u00C6 \u2192 AE"_s);
         QCOMPARE(driver.cursorPosition(), 2);
-        QTextEdit &notes = *page.form.notes;
+        auto &notes = page.field<QTextEdit>("te_infos");
         notes.moveCursor(QTextCursor::End);
         press(notes, u'\u00DF');
-        QCOMPARE(notes.toPlainText() + page.form.notesCount->text(), u"rain, laterss13 / 255"_s);
+        QCOMPARE(notes.toPlainText() + page.field<QLabel>("lb_notesCount").text(),
+                 u"rain, laterss13 / 255"_s);
         notes.undo();
         QTRY_COMPARE(notes.toPlainText(), u"rain, later"_s);
     }
@@ -163,17 +150,20 @@ private Q_SLOTS:
         information.condition = "dry";
         information.temperature = 120;
         information.notes = "a\r\nb\xc2\xa0\xc3\xa9";
-        Page page(information);
+        const Page page(information);
         QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
-        for (QWidget *field : page.fields) {
+        auto &notes = page.field<QTextEdit>("te_infos");
+        for (QWidget *field : page.infos.findChildren<QWidget *>()) {
+            if (field->focusPolicy() == Qt::NoFocus)
+                continue;
             QApplication::sendEvent(field, &wheel);
             field->setFocus();
-            if (field != page.form.notes)
+            if (field != &notes)
                 QTest::keyClick(field, Qt::Key_Return);
         }
         QCOMPARE(page.file(), bytesOf(information));
-        type(*page.form.tyres, u"rain"_s);
-        page.form.notes->setFocus();
+        type(page.field("le_tires"), u"rain"_s);
+        notes.setFocus();
         information.tyres = "rain";
         QCOMPARE(page.file(), bytesOf(information));
     }
@@ -182,20 +172,20 @@ private Q_SLOTS:
     void unfinished()
     {
         Page page;
-        type(*page.form.driver, u"Zoe"_s);
-        page.infos->showSession(page.session.get()); // Its map has changed.
+        auto &driver = page.field("le_driver");
+        type(driver, u"Zoe"_s);
+        page.infos.showSession(page.session.get()); // Its map has changed.
         QCOMPARE(page.file(), bytesOf({}));
-        page.window.close();
+        page.infos.close();
         QCOMPARE(page.file(), bytesOf({.driver = "Zoe"}));
         // Leaving the tab saves, too, and for the session that was shown.
-        page.form.tabs->addTab(new QWidget, {});
-        page.form.tabs->addTab(new QWidget, {});
-        page.form.tabs->setCurrentIndex(1);
-        page.form.driver->setText(u"Eve"_s);
-        page.form.tabs->setCurrentIndex(0);
-        page.infos->showSession(nullptr);
+        driver.setText(u"Eve"_s);
+        page.infos.onTabChanged(1);
+        QCOMPARE(page.file(), bytesOf({.driver = "Zoe"}));
+        page.infos.onTabChanged(0);
+        page.infos.showSession(nullptr);
         QCOMPARE(page.file(), bytesOf({.driver = "Eve"}));
-        QCOMPARE(page.form.driver->text(), QString());
+        QCOMPARE(driver.text(), QString());
     }
 
     void failedWrite()
@@ -203,10 +193,11 @@ private Q_SLOTS:
         const Page page;
         const QSignalSpy failed(&page.writer, &InformationWriter::failed);
         QVERIFY(QFile::rename(page.path, page.path + u".away"));
-        type(*page.form.notes, u"abc"_s);
+        auto &notes = page.field<QTextEdit>("te_infos");
+        type(notes, u"abc"_s);
         QCOMPARE(failed.count(), 1);
         QVERIFY(QFile::rename(page.path + u".away", page.path));
-        QTest::keyClick(page.form.notes, Qt::Key_D);
+        QTest::keyClick(&notes, Qt::Key_D);
         QCOMPARE(page.file(), bytesOf({.notes = "abcd"}));
     }
 };

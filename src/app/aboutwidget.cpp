@@ -6,7 +6,7 @@
 #include <QIcon>
 #include <QPixmap>
 
-#include <app/makerlinks.h>
+#include <widgets/makerlinks.h>
 
 #include "ui_aboutwidget.h"
 

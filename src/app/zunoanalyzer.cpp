@@ -8,44 +8,36 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPushButton>
-#include <QSplitter>
+#include <QTreeView>
 
 #include <app/aboutwidget.h>
-#include <app/chartwidgets.h>
 #include <app/configurationwidget.h>
 #include <app/help.h>
-#include <app/makerlinks.h>
 #include <library/exportdialogs.h>
 #include <library/libraryfolder.h>
+#include <library/librarypane.h>
 #include <library/librarytree.h>
 #include <library/sessionimport.h>
 #include <library/upgradepass.h>
+#include <maps/detection/mapdetection.h>
 #include <maps/dialog/mapswidget.h>
 #include <maps/editor/mapmaker.h>
+#include <maps/page/mappane.h>
 #include <maps/page/mapviewcontroller.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
 #include <track/map.h>
+#include <views/charts/lapcharts.h>
 #include <views/idealtime/idealtimedialog.h>
+#include <views/laps/lapspane.h>
 #include <views/laps/lapsview.h>
 #include <views/laps/sessionsummary.h>
 
 namespace zuno {
 
 namespace {
-
-constexpr QStringView VerticalHandle = u"QSplitter::handle { image: url(:/Resources/split_v.png); }"
-                                       "QSplitter::handle:vertical { height: 8px;}";
-constexpr QStringView HorizontalHandle
-    = u"QSplitter::handle { image: url(:/Resources/split_h.png); }"
-      "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }";
-constexpr QStringView TabHandle
-    = u"QSplitter::handle { image: url(:/Resources/split_v.png); }"
-      "QSplitter::handle:vertical { height: 8px;}QSplitter::handle:horizontal{ height: 8px; }";
 
 constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitter1Sizes,
                                        Setting::Splitter2Sizes, Setting::Splitter3Sizes};
@@ -64,37 +56,29 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     // Before anything that has a text or shows a number.
     loadLanguage(language.isNull() ? m_settings.value(Setting::Language).toString() : language);
     m_ui->setupUi(this);
-    m_lapsView = new LapsView(*m_ui->tw_tours, m_selection, m_settings);
-    m_tree = new LibraryTree(*m_ui->tw_arbo, m_library, m_settings);
-    m_ui->tw_arbo->installEventFilter(this);
-    m_summary = std::make_unique<SessionSummary>(
-        SessionSummary::Widgets {m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap,
-                                 m_ui->pb_newMapHere, m_ui->lb_idealTime, m_ui->lb_traveledDistance,
-                                 m_ui->lb_firstLapSelected, m_ui->tableWidget, m_ui->tw_tours});
-    m_chooseFolder = new QPushButton(tr("Choose another folder..."), m_ui->statePage);
-    connect(m_chooseFolder, &QPushButton::clicked, this, &ZunoAnalyzer::chooseFolder);
-    m_ui->statePageLayout->insertWidget(2, m_chooseFolder, 0, Qt::AlignHCenter);
-    m_mapView = new MapViewController(this);
-    m_mapView->init(this, m_ui->webview_layout);
+    m_files = new LibraryPane(m_library, m_settings, this);
+    m_files->view()->installEventFilter(this);
+    m_laps = new LapsPane(m_selection, m_settings, this);
+    m_map = new MapPane(this);
+    connect(m_laps, &LapsPane::folderWanted, this, &ZunoAnalyzer::chooseFolder);
     createActions();
-    createInfosPage();
-    m_charts = new LapCharts(chartWidgets(*m_ui), m_selection, m_settings, this);
+    m_infos = new SessionInfos(m_writer, m_language, this);
+    m_charts = new LapCharts(m_selection, m_settings, this);
     connectParts();
     showNothing();
-    m_summary->showFirstLap(m_selection.first());
     openMapsFolder();
-    createSplitters();
+    arrangePanes();
     openAcquisitionFolder();
     m_settings.writeDisplayDefaults();
-    m_lapsView->applyColumns();
+    m_laps->table().applyColumns();
 }
 
 ZunoAnalyzer::~ZunoAnalyzer()
 {
     // The views go before what they show.
-    delete m_tree;
+    delete m_files;
     delete m_charts;
-    delete m_lapsView;
+    delete m_laps;
 }
 
 void ZunoAnalyzer::createActions()
@@ -116,58 +100,40 @@ void ZunoAnalyzer::createActions()
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
 }
 
-void ZunoAnalyzer::createInfosPage()
+void ZunoAnalyzer::arrangePanes()
 {
-    m_infos = new SessionInfos(
-        {m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires, m_ui->cb_weather,
-         m_ui->sb_trackTemp, m_ui->l_degrees, m_ui->te_infos, m_ui->lb_notesCount, m_ui->lb_hint,
-         m_ui->lb_date, m_ui->lb_circuit, m_ui->lb_bestLap, m_ui->lb_idealTime_2, m_ui->tabWidget},
-        m_writer, this);
-    m_ui->webSite->setText(webSiteLink(m_language));
-    m_ui->mail->setText(mailLink());
-}
-
-void ZunoAnalyzer::createSplitters()
-{
-    const auto make
-        = [](Qt::Orientation orientation, QStringView style, const QList<QWidget *> &contents) {
-              auto *splitter = new QSplitter(orientation);
-              for (QWidget *widget : contents)
-                  splitter->addWidget(widget);
-              splitter->setStyleSheet(style.toString());
-              return splitter;
-          };
-    QTabWidget *tabs = m_ui->tabWidget;
-    m_splitters[0] = make(Qt::Horizontal, VerticalHandle, {m_ui->lapsPane, m_ui->googleWidget});
-    m_splitters[0]->setStretchFactor(0, 1);
-    m_splitters[1] = make(Qt::Vertical, HorizontalHandle, {m_splitters[0], m_ui->bottomWidget});
-    tabs->clear();
-    tabs->addTab(m_splitters[1], tr("Maps and Laps  "));
-    tabs->addTab(m_ui->infos, tr(" Session infos  "));
-    tabs->setCurrentIndex(0);
-    m_splitters[2] = make(Qt::Horizontal, TabHandle, {tabs});
-    m_splitters[3] = make(Qt::Horizontal, VerticalHandle, {m_ui->treePane, m_splitters[2]});
-    m_splitters[3]->setStretchFactor(1, 1);
+    m_ui->splitter0->addWidget(m_laps);
+    m_ui->splitter0->addWidget(m_map);
+    m_ui->splitter0->setStretchFactor(0, 1);
+    m_ui->splitter1->addWidget(m_charts);
+    // Until the rider chooses: two parts of the height to three, larger than any least height.
+    m_ui->splitter1->setSizes({2000, 3000});
+    m_ui->tabWidget->addTab(m_infos, tr(" Session infos  "));
+    connect(m_ui->tabWidget, &QTabWidget::currentChanged, m_infos, &SessionInfos::onTabChanged);
+    m_ui->splitter3->insertWidget(0, m_files);
+    m_ui->splitter3->setStretchFactor(1, 1);
+    setTabOrder(m_files->view(), m_ui->tabWidget);
+    m_splitters = {m_ui->splitter0, m_ui->splitter1, m_ui->splitter2, m_ui->splitter3};
     for (std::size_t i = 0; i < m_splitters.size(); ++i) {
-        m_splitters[i]->setObjectName(QStringLiteral("splitter%1").arg(i));
         m_splitters[i]->restoreState(m_settings.value(SplitterSettings[i]).toByteArray());
         connect(m_splitters[i], &QSplitter::splitterMoved, this, &ZunoAnalyzer::saveSplitterStates);
     }
-    setCentralWidget(m_splitters[3]);
 }
 
 void ZunoAnalyzer::connectParts()
 {
-    connect(m_tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
-    connect(m_tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
-    connect(m_tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
-    connect(m_tree, &LibraryTree::folderChanged, this, &ZunoAnalyzer::onFolderChanged);
+    const LibraryTree *tree = &m_files->tree();
+    connect(tree, &LibraryTree::rowsInserted, this, &ZunoAnalyzer::onAddNewFiles);
+    connect(tree, &LibraryTree::currentChanged, this, &ZunoAnalyzer::onSessionDisplayedChange);
+    connect(tree, &LibraryTree::fileChanged, this, &ZunoAnalyzer::onFileChanged);
+    connect(tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
+    connect(tree, &LibraryTree::folderChanged, this, &ZunoAnalyzer::onFolderChanged);
     connect(&m_library, &AcquisitionLibrary::noticed, this, &ZunoAnalyzer::tell);
-    connect(m_tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
+    connect(tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::joined, this,
             [this](const Session *, const QString &message) { tell(message); });
-    connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_tree,
+    connect(&m_library, &AcquisitionLibrary::sessionsChanged, tree,
             &LibraryTree::updateViewedStates);
     connect(&m_library, &AcquisitionLibrary::sessionsChanged, this, [this] {
         if (m_display.session() == nullptr)
@@ -177,7 +143,7 @@ void ZunoAnalyzer::connectParts()
             &LapSelection::forget);
     connect(&m_display, &SessionDisplay::mapApplied, this, &ZunoAnalyzer::showSession);
     connect(&m_display, &SessionDisplay::cleared, this, &ZunoAnalyzer::showNothing);
-    connect(&m_display, &SessionDisplay::viewedStateChanged, m_tree,
+    connect(&m_display, &SessionDisplay::viewedStateChanged, tree,
             &LibraryTree::updateViewedStates);
     connect(&m_display, &SessionDisplay::notASession, this, [this](const QString &path) {
         showState(tr("\"%1\" holds no session that can be shown: it is damaged, empty, or was "
@@ -188,36 +154,48 @@ void ZunoAnalyzer::connectParts()
         tell(tr("\"%1\" is no longer there: it was deleted or moved.")
                  .arg(QFileInfo(path).fileName()));
     });
-    connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
-    connect(&m_selection, &LapSelection::firstLapChanged, this,
-            [this] { m_summary->showFirstLap(m_selection.first()); });
+    connect(&m_laps->table(), &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
             [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);
-    connect(m_tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
-    connect(m_tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
-    connect(m_lapsView, &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
+    connect(tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
+    connect(tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
+    connect(&m_laps->table(), &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
     connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
     m_import = new SessionImport(m_library, m_settings, this);
     connect(m_import, &SessionImport::finished, this,
             [this](const ImportResult &result) { result.showIn(*statusBar()); });
     connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
-    connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::loadMaps);
+    connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::reloadMaps);
     m_mapMaker = new MapMaker({m_library, m_maps.library(), m_display, m_settings}, this);
-    connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::loadMaps);
-    for (const QPushButton *button : {m_ui->pb_newMap, m_ui->pb_newMapHere})
-        connect(button, &QPushButton::clicked, m_mapMaker, &MapMaker::newMap);
-    connect(m_mapView, &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
+    connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::reloadMaps);
+    connect(m_laps, &LapsPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
+    connect(m_map, &MapPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
+    connect(&m_map->view(), &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
     connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
-    connect(&m_selection, &LapSelection::comparisonRequested, m_mapView,
-            &MapViewController::drawTwoLaps);
-    connectCharts(*m_charts, *m_lapsView, *m_mapView);
+    connectViews();
+}
+
+// Laps table, charts and map follow each other: a sector that is clicked in the table, the cursor
+// of the charts, a place that is clicked on the map.
+void ZunoAnalyzer::connectViews()
+{
+    const LapsView *table = &m_laps->table();
+    const MapViewController *map = &m_map->view();
+    const ChartState *state = &m_charts->state();
+    connect(&m_selection, &LapSelection::comparisonRequested, map, &MapViewController::drawTwoLaps);
+    connect(table, &LapsView::sectorChosen, state, &ChartState::showSector);
+    connect(map, &MapViewController::samplePicked, state, &ChartState::pinSample);
+    connect(state, &ChartState::stretchShown, map, &MapViewController::showStretch);
+    connect(m_charts, &LapCharts::cursorMoved, map, &MapViewController::drawCursor);
+    connect(m_charts, &LapCharts::secondCursorMoved, map, &MapViewController::drawSecondCursor);
 }
 
 void ZunoAnalyzer::openMapsFolder()
 {
     const QString folder = m_settings.mapsFolder();
-    if (m_maps.open(folder))
+    loadMaps(folder);
+    if (QDir(folder).exists())
         m_settings.setValue(Setting::MapFiles, folder);
 }
 
@@ -243,8 +221,8 @@ void ZunoAnalyzer::chooseFolder()
 
 void ZunoAnalyzer::onFolderChanged()
 {
-    if (m_tree->isShown())
-        loadAcquisitionsFolder(QString(m_tree->folder()));
+    if (m_files->tree().isShown())
+        loadAcquisitionsFolder(QString(m_files->tree().folder()));
     else if (m_display.session() == nullptr)
         showNothing();
 }
@@ -252,19 +230,19 @@ void ZunoAnalyzer::onFolderChanged()
 void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
 {
     m_library.load(folder);
-    m_tree->setFolder(folder);
-    if (!m_tree->isShown()) {
+    m_files->tree().setFolder(folder);
+    if (!m_files->tree().isShown()) {
         showNothing();
         return;
     }
-    UpgradePass upgrade({m_library, *m_tree, m_display, m_writer, m_settings});
+    UpgradePass upgrade({m_library, m_files->tree(), m_display, m_writer, m_settings});
     // The tree lists files that were selected before their folder was loaded in the order of their
     // selection, so it starts anew.
     m_isUpgrading = true;
     const bool hasRun = upgrade.runOnce();
     m_isUpgrading = false;
     if (hasRun) {
-        m_tree->setFolder(folder);
+        m_files->tree().setFolder(folder);
         if (m_display.session() != nullptr)
             showSession(m_display.session());
     }
@@ -302,8 +280,8 @@ QMap<QString, bool> ZunoAnalyzer::viewedStateMap() const
 void ZunoAnalyzer::onSessionDisplayedChange()
 {
     // A folder is no session; what is displayed stays.
-    if (m_tree->isCurrentFile())
-        m_display.display(m_tree->currentPath());
+    if (m_files->tree().isCurrentFile())
+        m_display.display(m_files->tree().currentPath());
 }
 
 // Somebody else has replaced a session file, or goes on writing it.
@@ -327,25 +305,41 @@ void ZunoAnalyzer::detectMap()
 
 void ZunoAnalyzer::onMapReady()
 {
-    m_mapView->initOnlineMap(m_library.sessions(), static_cast<int>(m_display.index()));
-    m_mapView->setOptions(m_settings.path(SettingsFile::Analyzer));
+    m_map->view().initOnlineMap(m_library.sessions(), static_cast<int>(m_display.index()));
+    m_map->view().setOptions(m_settings.path(SettingsFile::Analyzer));
     showLapOnMap();
 }
 
 void ZunoAnalyzer::showLapOnMap()
 {
     if (const SessionLap lap = m_selection.current())
-        m_mapView->drawLap(lap);
+        m_map->view().drawLap(lap);
     else
-        m_mapView->clearLaps();
+        m_map->view().clearLaps();
 }
 
-void ZunoAnalyzer::loadMaps()
+void ZunoAnalyzer::onAddNewFiles(const QModelIndex &parent, int first, int last)
 {
-    const QString folder = m_settings.acquisitionFolder();
+    m_files->tree().onAddNewFiles(parent, first, last);
+}
+
+void ZunoAnalyzer::chooseMapByLength(Session *session, const QList<const Map *> &candidates)
+{
+    if (session != nullptr)
+        zuno::chooseMapByLength(*session, candidates);
+}
+
+void ZunoAnalyzer::loadMaps(const QString &folder)
+{
     // The sessions point at the maps, so they go first and come back without one.
-    m_library.reload(folder);
-    openMapsFolder();
+    if (m_library.size() > 0)
+        m_library.reload(m_settings.acquisitionFolder());
+    m_maps.open(folder);
+}
+
+void ZunoAnalyzer::reloadMaps()
+{
+    loadMaps(m_settings.mapsFolder());
     onSessionDisplayedChange();
     if (m_display.session() == nullptr)
         showNothing();
@@ -375,7 +369,7 @@ void ZunoAnalyzer::openFile(const QString &path)
 {
     const QString clean = QFileInfo(path).absoluteFilePath();
     if (m_library.find(clean) != nullptr) {
-        m_tree->select(clean);
+        m_files->tree().select(clean);
         return;
     }
     const QString name = QFileInfo(clean).fileName();
@@ -393,7 +387,7 @@ void ZunoAnalyzer::openFile(const QString &path)
         m_import, &SessionImport::finished, this,
         [this](const ImportResult &result) {
             if (m_library.find(result.path) != nullptr)
-                m_tree->select(result.path);
+                m_files->tree().select(result.path);
         },
         Qt::SingleShotConnection);
     m_import->start({clean});
@@ -405,8 +399,8 @@ void ZunoAnalyzer::openSettings()
     if (dialog.exec() != QDialog::Accepted)
         return;
     dialog.storeValues();
-    m_lapsView->applyColumns();
-    m_mapView->setOptions(m_settings.path(SettingsFile::Analyzer));
+    m_laps->table().applyColumns();
+    m_map->view().setOptions(m_settings.path(SettingsFile::Analyzer));
 }
 
 void ZunoAnalyzer::openMaps()
@@ -418,7 +412,7 @@ void ZunoAnalyzer::openMaps()
     connect(&dialog, &MapsWidget::editMap, m_mapMaker, &MapMaker::editMap);
     connect(&dialog, &MapsWidget::renameMap, m_mapMaker, &MapMaker::renameMap);
     connect(&dialog, &MapsWidget::deleteMap, m_mapMaker, &MapMaker::deleteMap);
-    connect(&dialog, &MapsWidget::reloadMaps, this, &ZunoAnalyzer::loadMaps);
+    connect(&dialog, &MapsWidget::reloadMaps, this, &ZunoAnalyzer::reloadMaps);
     connect(this, &ZunoAnalyzer::mapsLoaded, &dialog,
             [this, &dialog] { dialog.setMaps(m_maps.library().maps(), m_display.session()); });
     dialog.exec();
@@ -434,7 +428,8 @@ void ZunoAnalyzer::openStatistics()
         connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_statistics,
                 [this] { m_statistics->setSessions(m_library.sessions()); });
         connect(m_infos, &SessionInfos::saved, m_statistics, &SessionsStats::refreshSoon);
-        connect(m_lapsView, &LapsView::validityChanged, m_statistics, &SessionsStats::refreshSoon);
+        connect(&m_laps->table(), &LapsView::validityChanged, m_statistics,
+                &SessionsStats::refreshSoon);
         connect(&m_display, &SessionDisplay::mapApplied, m_statistics, &SessionsStats::refreshSoon);
     } else {
         m_statistics->setSessions(m_library.sessions());
@@ -446,7 +441,7 @@ void ZunoAnalyzer::openStatistics()
 
 void ZunoAnalyzer::goToSession(Session *sess)
 {
-    m_tree->select(sess->filePath());
+    m_files->tree().select(sess->filePath());
 }
 
 void ZunoAnalyzer::openIdealTime(const QList<Session *> &sessions)
@@ -458,7 +453,7 @@ void ZunoAnalyzer::openIdealTime(const QList<Session *> &sessions)
 
 void ZunoAnalyzer::goToLap(const QString &filePath, int lapNumber)
 {
-    m_tree->select(filePath);
+    m_files->tree().select(filePath);
     const Session *session = m_display.session();
     if (session != nullptr && session->filePath() == filePath)
         m_selection.setCurrentLap(lapNumber - 1);
@@ -478,8 +473,8 @@ void ZunoAnalyzer::openAbout()
 
 bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->tw_arbo && event->type() == QEvent::KeyPress
-        && m_tree->handleKey(*static_cast<QKeyEvent *>(event)))
+    if (watched == m_files->view() && event->type() == QEvent::KeyPress
+        && m_files->tree().handleKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QMainWindow::eventFilter(watched, event);
 }
@@ -489,33 +484,27 @@ void ZunoAnalyzer::showSession(Session *session)
     // The pass displays every session; the last one is shown when it is over.
     if (m_isUpgrading)
         return;
-    m_mapView->centerMap(session->map());
+    m_map->view().centerMap(session->map());
     m_selection.setSession(session);
-    m_lapsView->showLaps();
-    m_summary->showSession(session);
+    m_laps->showSession();
+    m_map->showSession(session);
     m_infos->showSession(session);
-    m_summary->showFirstLap(m_selection.first());
-    const bool hasLaps = !session->laps().empty();
-    if (hasLaps)
-        m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
-    else
+    if (session->laps().empty())
         showState(emptyState());
 }
 
 void ZunoAnalyzer::showState(const QString &text)
 {
-    m_ui->lb_state->setText(text);
     const Session *session = m_display.session();
-    m_ui->pb_newMap->setVisible(session != nullptr && session->sampleCount() > 0);
-    m_chooseFolder->setVisible(!m_tree->isShown());
-    m_ui->lapsStack->setCurrentWidget(m_ui->statePage);
+    m_laps->showState(text, session != nullptr && session->sampleCount() > 0,
+                      !m_files->tree().isShown());
 }
 
 void ZunoAnalyzer::showNothing()
 {
     m_selection.setSession(nullptr);
-    m_lapsView->showLaps();
-    m_summary->showSession(nullptr);
+    m_laps->showSession();
+    m_map->showSession(nullptr);
     m_infos->showSession(nullptr);
     showState(emptyState());
 }
@@ -548,7 +537,6 @@ void ZunoAnalyzer::showComparison(const SessionLap &first, const SessionLap &sec
 
 void ZunoAnalyzer::onValidityChanged(Session *session)
 {
-    m_summary->showSession(session);
     m_infos->showSession(session);
     m_writer.write(*session, InformationWriter::Cause::Edited);
 }

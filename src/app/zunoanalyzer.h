@@ -7,6 +7,7 @@
 #include <memory>
 
 #include <QMainWindow>
+#include <QModelIndex>
 #include <QTranslator>
 
 #include <base/settings.h>
@@ -16,19 +17,17 @@
 #include <library/sessiondisplay.h>
 #include <views/laps/lapselection.h>
 
-class QPushButton;
 class QSplitter;
 
 namespace zuno {
 
 class LapCharts;
-class LapsView;
-class LibraryTree;
+class LapsPane;
+class LibraryPane;
 class MapMaker;
-class MapViewController;
+class MapPane;
 class SessionImport;
 class SessionInfos;
-class SessionSummary;
 class SessionsStats;
 
 namespace Ui {
@@ -62,8 +61,14 @@ public Q_SLOTS:
     void detectMap();
     /// The map page listens: gives it the map, the options and the lap to draw.
     void onMapReady();
-    /// Reads the maps again and displays the current session anew.
-    void loadMaps();
+    /// Files have appeared in the tree's folder @p parent.
+    void onAddNewFiles(const QModelIndex &parent, int first, int last);
+    /// Lets go of every map and loads those of @p folder; sessions have none then.
+    void loadMaps(const QString &folder);
+    /// Loads the maps of the settings' folder again and displays the current session anew.
+    void reloadMaps();
+    /// Gives a session that map of the candidates whose length is nearest to its second lap's.
+    void chooseMapByLength(zuno::Session *session, const QList<const zuno::Map *> &candidates);
     void saveSplitterStates();
     void importSession();
     void openSettings();
@@ -87,9 +92,9 @@ protected:
 private:
     void switchTranslator(QTranslator &translator, const QString &file);
     void createActions();
-    void createInfosPage();
-    void createSplitters();
+    void arrangePanes();
     void connectParts();
+    void connectViews();
     void openMapsFolder();
     void openAcquisitionFolder();
     void chooseFolder();
@@ -114,16 +119,14 @@ private:
     InformationWriter m_writer;
     LapSelection m_selection;
     SessionDisplay m_display;
-    std::unique_ptr<SessionSummary> m_summary;
-    LapsView *m_lapsView = nullptr;
+    LapsPane *m_laps = nullptr;
     LapCharts *m_charts = nullptr;
-    LibraryTree *m_tree = nullptr;
+    LibraryPane *m_files = nullptr;
     MapMaker *m_mapMaker = nullptr;
-    MapViewController *m_mapView = nullptr;
+    MapPane *m_map = nullptr;
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
     SessionImport *m_import = nullptr;
-    QPushButton *m_chooseFolder = nullptr;
     bool m_isUpgrading = false;
     std::array<QSplitter *, 4> m_splitters {};
 };

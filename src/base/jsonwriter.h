@@ -12,8 +12,12 @@
 
 namespace zuno {
 
-/// Writes JSON with the keys in the order in which they are given; a JSON object of Qt sorts
-/// them. Numbers that JSON cannot say (NaN, infinity) are null.
+/// Writes JSON with the keys in the order in which they are given. Numbers that JSON cannot say
+/// (NaN, infinity) are null.
+///
+/// The map page and scripts that read the tool's output rely on the bytes, and no packaged library
+/// writes them: Qt's sorts the keys, and those that keep the order of keys write 1.0 for the whole
+/// number 1.
 class JsonWriter
 {
 public:

@@ -206,6 +206,11 @@ QString Settings::key(Setting setting)
     return QString::fromUtf16(entryOf(setting).key);
 }
 
+QVariant Settings::standard(Setting setting)
+{
+    return standardOf(entryOf(setting));
+}
+
 QList<Setting> Settings::displaySettings()
 {
     QList<Setting> settings;

@@ -77,8 +77,10 @@ public:
     /// Writes several values, each file once.
     void setValues(const QList<std::pair<Setting, QVariant>> &values) const;
 
-    /// The key of a setting, and the sixteen display settings in the order of the table.
+    /// The key of a setting, its default, and the sixteen display settings in the order of the
+    /// table.
     [[nodiscard]] static QString key(Setting setting);
+    [[nodiscard]] static QVariant standard(Setting setting);
     [[nodiscard]] static QList<Setting> displaySettings();
     /// Writes the defaults of all display settings when the first of them has none.
     void writeDisplayDefaults() const;

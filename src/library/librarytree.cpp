@@ -227,14 +227,22 @@ void LibraryTree::connectModel()
     connect(
         m_model.get(), &QFileSystemModel::dataChanged, this,
         [this](const QModelIndex &topLeft) { m_sync.look(m_model->filePath(topLeft.parent())); });
-    for (const auto signal : {&QFileSystemModel::rowsInserted, &QFileSystemModel::rowsRemoved}) {
-        connect(m_model.get(), signal, this, [this](const QModelIndex &parent) {
-            m_sync.look(m_model->filePath(parent));
-            if (!m_view.rootIndex().isValid()) {
-                dropModel();
-                m_sync.loseRoot();
-            }
-        });
+    connect(m_model.get(), &QFileSystemModel::rowsInserted, this, &LibraryTree::rowsInserted);
+    connect(m_model.get(), &QFileSystemModel::rowsRemoved, this, &LibraryTree::onRowsChanged);
+}
+
+// Which rows it were does not matter: their folder is looked at as a whole.
+void LibraryTree::onAddNewFiles(const QModelIndex &parent, int /*first*/, int /*last*/)
+{
+    onRowsChanged(parent);
+}
+
+void LibraryTree::onRowsChanged(const QModelIndex &parent)
+{
+    m_sync.look(m_model->filePath(parent));
+    if (!m_view.rootIndex().isValid()) {
+        dropModel();
+        m_sync.loseRoot();
     }
 }
 

@@ -56,6 +56,10 @@ public:
     /// The same without scrolling, for work on many files.
     void selectOnly(const QString &path);
 
+    /// Takes the session files of @p parent into the library that are not in it; whoever listens to
+    /// rowsInserted() calls it.
+    void onAddNewFiles(const QModelIndex &parent, int first, int last);
+
     /// Acts on a key pressed in the tree; false when it means nothing here.
     bool handleKey(const QKeyEvent &event);
     /// Opens the menu of the current item; @p position is in the view's viewport.
@@ -70,6 +74,8 @@ public:
 Q_SIGNALS:
     /// The folder is there again, or is not there any more.
     void folderChanged();
+    /// The tree's model has found files or folders.
+    void rowsInserted(const QModelIndex &parent, int first, int last);
     /// Another item has become current; of many in a row, the last.
     void currentChanged();
     /// A file's size or time has changed on the disk.
@@ -89,6 +95,7 @@ private:
     void listFolder();
     void dropModel();
     void connectModel();
+    void onRowsChanged(const QModelIndex &parent);
     void onSelectionChanged();
     void tellCurrent();
     void restoreSelection();

@@ -3,20 +3,17 @@
 
 #include <stats/sessioninfos.h>
 
+#include "ui_sessioninfos.h"
+
 #include <array>
 
-#include <QComboBox>
 #include <QEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QScopedValueRollback>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTextEdit>
 
 #include <library/informationwriter.h>
 #include <session/session.h>
 #include <track/map.h>
+#include <widgets/makerlinks.h>
 
 namespace zuno {
 
@@ -85,36 +82,44 @@ QString dateText(const Recording &recording)
 
 } // namespace
 
-SessionInfos::SessionInfos(const Form &form, InformationWriter &writer, QObject *parent)
-    : QObject(parent)
-    , m_form(form)
+SessionInfos::SessionInfos(InformationWriter &writer, const QString &language, QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::SessionInfos>())
     , m_writer(writer)
 {
+    m_ui->setupUi(this);
+    m_ui->webSite->setText(webSiteLink(language));
+    m_ui->mail->setText(mailLink());
     m_hintTime.setSingleShot(true);
     m_hintTime.setInterval(HintTime);
-    connect(&m_hintTime, &QTimer::timeout, m_form.hint, &QLabel::clear);
+    connect(&m_hintTime, &QTimer::timeout, m_ui->lb_hint, &QLabel::clear);
     connectEdits();
     showSession(nullptr);
 }
 
+// A field that loses the keys saves, so that happens while everything still stands.
+SessionInfos::~SessionInfos()
+{
+    hide();
+}
+
 void SessionInfos::connectEdits()
 {
-    for (QLineEdit *edit : {m_form.event, m_form.driver, m_form.vehicle, m_form.tyres}) {
+    for (QLineEdit *edit : {m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires}) {
         connect(edit, &QLineEdit::editingFinished, this, &SessionInfos::save);
         m_storable.watch(edit);
     }
-    m_storable.watch(m_form.condition->lineEdit());
+    m_storable.watch(m_ui->cb_weather->lineEdit());
     // It would put "Dry" for a "D", and into the file with it.
-    m_form.condition->setCompleter(nullptr);
-    connect(m_form.condition, &QComboBox::editTextChanged, this, &SessionInfos::save);
-    connect(m_form.temperature, &QSpinBox::editingFinished, this, &SessionInfos::save);
-    connect(m_form.temperature, &QSpinBox::valueChanged, m_form.degrees, [this](int degrees) {
-        m_form.degrees->setVisible(degrees != SessionInformation::UnknownTemperature);
+    m_ui->cb_weather->setCompleter(nullptr);
+    connect(m_ui->cb_weather, &QComboBox::editTextChanged, this, &SessionInfos::save);
+    connect(m_ui->sb_trackTemp, &QSpinBox::editingFinished, this, &SessionInfos::save);
+    connect(m_ui->sb_trackTemp, &QSpinBox::valueChanged, m_ui->l_degrees, [this](int degrees) {
+        m_ui->l_degrees->setVisible(degrees != SessionInformation::UnknownTemperature);
     });
-    connect(m_form.notes, &QTextEdit::textChanged, this, &SessionInfos::onNotesChanged);
-    connect(m_form.tabs, &QTabWidget::currentChanged, this, &SessionInfos::onTabChanged);
+    connect(m_ui->te_infos, &QTextEdit::textChanged, this, &SessionInfos::onNotesChanged);
     connect(&m_storable, &StorableEdits::replaced, this, &SessionInfos::showHint);
-    const std::array<QWidget *, 2> turned {m_form.condition, m_form.temperature};
+    const std::array<QWidget *, 2> turned {m_ui->cb_weather, m_ui->sb_trackTemp};
     for (QWidget *edit : turned) {
         edit->setFocusPolicy(Qt::StrongFocus);
         edit->installEventFilter(this);
@@ -138,12 +143,12 @@ void SessionInfos::fillEdits()
     // The whole filling is guarded: the combo box, too, tells when its text is set.
     const QScopedValueRollback filling(m_isFilling, true);
     const SessionInformation information = m_session ? m_session->information() : nothing();
-    fill(m_form.event, information.event.text());
-    fill(m_form.driver, information.driver.text());
-    fill(m_form.vehicle, information.vehicle.text());
-    fill(m_form.tyres, information.tyres.text());
-    fill(m_form.condition, information.condition.text());
-    fill(m_form.notes, information.notes.text());
+    fill(m_ui->le_event, information.event.text());
+    fill(m_ui->le_driver, information.driver.text());
+    fill(m_ui->le_vehicle, information.vehicle.text());
+    fill(m_ui->le_tires, information.tyres.text());
+    fill(m_ui->cb_weather, information.condition.text());
+    fill(m_ui->te_infos, information.notes.text());
     fillTemperature(information.temperature);
     showCount();
 }
@@ -162,22 +167,20 @@ void SessionInfos::fill(Edit *edit, const QString &text)
 
 void SessionInfos::fillTemperature(int degrees)
 {
-    m_form.temperature->setEnabled(!m_session.isNull());
-    if (isTyped(m_form.temperature))
+    m_ui->sb_trackTemp->setEnabled(!m_session.isNull());
+    if (isTyped(m_ui->sb_trackTemp))
         return;
-    m_form.temperature->setValue(degrees);
-    m_filled[m_form.temperature] = m_form.temperature->text();
+    m_ui->sb_trackTemp->setValue(degrees);
+    m_filled[m_ui->sb_trackTemp] = m_ui->sb_trackTemp->text();
 }
 
 QHash<const QWidget *, QString> SessionInfos::texts() const
 {
-    return {{m_form.event, textOf(m_form.event)},
-            {m_form.driver, textOf(m_form.driver)},
-            {m_form.vehicle, textOf(m_form.vehicle)},
-            {m_form.tyres, textOf(m_form.tyres)},
-            {m_form.condition, textOf(m_form.condition)},
-            {m_form.notes, textOf(m_form.notes)},
-            {m_form.temperature, m_form.temperature->text()}};
+    return {
+        {m_ui->le_event, textOf(m_ui->le_event)},        {m_ui->le_driver, textOf(m_ui->le_driver)},
+        {m_ui->le_vehicle, textOf(m_ui->le_vehicle)},    {m_ui->le_tires, textOf(m_ui->le_tires)},
+        {m_ui->cb_weather, textOf(m_ui->cb_weather)},    {m_ui->te_infos, textOf(m_ui->te_infos)},
+        {m_ui->sb_trackTemp, m_ui->sb_trackTemp->text()}};
 }
 
 bool SessionInfos::isTyped(const QWidget *edit) const
@@ -189,25 +192,25 @@ void SessionInfos::fillLabels()
 {
     const Session *session = m_session;
     const Map *map = session != nullptr ? session->map() : nullptr;
-    m_form.date->setText(session != nullptr ? dateText(session->recording()) : QString());
-    m_form.circuit->setText(map != nullptr       ? map->displayName()
-                            : session != nullptr ? session->circuitName()
-                                                 : QString());
-    m_form.bestLap->setText(session != nullptr ? session->bestLapText() : QString());
-    m_form.idealTime->setText(session != nullptr ? session->idealTimeText() : QString());
+    m_ui->lb_date->setText(session != nullptr ? dateText(session->recording()) : QString());
+    m_ui->lb_circuit->setText(map != nullptr       ? map->displayName()
+                              : session != nullptr ? session->circuitName()
+                                                   : QString());
+    m_ui->lb_bestLap->setText(session != nullptr ? session->bestLapText() : QString());
+    m_ui->lb_idealTime_2->setText(session != nullptr ? session->idealTimeText() : QString());
 }
 
 void SessionInfos::showHint(const QString &hint)
 {
-    m_form.hint->setText(hint);
-    m_form.hint->setToolTip(hint);
+    m_ui->lb_hint->setText(hint);
+    m_ui->lb_hint->setToolTip(hint);
     m_hintTime.start();
 }
 
 void SessionInfos::onNotesChanged()
 {
     // What was typed is told again when it is made storable.
-    if (!m_isFilling && m_storable.makeStorable(m_form.notes))
+    if (!m_isFilling && m_storable.makeStorable(m_ui->te_infos))
         return;
     showCount();
     save();
@@ -216,8 +219,8 @@ void SessionInfos::onNotesChanged()
 void SessionInfos::showCount()
 {
     //: Below the notes: how many characters they have, and may have.
-    const QString count = tr("%1 / %2").arg(textOf(m_form.notes).size()).arg(MaximumTextLength);
-    m_form.notesCount->setText(m_session.isNull() ? QString() : count);
+    const QString count = tr("%1 / %2").arg(textOf(m_ui->te_infos).size()).arg(MaximumTextLength);
+    m_ui->lb_notesCount->setText(m_session.isNull() ? QString() : count);
 }
 
 void SessionInfos::onTabChanged(int index)
@@ -232,7 +235,7 @@ void SessionInfos::save()
         return;
     storeEvent();
     storeTexts();
-    m_session->setTemperature(m_form.temperature->value());
+    m_session->setTemperature(m_ui->sb_trackTemp->value());
     // A text that is changed back is typed again.
     m_filled = texts();
     m_writer.write(*m_session, InformationWriter::Cause::Edited);
@@ -242,30 +245,30 @@ void SessionInfos::save()
 // The only text that is stored without its outer blanks, even when the file has had them before.
 void SessionInfos::storeEvent()
 {
-    const QString event = withoutOuterBlanks(textOf(m_form.event));
+    const QString event = withoutOuterBlanks(textOf(m_ui->le_event));
     const QString storable = storableText(event);
     // A text of the file that cannot be stored again stays until the rider changes it.
-    if (isTyped(m_form.event) || storable == event)
+    if (isTyped(m_ui->le_event) || storable == event)
         m_session->setEventName(storable);
-    if (textOf(m_form.event) != m_session->eventName())
-        m_form.event->setText(m_session->eventName());
+    if (textOf(m_ui->le_event) != m_session->eventName())
+        m_ui->le_event->setText(m_session->eventName());
 }
 
 // A text that the rider has not touched stays as the file has it, letters and line ends included.
 void SessionInfos::storeTexts()
 {
     Session &session = *m_session;
-    if (isTyped(m_form.driver))
-        session.setDriver(storableText(textOf(m_form.driver)));
-    if (isTyped(m_form.vehicle))
-        session.setVehicle(storableText(textOf(m_form.vehicle)));
-    if (isTyped(m_form.condition))
-        session.setCondition(storableText(textOf(m_form.condition)));
+    if (isTyped(m_ui->le_driver))
+        session.setDriver(storableText(textOf(m_ui->le_driver)));
+    if (isTyped(m_ui->le_vehicle))
+        session.setVehicle(storableText(textOf(m_ui->le_vehicle)));
+    if (isTyped(m_ui->cb_weather))
+        session.setCondition(storableText(textOf(m_ui->cb_weather)));
     // Emptied tyres or notes keep what is stored.
-    if (isTyped(m_form.tyres) && !textOf(m_form.tyres).isEmpty())
-        session.setTyres(storableText(textOf(m_form.tyres)));
-    if (isTyped(m_form.notes) && !textOf(m_form.notes).isEmpty())
-        session.setNotes(storableText(textOf(m_form.notes)));
+    if (isTyped(m_ui->le_tires) && !textOf(m_ui->le_tires).isEmpty())
+        session.setTyres(storableText(textOf(m_ui->le_tires)));
+    if (isTyped(m_ui->te_infos) && !textOf(m_ui->te_infos).isEmpty())
+        session.setNotes(storableText(textOf(m_ui->te_infos)));
 }
 
 // Whoever only scrolls by must not change the file.

@@ -3,54 +3,35 @@
 
 #pragma once
 
+#include <memory>
+
 #include <QHash>
-#include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QTimer>
+#include <QWidget>
 
 #include <stats/storableedit.h>
-
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QSpinBox;
-class QTabWidget;
-class QTextEdit;
 
 namespace zuno {
 
 class InformationWriter;
 class Session;
 
+namespace Ui {
+class SessionInfos;
+}
+
 /// The page on which the rider describes the displayed session. What is typed goes into the
 /// session and its file at once; showing a session changes nothing.
-class SessionInfos : public QObject
+class SessionInfos final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The widgets of the form that the page consists of.
-    struct Form
-    {
-        QLineEdit *event;
-        QLineEdit *driver;
-        QLineEdit *vehicle;
-        QLineEdit *tyres;
-        QComboBox *condition;
-        QSpinBox *temperature;
-        QLabel *degrees;
-        QTextEdit *notes;
-        QLabel *notesCount;
-        QLabel *hint;
-        QLabel *date;
-        QLabel *circuit;
-        QLabel *bestLap;
-        QLabel *idealTime;
-        QTabWidget *tabs;
-    };
-
-    SessionInfos(const Form &form, InformationWriter &writer, QObject *parent = nullptr);
+    /// @p language is the rider's, for the link to the maker's pages.
+    SessionInfos(InformationWriter &writer, const QString &language, QWidget *parent = nullptr);
+    ~SessionInfos() override;
 
     /// Fills the page from @p session; nullptr empties and disables it. What the rider is typing
     /// for that very session stays.
@@ -58,6 +39,8 @@ public:
     /// Copies the page into the session and writes the session's file. Emptied tyres and notes
     /// leave what the session has.
     void save();
+    /// Saves when the page is left: another tab has become current, with that @p index.
+    void onTabChanged(int index);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -68,7 +51,6 @@ Q_SIGNALS:
 private:
     void connectEdits();
     void onNotesChanged();
-    void onTabChanged(int index);
     void showHint(const QString &hint);
     void showCount();
     void fillEdits();
@@ -81,7 +63,7 @@ private:
     [[nodiscard]] QHash<const QWidget *, QString> texts() const;
     [[nodiscard]] bool isTyped(const QWidget *edit) const;
 
-    Form m_form;
+    std::unique_ptr<Ui::SessionInfos> m_ui;
     InformationWriter &m_writer;
     StorableEdits m_storable;
     QTimer m_hintTime;

@@ -16,40 +16,15 @@ namespace zuno {
 
 namespace {
 
+QString dateText(const Session &session)
+{
+    return session.recording().date + QStringLiteral(" - ") + session.recording().time;
+}
+
 QString temperatureText(const Session &session)
 {
     const qint32 degrees = session.temperature();
     return degrees == SessionInformation::UnknownTemperature ? QString() : QString::number(degrees);
-}
-
-QString text(const Session &session, int column)
-{
-    switch (column) {
-    case SessionsStatsTableModel::Date:
-        return session.recording().date + QStringLiteral(" - ") + session.recording().time;
-    case SessionsStatsTableModel::Track:
-        return session.circuitName();
-    case SessionsStatsTableModel::BestLap:
-        return session.bestLapText();
-    case SessionsStatsTableModel::IdealTime:
-        return session.idealTimeText();
-    case SessionsStatsTableModel::Vehicle:
-        return session.vehicle();
-    case SessionsStatsTableModel::Driver:
-        return session.driver();
-    case SessionsStatsTableModel::Event:
-        return session.eventName();
-    case SessionsStatsTableModel::Condition:
-        return session.condition();
-    case SessionsStatsTableModel::Temperature:
-        return temperatureText(session);
-    case SessionsStatsTableModel::Tyres:
-        return session.tyres();
-    case SessionsStatsTableModel::Notes:
-        return session.notes();
-    default:
-        return {};
-    }
 }
 
 /// What a cell is sorted by; none for a cell that is no value.
@@ -136,8 +111,9 @@ QTime clockTimeOf(const QString &text)
     return time.isValid() ? time : midnight;
 }
 
-Value dateAndTimeOf(const Recording &recording)
+Value dateAndTimeOf(const Session &session)
 {
+    const Recording &recording = session.recording();
     constexpr qint64 Day = 24 * Minute * Minute * Thousand;
     const QDate date = dateOf(recording.date);
     if (!date.isValid())
@@ -145,27 +121,52 @@ Value dateAndTimeOf(const Recording &recording)
     return date.toJulianDay() * Day + clockTimeOf(recording.time).msecsSinceStartOfDay();
 }
 
-bool isSortedByValue(int column)
+Value temperatureOf(const Session &session)
 {
-    return column == SessionsStatsTableModel::Date || column == SessionsStatsTableModel::BestLap
-           || column == SessionsStatsTableModel::IdealTime
-           || column == SessionsStatsTableModel::Temperature;
+    const qint32 degrees = session.temperature();
+    return degrees == SessionInformation::UnknownTemperature ? Value() : degrees;
 }
 
-Value valueOf(const Session &session, int column)
+/// What a column shows of a session, and by what it is sorted; in the order of
+/// SessionsStatsTableModel::Column.
+struct ColumnEntry
 {
-    switch (column) {
-    case SessionsStatsTableModel::Date:
-        return dateAndTimeOf(session.recording());
-    case SessionsStatsTableModel::BestLap:
-        return bestLapOf(session);
-    case SessionsStatsTableModel::IdealTime:
-        return idealTimeOf(session);
-    default:
-        return session.temperature() == SessionInformation::UnknownTemperature
-                   ? Value()
-                   : session.temperature();
-    }
+    /// Still to be translated.
+    const char *header = nullptr;
+    QString (*text)(const Session &session) = nullptr;
+    /// nullptr for a column that is sorted by its texts.
+    Value (*value)(const Session &session) = nullptr;
+};
+
+constexpr std::array Table {
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Date"), dateText,
+                 dateAndTimeOf},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Track"),
+                 [](const Session &session) { return session.circuitName(); }},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Best Lap"),
+                 [](const Session &session) { return session.bestLapText(); }, bestLapOf},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Ideal Time"),
+                 [](const Session &session) { return session.idealTimeText(); }, idealTimeOf},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Vehicle"),
+                 [](const Session &session) { return session.vehicle(); }},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Driver"),
+                 [](const Session &session) { return session.driver(); }},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Event"),
+                 [](const Session &session) { return session.eventName(); }},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Track condition"),
+                 [](const Session &session) { return session.condition(); }},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Track temperature"),
+                 temperatureText, temperatureOf},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Tires"),
+                 [](const Session &session) { return session.tyres(); }},
+    ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Notes"),
+                 [](const Session &session) { return session.notes(); }},
+};
+static_assert(Table.size() == SessionsStatsTableModel::ColumnCount);
+
+const ColumnEntry &entryOf(int column)
+{
+    return Table[static_cast<std::size_t>(column)];
 }
 
 } // namespace
@@ -235,7 +236,7 @@ QVariant SessionsStatsTableModel::data(const QModelIndex &index, int role) const
     const Session *const session = m_sessions[index.row()];
     if (role != Qt::DisplayRole || session == nullptr)
         return {};
-    return text(*session, index.column());
+    return entryOf(index.column()).text(*session);
 }
 
 QVariant SessionsStatsTableModel::headerData(int section, Qt::Orientation orientation,
@@ -244,12 +245,7 @@ QVariant SessionsStatsTableModel::headerData(int section, Qt::Orientation orient
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0
         || section >= ColumnCount)
         return {};
-    const std::array<QString, ColumnCount> texts {
-        tr("Date"),   tr("Track"), tr("Best Lap"),        tr("Ideal Time"),        tr("Vehicle"),
-        tr("Driver"), tr("Event"), tr("Track condition"), tr("Track temperature"), tr("Tires"),
-        tr("Notes"),
-    };
-    return texts[static_cast<std::size_t>(section)];
+    return tr(entryOf(section).header);
 }
 
 bool SessionsStatsTableModel::insertRows(int row, int count, const QModelIndex &parent)
@@ -284,10 +280,11 @@ bool SessionsSortModel::lessThan(const QModelIndex &left, const QModelIndex &rig
 {
     const Session *const a = m_model.session(left.row());
     const Session *const b = m_model.session(right.row());
-    if (a == nullptr || b == nullptr || !isSortedByValue(left.column()))
+    const auto valueOf = entryOf(left.column()).value;
+    if (a == nullptr || b == nullptr || valueOf == nullptr)
         return QSortFilterProxyModel::lessThan(left, right);
-    const Value valueA = valueOf(*a, left.column());
-    const Value valueB = valueOf(*b, right.column());
+    const Value valueA = valueOf(*a);
+    const Value valueB = valueOf(*b);
     if (valueA && valueB)
         return *valueA < *valueB;
     // A descending order asks the other way round.

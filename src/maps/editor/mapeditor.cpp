@@ -3,16 +3,17 @@
 
 #include <maps/editor/mapeditor.h>
 
-#include <algorithm>
-
 #include <QAction>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMessageBox>
 #include <QScreen>
 #include <QShortcut>
+#include <QSignalBlocker>
 
+#include <maps/editor/outlinechoice.h>
 #include <maps/page/mapviewcontroller.h>
 #include <track/mapname.h>
 
@@ -33,12 +34,27 @@ constexpr int SideWidth = 440;
 // Room for four sections where there is room.
 constexpr int WideWindow = 1200;
 constexpr int WideSideWidth = 510;
+// In a low window the lists of points and warnings scroll.
+constexpr int LowWindow = 850;
 
 // A text box keeps the keys of undo to itself even when it has nothing to undo.
 bool isUndoKey(const QEvent &event)
 {
     const auto &key = static_cast<const QKeyEvent &>(event);
     return key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+}
+
+// A map without a session still shows where it lies.
+Points pointsOf(const QList<QGeoCoordinate> &outline)
+{
+    Points points;
+    for (const QGeoCoordinate &place : outline) {
+        PointAcquisition point;
+        point.dataCoordX = place.longitude();
+        point.dataCoordY = place.latitude();
+        points.push_back(point);
+    }
+    return points;
 }
 
 } // namespace
@@ -49,7 +65,7 @@ MapEditor::MapEditor(Content content, QWidget *parent)
     , m_ui(std::make_unique<Ui::MapEditor>())
     , m_content(std::move(content))
     , m_edit(m_content.draft)
-    , m_laps(this)
+    , m_gestures(m_edit)
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
@@ -87,9 +103,7 @@ void MapEditor::fillForm()
     m_ui->cb_session->addItems(m_content.sessions);
     m_ui->cb_session->setCurrentIndex(m_content.session);
     m_ui->sb_gate->setRange(MapEdit::SmallestGate, MapEdit::LargestGate);
-    m_ui->tv_laps->setModel(&m_laps);
-    m_ui->tv_laps->verticalHeader()->hide();
-    m_ui->tw_points->verticalHeader()->hide();
+    m_outlines = std::make_unique<OutlineChoice>(*m_ui->cb_outline, m_edit, m_samples);
 }
 
 void MapEditor::createActions()
@@ -110,7 +124,7 @@ void MapEditor::createActions()
     };
     label(m_ui->tb_undo, tr("Undo"));
     label(m_ui->tb_redo, tr("Redo"));
-    createKeys(*m_ui->tw_points);
+    createKeys(m_ui->pointsPane->list());
     createKeys(*m_ui->mapPane);
     for (QWidget *box : {static_cast<QWidget *>(m_ui->le_name),
                          static_cast<QWidget *>(m_ui->cb_folder->lineEdit()),
@@ -125,13 +139,13 @@ void MapEditor::createKeys(QWidget &area)
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         connect(shortcut, &QShortcut::activated, this, run);
     };
-    add(Qt::Key_Right, [this] { nudge(SmallStep); });
-    add(Qt::Key_Left, [this] { nudge(-SmallStep); });
-    add(Qt::SHIFT | Qt::Key_Right, [this] { nudge(LargeStep); });
-    add(Qt::SHIFT | Qt::Key_Left, [this] { nudge(-LargeStep); });
-    add(Qt::Key_Down, [this] { select(std::min(m_selected + 1, m_edit.pointCount() - 1)); });
-    add(Qt::Key_Up, [this] { select(std::max(m_selected - 1, MapEdit::Start)); });
-    add(Qt::Key_Delete, [this] { removePoint(); });
+    add(Qt::Key_Right, [this] { m_gestures.nudge(SmallStep); });
+    add(Qt::Key_Left, [this] { m_gestures.nudge(-SmallStep); });
+    add(Qt::SHIFT | Qt::Key_Right, [this] { m_gestures.nudge(LargeStep); });
+    add(Qt::SHIFT | Qt::Key_Left, [this] { m_gestures.nudge(-LargeStep); });
+    add(Qt::Key_Down, [this] { m_gestures.selectNext(1); });
+    add(Qt::Key_Up, [this] { m_gestures.selectNext(-1); });
+    add(Qt::Key_Delete, [this] { m_gestures.removePoint(); });
     // The page of the map would keep it.
     add(Qt::Key_Escape, [this] { reject(); });
 }
@@ -144,32 +158,87 @@ void MapEditor::connectForm()
     connect(m_ui->cb_folder, &QComboBox::editTextChanged, this, &MapEditor::showNameFault);
     connect(m_ui->cb_session, &QComboBox::activated, this, &MapEditor::showSession);
     connect(m_ui->cb_outline, &QComboBox::activated, this, &MapEditor::chooseOutline);
-    connect(m_ui->sb_gate, &QDoubleSpinBox::valueChanged, this, [this](double metres) {
-        joinChanges(GateChange);
-        m_edit.setGateSize(metres);
-    });
-    connect(m_ui->tw_points, &QTableWidget::currentCellChanged, this, [this](int row) {
-        if (row >= 0)
-            select(row - 1);
-    });
-    connect(m_ui->pb_add, &QPushButton::clicked, this, &MapEditor::addPoint);
-    connect(m_ui->pb_remove, &QPushButton::clicked, this, &MapEditor::removePoint);
-    const auto selectWarned = [this](const QListWidgetItem *item) {
-        if (item != nullptr)
-            select(item->data(Qt::UserRole).toInt());
-    };
-    connect(m_ui->lw_warnings, &QListWidget::itemClicked, this, selectWarned);
-    connect(m_ui->lw_warnings, &QListWidget::currentItemChanged, this, selectWarned);
+    connect(m_ui->sb_gate, &QDoubleSpinBox::valueChanged, &m_gestures, &MapGestures::setGateSize);
+    connect(m_ui->pointsPane, &MapPointsPane::pointSelected, &m_gestures, &MapGestures::select);
+    connect(m_ui->pointsPane, &MapPointsPane::addRequested, &m_gestures,
+            &MapGestures::addPoint);
+    connect(m_ui->pointsPane, &MapPointsPane::removeRequested, &m_gestures,
+            &MapGestures::removePoint);
+    connect(m_ui->checkPane, &MapCheckPane::pointSelected, &m_gestures, &MapGestures::select);
+    connect(m_ui->checkPane, &MapCheckPane::warningsChanged, this, &MapEditor::showOnMap);
+    connect(&m_gestures, &MapGestures::pointsTouched, this, &MapEditor::showPoints);
+    connect(&m_gestures, &MapGestures::pointsTouched, this, &MapEditor::showOnMap);
+    connect(&m_gestures, &MapGestures::refused, this, &MapEditor::tellFull);
     connect(m_ui->pb_save, &QPushButton::clicked, this, &MapEditor::save);
     connect(m_ui->pb_cancel, &QPushButton::clicked, this, &MapEditor::reject);
 }
 
 void MapEditor::connectMap()
 {
-    connect(m_map, &MapViewController::pointMoved, this, &MapEditor::onDragged);
-    connect(m_map, &MapViewController::gateResized, this, &MapEditor::onGateResized);
-    connect(m_map, &MapViewController::pointSelected, this, &MapEditor::select);
-    connect(m_map, &MapViewController::trackClicked, this, &MapEditor::onTrackClicked);
+    connect(m_map, &MapViewController::pointMoved, &m_gestures, &MapGestures::drag);
+    connect(m_map, &MapViewController::gateResized, &m_gestures, &MapGestures::dragGate);
+    connect(m_map, &MapViewController::pointSelected, &m_gestures, &MapGestures::select);
+    connect(m_map, &MapViewController::trackClicked, &m_gestures, &MapGestures::addPointAt);
+}
+
+void MapEditor::showSession(int session)
+{
+    m_samples = session >= 0 ? m_content.samplesOf(session) : Points();
+    m_outlines->offerLaps();
+    m_map->editPath(m_samples.empty() ? pointsOf(m_edit.draft().outline) : m_samples);
+    showEdit();
+}
+
+void MapEditor::chooseOutline(int index)
+{
+    m_outlines->choose(index);
+    showEdit();
+}
+
+void MapEditor::tellFull()
+{
+    QMessageBox::information(this, windowTitle(),
+                             tr("A map has room for %1 timing points. Remove one of them to add "
+                                "another.")
+                                 .arg(QLocale().toString(MaximumSectors)));
+}
+
+void MapEditor::showEdit()
+{
+    const QSignalBlocker gateBlocker(m_ui->sb_gate);
+    m_ui->sb_gate->setValue(m_edit.draft().gateSize);
+    m_outlines->show();
+    showPoints();
+    showOnMap();
+    showNameFault();
+    m_checkSoon.start();
+}
+
+bool MapEditor::isLow() const
+{
+    return height() < LowWindow;
+}
+
+void MapEditor::showPoints()
+{
+    m_ui->pointsPane->showPoints(m_edit, m_gestures.selected(), isLow());
+}
+
+void MapEditor::showOnMap()
+{
+    QList<int> warned;
+    for (const MapWarning &warning : m_ui->checkPane->warnings()) {
+        for (const int point : {warning.point, warning.otherPoint}) {
+            if (!warned.contains(point))
+                warned.append(point);
+        }
+    }
+    m_map->editDraft(m_edit.draft(), m_gestures.selected(), warned);
+}
+
+void MapEditor::showCheck()
+{
+    m_ui->checkPane->check(m_samples, m_edit.draft(), isLow());
 }
 
 MapDraft MapEditor::draft() const

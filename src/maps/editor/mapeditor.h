@@ -7,18 +7,16 @@
 #include <memory>
 
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QHash>
 #include <QTimer>
 
-#include <maps/editor/mapcheckmodel.h>
 #include <maps/editor/mapedit.h>
-#include <maps/proposal/mapproposal.h>
+#include <maps/editor/mapgestures.h>
 #include <session/recording/pointacquisition.h>
 
 namespace zuno {
 
 class MapViewController;
+class OutlineChoice;
 
 namespace Ui {
 class MapEditor;
@@ -71,54 +69,31 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    // Kinds of changes by keys, besides the numbers of the points that are moved.
-    static constexpr int GateChange = -3;
-    static constexpr int NothingToJoin = -4;
-
     void createActions();
     void createKeys(QWidget &area);
     void fillForm();
     void connectForm();
     void connectMap();
     void showSession(int session);
-    void fillOutlines();
     void chooseOutline(int index);
-
-    void select(int point);
-    void onDragged(int point, const QGeoCoordinate &place, bool done);
-    void onGateResized(double metres, bool done);
-    void onTrackClicked(const QGeoCoordinate &place, double metresPerPixel);
-    void nudge(double metres);
-    void addPoint();
-    void showAdded(int point);
-    void removePoint();
-    void joinChanges(int kind);
+    void tellFull();
 
     void showEdit();
     void showPoints();
     void showOnMap();
     void showCheck();
-    void showWarnings();
     void showNameFault();
-    [[nodiscard]] QString summary() const;
+    [[nodiscard]] bool isLow() const;
     void save();
 
     std::unique_ptr<Ui::MapEditor> m_ui;
     Content m_content;
     MapEdit m_edit;
-    MapCheckModel m_laps;
+    MapGestures m_gestures;
     MapViewController *m_map = nullptr;
     Points m_samples;
-    MapProposal m_proposal;
-    /// What the first entry of the outlines' box brings back.
-    QList<QGeoCoordinate> m_outline;
-    /// Which entry of the outlines' box a way around came from.
-    QHash<const TrackRing *, int> m_outlines;
+    std::unique_ptr<OutlineChoice> m_outlines;
     QTimer m_checkSoon;
-    QElapsedTimer m_sinceChange;
-    int m_lastKind = NothingToJoin;
-    int m_selected = MapEdit::Start;
-    bool m_isDragging = false;
 };
 
 } // namespace zuno

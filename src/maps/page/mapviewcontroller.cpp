@@ -60,7 +60,6 @@ void MapViewController::init(QWidget *window, QLayout *layout)
 {
     if (m_view != nullptr)
         return;
-    m_window = window;
     m_view = new QWebEngineView(window);
     m_view->setMinimumWidth(MinimumWidth);
     // Going back, saving and looking at the source are of no use on a map.
@@ -172,7 +171,7 @@ void MapViewController::setOptions(const QString &settingsPath)
         return;
     const QSettings settings(settingsPath, QSettings::IniFormat);
     const auto text = [&settings](Setting setting) {
-        return settings.value(Settings::key(setting)).toString();
+        return settings.value(Settings::key(setting), Settings::standard(setting)).toString();
     };
     const PageOptions options {text(Setting::ShowLocalMinMax), text(Setting::ShowPartielsPoints),
                                text(Setting::UseGradientCompare)};

@@ -61,8 +61,8 @@ public:
     void drawSecondCursor(const QString &text);
     /// Zooms to a stretch of a lap; nothing without a point that has a position.
     void showStretch(const Points &points);
-    /// Tells the page the options that the settings file at @p settingsPath holds; what it does
-    /// not hold is sent as an empty text.
+    /// Tells the page the options that the settings file at @p settingsPath holds, or their
+    /// defaults.
     void setOptions(const QString &settingsPath);
 
     /// Takes everything else off the map, draws the way of a session as a thin line and shows it
@@ -119,7 +119,6 @@ private:
     void sendDraft(OutlineForm outline);
     [[nodiscard]] bool isKnownPoint(int point) const;
 
-    QWidget *m_window = nullptr;
     QWebEngineView *m_view = nullptr;
     JSConnector *m_page = nullptr;
     std::optional<Editing> m_editing;

@@ -3,11 +3,12 @@
 
 #include <views/charts/cursorlabels.h>
 
+#include "ui_cursorlabels.h"
+
 #include <algorithm>
 #include <cmath>
 
 #include <QFontMetrics>
-#include <QLabel>
 #include <QLocale>
 
 #include <base/laptimes.h>
@@ -39,43 +40,53 @@ void name(QLabel &head, const LapTrack &lap)
 
 } // namespace
 
-CursorLabels::CursorLabels(const ChartState &state, const Widgets &widgets, QObject *parent)
-    : QObject(parent)
+CursorLabels::CursorLabels(const ChartState &state, QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::CursorLabels>())
     , m_state(state)
-    , m_widgets(widgets)
 {
-    setColour(*m_widgets.heads.first, firstLapColour());
-    setColour(*m_widgets.heads.second, secondLapColour());
-    m_widgets.heads.difference->setText(tr("Difference"));
+    m_ui->setupUi(this);
+    m_rows = {{
+        {m_ui->lb_speed, m_ui->vitesse, m_ui->vitesse2, m_ui->diffSpeed},
+        {m_ui->lb_angle, m_ui->angle, m_ui->angle2, m_ui->diffAngle},
+        {m_ui->lb_accel, m_ui->accel, m_ui->accel2, m_ui->diffAccel},
+        {m_ui->lb_frontSusp, m_ui->frontSusp, m_ui->frontSusp2, m_ui->diffFrontSusp},
+        {m_ui->lb_rearSusp, m_ui->rearSusp, m_ui->rearSusp2, m_ui->diffRearSusp},
+    }};
+    setColour(*m_ui->lb_compareFirst, firstLapColour());
+    setColour(*m_ui->lb_compareSecond, secondLapColour());
+    m_ui->lb_compareDifference->setText(tr("Difference"));
     for (std::size_t i = 0; i < ChannelCount; ++i)
-        setColour(*m_widgets.rows[i].name, channels()[i].colour);
+        setColour(*m_rows[i].name, channels()[i].colour);
     // What a rider compares laps for.
-    m_widgets.gap->setStyleSheet(QStringLiteral("font-weight: bold"));
+    m_ui->diffTime->setStyleSheet(QStringLiteral("font-weight: bold"));
     fixSizes();
 }
+
+CursorLabels::~CursorLabels() = default;
 
 // A label of fixed size shows another text without a new layout of the whole pane.
 void CursorLabels::fixSizes()
 {
-    const QFontMetrics metrics = m_widgets.time->fontMetrics();
+    const QFontMetrics metrics = m_ui->timeFromStart->fontMetrics();
     const QSize value(metrics.horizontalAdvance(LongestValue), metrics.height());
-    for (const Row &row : m_widgets.rows) {
+    for (const Row &row : m_rows) {
         for (QLabel *label : {row.first, row.second, row.difference}) {
             label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             label->setFixedSize(value);
         }
     }
     for (QLabel *label :
-         {m_widgets.heads.first, m_widgets.heads.second, m_widgets.heads.difference})
+         {m_ui->lb_compareFirst, m_ui->lb_compareSecond, m_ui->lb_compareDifference})
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_widgets.time->setFixedSize(2 * value.width(), value.height());
-    m_widgets.gap->setFixedSize(GapColumns * value.width(), GapLines * value.height());
-    m_widgets.gap->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_ui->timeFromStart->setFixedSize(2 * value.width(), value.height());
+    m_ui->diffTime->setFixedSize(GapColumns * value.width(), GapLines * value.height());
+    m_ui->diffTime->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
 void CursorLabels::setShown(std::size_t channel, bool shown)
 {
-    const Row &row = m_widgets.rows[channel];
+    const Row &row = m_rows[channel];
     const bool hasSecond = m_state.second() != nullptr;
     row.name->setVisible(shown);
     row.first->setVisible(shown);
@@ -86,13 +97,13 @@ void CursorLabels::setShown(std::size_t channel, bool shown)
 void CursorLabels::showLaps()
 {
     const LapTrack *second = m_state.second();
-    m_widgets.heads.second->setVisible(second != nullptr);
-    m_widgets.heads.difference->setVisible(second != nullptr);
-    m_widgets.gap->setVisible(second != nullptr);
+    m_ui->lb_compareSecond->setVisible(second != nullptr);
+    m_ui->lb_compareDifference->setVisible(second != nullptr);
+    m_ui->diffTime->setVisible(second != nullptr);
     if (const LapTrack *first = m_state.first())
-        name(*m_widgets.heads.first, *first);
+        name(*m_ui->lb_compareFirst, *first);
     if (second != nullptr)
-        name(*m_widgets.heads.second, *second);
+        name(*m_ui->lb_compareSecond, *second);
     showCursor();
 }
 
@@ -104,18 +115,18 @@ void CursorLabels::showCursor()
     const std::size_t cursor = m_state.cursor();
     const double seconds = lap->places(AxisKind::Time)[cursor];
     const double metres = lap->places(AxisKind::Distance)[cursor];
-    m_widgets.time->setText(
+    m_ui->timeFromStart->setText(
         tr("%1   %2 m", "time and distance since the start of the lap")
             .arg(timeText(std::llround(seconds * 1000)), QLocale().toString(metres, 'f', 0)));
     for (std::size_t i = 0; i < ChannelCount; ++i)
         showRow(i);
     if (m_state.comparison() != nullptr)
-        m_widgets.gap->setText(gapText());
+        m_ui->diffTime->setText(gapText());
 }
 
 void CursorLabels::showRow(std::size_t channel)
 {
-    const Row &row = m_widgets.rows[channel];
+    const Row &row = m_rows[channel];
     if (row.first->isHidden())
         return;
     const Channel &shown = channels()[channel];

@@ -4,8 +4,9 @@
 #pragma once
 
 #include <array>
+#include <memory>
 
-#include <QObject>
+#include <QWidget>
 
 #include <views/charts/channel.h>
 
@@ -15,32 +16,20 @@ namespace zuno {
 
 class ChartState;
 
+namespace Ui {
+class CursorLabels;
+}
+
 /// The values at the cursor, beside the charts: those of the first lap, and in a comparison those
 /// of the second and the differences.
-class CursorLabels : public QObject
+class CursorLabels final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// A channel's labels.
-    struct Row
-    {
-        QLabel *name = nullptr;
-        QLabel *first = nullptr;
-        QLabel *second = nullptr;
-        QLabel *difference = nullptr;
-    };
-    struct Widgets
-    {
-        /// The heads of the columns: no name, the laps, the difference.
-        Row heads;
-        /// In the order of channels().
-        std::array<Row, ChannelCount> rows;
-        QLabel *time = nullptr;
-        QLabel *gap = nullptr;
-    };
-
-    CursorLabels(const ChartState &state, const Widgets &widgets, QObject *parent = nullptr);
+    /// @p state must outlive the labels.
+    explicit CursorLabels(const ChartState &state, QWidget *parent = nullptr);
+    ~CursorLabels() override;
 
     /// Whether a channel is shown at all.
     void setShown(std::size_t channel, bool shown);
@@ -50,12 +39,23 @@ public:
     void showCursor();
 
 private:
+    /// A channel's labels.
+    struct Row
+    {
+        QLabel *name = nullptr;
+        QLabel *first = nullptr;
+        QLabel *second = nullptr;
+        QLabel *difference = nullptr;
+    };
+
     void showRow(std::size_t channel);
     void fixSizes();
     [[nodiscard]] QString gapText() const;
 
+    std::unique_ptr<Ui::CursorLabels> m_ui;
     const ChartState &m_state;
-    Widgets m_widgets;
+    /// In the order of channels().
+    std::array<Row, ChannelCount> m_rows;
 };
 
 } // namespace zuno

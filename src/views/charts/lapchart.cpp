@@ -51,6 +51,7 @@ constexpr int BandAlpha = 0x38;
 LapChart::LapChart(ChartState &state, QWidget *parent)
     : QChartView(parent)
     , m_state(state)
+    , m_input(state)
     , m_horizontal(new QValueAxis(this))
     , m_vertical(new QValueAxis(this))
 {
@@ -80,7 +81,7 @@ void LapChart::setUpChart()
     drawn->addAxis(m_horizontal, Qt::AlignBottom);
     drawn->addAxis(m_vertical, Qt::AlignLeft);
     for (QValueAxis *axis : {m_horizontal, m_vertical}) {
-        // Grid and numbers are drawn into the picture, see there.
+        // Grid and numbers are drawn into the picture instead.
         axis->setVisible(false);
     }
 }
@@ -219,8 +220,6 @@ void LapChart::drawPicture()
     drawTitle(painter);
 }
 
-// The chart's own axes write "-0.0", cut numbers at the edges, and leave their grid where it was
-// when the plot gets another place.
 void LapChart::drawGrid(QPainter &painter) const
 {
     const QRectF plot = chart()->plotArea();
@@ -384,6 +383,22 @@ void LapChart::changeEvent(QEvent *event)
     QChartView::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         layOut();
+}
+
+bool LapChart::viewportEvent(QEvent *event)
+{
+    return m_input.handleMouse(*event, horizontalScale()) || QChartView::viewportEvent(event);
+}
+
+void LapChart::keyPressEvent(QKeyEvent *event)
+{
+    m_input.handleKey(*event);
+}
+
+void LapChart::leaveEvent(QEvent *event)
+{
+    QChartView::leaveEvent(event);
+    m_state.endHover();
 }
 
 void LapChart::focusInEvent(QFocusEvent * /*event*/)

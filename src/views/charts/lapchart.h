@@ -8,6 +8,7 @@
 
 #include <views/charts/chartaxis.h>
 #include <views/charts/chartcontent.h>
+#include <views/charts/chartinput.h>
 
 class QAreaSeries;
 class QLineSeries;
@@ -18,7 +19,10 @@ namespace zuno {
 class ChartState;
 
 /// Draws one channel of the laps, and leads the state's cursor and visible stretch by mouse and
-/// keys.
+/// keys (ChartInput).
+///
+/// Qt Charts draws the curves. Axes and grid are drawn here: its own write "-0.0", cut numbers at
+/// the edges, and leave their grid where it was when the plot gets another place.
 ///
 /// The chart is drawn once into a picture; a move of the cursor puts the picture back in two narrow
 /// strips and draws the cursor over it, whatever the length of the laps.
@@ -55,11 +59,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
@@ -79,9 +79,9 @@ private:
     void drawOverlay(QPainter &painter) const;
     [[nodiscard]] QRectF titleBox() const;
     [[nodiscard]] QRect strip(double place) const;
-    [[nodiscard]] double placeAt(const QPointF &position) const;
 
     ChartState &m_state;
+    ChartInput m_input;
     ChartContent m_content;
     QValueAxis *m_horizontal;
     QValueAxis *m_vertical;
@@ -90,9 +90,6 @@ private:
     double m_step = 1.0;
     double m_valueStep = 1.0;
     double m_drawnCursor = 0.0;
-    QPointF m_pressedAt;
-    bool m_isPressed = false;
-    bool m_isSelecting = false;
     bool m_isAxisLabelled = false;
     bool m_areSectorsNamed = false;
 };

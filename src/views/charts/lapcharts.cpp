@@ -3,16 +3,17 @@
 
 #include <views/charts/lapcharts.h>
 
+#include "ui_lapcharts.h"
+
 #include <algorithm>
 #include <cmath>
 
-#include <QBoxLayout>
-#include <QCheckBox>
 #include <QSignalBlocker>
 
 #include <base/settings.h>
 #include <maps/payload/lappayload.h>
 #include <session/session.h>
+#include <views/charts/cursorlabels.h>
 #include <views/charts/lapchart.h>
 #include <views/laps/lapselection.h>
 
@@ -31,14 +32,19 @@ QString payloadOf(const PointAcquisition &point)
 
 } // namespace
 
-LapCharts::LapCharts(const Widgets &widgets, LapSelection &selection, const Settings &settings,
-                     QObject *parent)
-    : QObject(parent)
-    , m_widgets(widgets)
+LapCharts::LapCharts(LapSelection &selection, const Settings &settings, QWidget *parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::LapCharts>())
     , m_selection(selection)
     , m_settings(settings)
-    , m_labels(m_state, widgets.labels)
 {
+    m_ui->setupUi(this);
+    m_boxes = {m_ui->cb_speed, m_ui->cb_angleLandR, m_ui->cb_accel, m_ui->cb_frontSuspension,
+               m_ui->cb_rearSuspension};
+    m_labels = new CursorLabels(m_state, this);
+    // Between the boxes and what keeps them at the top.
+    m_ui->compareLayout->insertWidget(m_ui->compareLayout->indexOf(m_ui->cb_compareTime) + 1,
+                                      m_labels);
     createCharts();
     readChoices();
     connectParts();
@@ -56,25 +62,25 @@ LapCharts::~LapCharts()
 void LapCharts::createCharts()
 {
     const auto add = [this] {
-        auto *chart = new LapChart(m_state, m_widgets.pane);
-        m_widgets.charts->addWidget(chart, 1);
+        auto *chart = new LapChart(m_state, this);
+        m_ui->layout_chartLaps->addWidget(chart, 1);
         return chart;
     };
     // Above the others, so that it is in sight however low the pane is.
     m_gapChart = add();
-    for (QPointer<LapChart> &chart : m_charts)
+    for (LapChart *&chart : m_charts)
         chart = add();
-    m_widgets.charts->setSpacing(0);
+    m_ui->layout_chartLaps->setSpacing(0);
 }
 
 void LapCharts::connectParts()
 {
-    for (QCheckBox *box : m_widgets.channels)
+    for (QCheckBox *box : m_boxes)
         connect(box, &QCheckBox::toggled, this, &LapCharts::updateVisibility);
     // A click on the box that is checked would leave none checked.
-    connect(m_widgets.byPosition, &QCheckBox::toggled, this,
+    connect(m_ui->cb_comparePositions2, &QCheckBox::toggled, this,
             [this](bool checked) { setAxis(checked ? AxisKind::Distance : AxisKind::Time); });
-    connect(m_widgets.byTime, &QCheckBox::toggled, this,
+    connect(m_ui->cb_compareTime, &QCheckBox::toggled, this,
             [this](bool checked) { setAxis(checked ? AxisKind::Time : AxisKind::Distance); });
     connect(&m_selection, &LapSelection::currentLapChanged, this, &LapCharts::showCurrentLap);
     connect(&m_selection, &LapSelection::comparisonRequested, &m_state, &ChartState::showLaps);
@@ -83,11 +89,11 @@ void LapCharts::connectParts()
         showCursor();
         sendCursor();
     });
-    for (const QPointer<LapChart> &chart : m_charts)
+    for (LapChart *chart : m_charts)
         connect(&m_state, &ChartState::visibleChanged, chart, &LapChart::showVisible);
     connect(&m_state, &ChartState::visibleChanged, m_gapChart, &LapChart::showVisible);
-    connect(&m_state, &ChartState::selectedChanged, m_widgets.pane, [this] {
-        for (const QPointer<LapChart> &chart : m_charts)
+    connect(&m_state, &ChartState::selectedChanged, this, [this] {
+        for (LapChart *chart : m_charts)
             chart->viewport()->update();
         m_gapChart->viewport()->update();
     });
@@ -96,25 +102,25 @@ void LapCharts::connectParts()
 void LapCharts::readChoices()
 {
     for (std::size_t i = 0; i < ChannelCount; ++i)
-        m_widgets.channels[i]->setChecked(m_settings.isOn(ChannelSettings[i]));
-    m_widgets.byPosition->setChecked(true);
-    m_widgets.byTime->setChecked(false);
+        m_boxes[i]->setChecked(m_settings.isOn(ChannelSettings[i]));
+    m_ui->cb_comparePositions2->setChecked(true);
+    m_ui->cb_compareTime->setChecked(false);
 }
 
 void LapCharts::storeChoices() const
 {
     QList<std::pair<Setting, QVariant>> values;
     for (std::size_t i = 0; i < ChannelCount; ++i)
-        values.append({ChannelSettings[i], m_widgets.channels[i]->isChecked()});
+        values.append({ChannelSettings[i], m_boxes[i]->isChecked()});
     m_settings.setValues(values);
 }
 
 void LapCharts::setAxis(AxisKind axis)
 {
-    const QSignalBlocker position(m_widgets.byPosition);
-    const QSignalBlocker time(m_widgets.byTime);
-    m_widgets.byPosition->setChecked(axis == AxisKind::Distance);
-    m_widgets.byTime->setChecked(axis == AxisKind::Time);
+    const QSignalBlocker position(m_ui->cb_comparePositions2);
+    const QSignalBlocker time(m_ui->cb_compareTime);
+    m_ui->cb_comparePositions2->setChecked(axis == AxisKind::Distance);
+    m_ui->cb_compareTime->setChecked(axis == AxisKind::Time);
     m_state.setAxis(axis);
 }
 
@@ -125,16 +131,16 @@ void LapCharts::showCurrentLap()
 
 bool LapCharts::isShown(std::size_t channel) const
 {
-    const QCheckBox *box = m_widgets.channels[channel];
+    const QCheckBox *box = m_boxes[channel];
     return box->isEnabled() && box->isChecked();
 }
 
 void LapCharts::showContent()
 {
-    m_widgets.pane->setVisible(m_state.first() != nullptr);
+    setVisible(m_state.first() != nullptr);
     showAvailability();
     showCharts();
-    m_labels.showLaps();
+    m_labels->showLaps();
     showCursor();
     // The map follows the cursor, so a lap that nobody has looked into yet is shown whole.
     if (m_state.cursor() != 0)
@@ -149,8 +155,8 @@ void LapCharts::showAvailability()
         const bool isThere
             = (m_state.first() != nullptr && channel.isIn(m_state.first()->points()))
               || (m_state.second() != nullptr && channel.isIn(m_state.second()->points()));
-        m_widgets.channels[i]->setEnabled(isThere);
-        m_widgets.channels[i]->setToolTip(isThere ? QString() : channel.missingText());
+        m_boxes[i]->setEnabled(isThere);
+        m_boxes[i]->setToolTip(isThere ? QString() : channel.missingText());
     }
 }
 
@@ -158,7 +164,7 @@ void LapCharts::updateVisibility()
 {
     storeChoices();
     showCharts();
-    m_labels.showLaps();
+    m_labels->showLaps();
 }
 
 void LapCharts::showCharts()
@@ -172,7 +178,7 @@ void LapCharts::showCharts()
     for (std::size_t i = 0; i < ChannelCount; ++i) {
         const bool isVisible = isShown(i);
         m_charts[i]->setVisible(isVisible);
-        m_labels.setShown(i, isVisible);
+        m_labels->setShown(i, isVisible);
         if (!isVisible)
             continue;
         m_charts[i]->setContent(contentOf(channels()[i], m_state));
@@ -188,7 +194,7 @@ void LapCharts::showCharts()
 
 void LapCharts::layOut()
 {
-    for (const QPointer<LapChart> &chart : m_charts)
+    for (LapChart *chart : m_charts)
         chart->layOut();
     m_gapChart->layOut();
 }
@@ -197,10 +203,10 @@ void LapCharts::showCursor()
 {
     if (m_state.first() == nullptr)
         return;
-    for (const QPointer<LapChart> &chart : m_charts)
+    for (LapChart *chart : m_charts)
         chart->showCursor();
     m_gapChart->showCursor();
-    m_labels.showCursor();
+    m_labels->showCursor();
 }
 
 void LapCharts::sendCursor()

@@ -4,44 +4,35 @@
 #pragma once
 
 #include <array>
+#include <memory>
 
-#include <QObject>
-#include <QPointer>
+#include <QWidget>
 
+#include <views/charts/channel.h>
 #include <views/charts/chartstate.h>
-#include <views/charts/cursorlabels.h>
 
-class QBoxLayout;
 class QCheckBox;
 
 namespace zuno {
 
+class CursorLabels;
 class LapChart;
 class LapSelection;
 class Settings;
 
+namespace Ui {
+class LapCharts;
+}
+
 /// The charts pane: makes a chart for each channel and connects state, charts, value labels and
-/// boxes with each other and with the laps that are chosen.
-class LapCharts : public QObject
+/// boxes with each other and with the laps that are chosen. Hidden while there is no lap.
+class LapCharts final : public QWidget
 {
     Q_OBJECT
 
 public:
-    struct Widgets
-    {
-        /// Hidden while there is no lap.
-        QWidget *pane = nullptr;
-        QBoxLayout *charts = nullptr;
-        /// In the order of channels().
-        std::array<QCheckBox *, ChannelCount> channels {};
-        QCheckBox *byPosition = nullptr;
-        QCheckBox *byTime = nullptr;
-        CursorLabels::Widgets labels;
-    };
-
     /// What is given must outlive the charts.
-    LapCharts(const Widgets &widgets, LapSelection &selection, const Settings &settings,
-              QObject *parent = nullptr);
+    LapCharts(LapSelection &selection, const Settings &settings, QWidget *parent = nullptr);
     ~LapCharts() override;
 
     /// What the rider looks at; table and map may lead it as well.
@@ -73,14 +64,15 @@ private:
     void sendCursor();
     [[nodiscard]] bool isShown(std::size_t channel) const;
 
+    std::unique_ptr<Ui::LapCharts> m_ui;
     ChartState m_state;
-    Widgets m_widgets;
     LapSelection &m_selection;
     const Settings &m_settings;
-    CursorLabels m_labels;
-    // Of the pane, which may go first.
-    std::array<QPointer<LapChart>, ChannelCount> m_charts {};
-    QPointer<LapChart> m_gapChart;
+    /// In the order of channels().
+    std::array<QCheckBox *, ChannelCount> m_boxes {};
+    std::array<LapChart *, ChannelCount> m_charts {};
+    LapChart *m_gapChart = nullptr;
+    CursorLabels *m_labels = nullptr;
 };
 
 } // namespace zuno

@@ -39,44 +39,82 @@ QString decimals(std::optional<float> value)
     return value ? decimals(static_cast<double>(*value)) : QString();
 }
 
+QString speedText(qint32 speed)
+{
+    return QStringLiteral("%1 km/h").arg(speed);
+}
+
 QString angleText(qint32 angle)
 {
     const bool isPossible = angle >= -LargestAngle && angle <= LargestAngle;
     return isPossible ? QStringLiteral("%1 d").arg(angle) : QString(NoFigure);
 }
 
-int columnOf(Mark mark)
+template<Mark mark>
+bool hasMark(const Lap &lap)
 {
-    switch (mark) {
-    case Mark::MaximumSpeed:
-        return LapsTableModel::MaxSpeed;
-    case Mark::LeftAngle:
-        return LapsTableModel::LeftAngle;
-    case Mark::RightAngle:
-        return LapsTableModel::RightAngle;
-    case Mark::Acceleration:
-        return LapsTableModel::Accel;
-    case Mark::Deceleration:
-        return LapsTableModel::Decel;
-    case Mark::FrontSuspensionMinimum:
-        return LapsTableModel::MinFrontSusp;
-    case Mark::FrontSuspensionMaximum:
-        return LapsTableModel::MaxFrontSusp;
-    case Mark::RearSuspensionMinimum:
-        return LapsTableModel::MinRearSusp;
-    case Mark::RearSuspensionMaximum:
-        return LapsTableModel::MaxRearSusp;
-    }
-    return -1;
+    return std::ranges::find(lap.marks(), mark) != lap.marks().end();
 }
 
-bool isMarked(const Lap &lap, int column)
-{
-    return std::any_of(lap.marks().begin(), lap.marks().end(),
-                       [column](Mark mark) { return columnOf(mark) == column; });
-}
+// Tracks with more sections have nameless columns.
+constexpr int NamedSections = 6;
 
 } // namespace
+
+std::span<const LapsTableModel::Column> LapsTableModel::columns()
+{
+    static constexpr std::array Table {
+        Column {QT_TR_NOOP("Lap"),
+                [](const Lap &lap) { return QString::number(lap.lapNumber()); },
+                {}},
+        Column {
+            QT_TR_NOOP("Type"),
+            [](const Lap &lap) { return lap.isComplete() ? tr("Complete") : tr("Incomplete"); },
+            Setting::ShowLapType},
+        Column {QT_TR_NOOP("Cumulated time"),
+                [](const Lap &lap) { return timeText(lap.cumulatedTime()); },
+                Setting::ShowCumulatedTime},
+        Column {QT_TR_NOOP("Lap time"),
+                [](const Lap &lap) { return lap.isComplete() ? lap.timeText() : QString(); },
+                {},
+                [](const Lap &lap) { return lap.isBest(); }},
+        Column {QT_TR_NOOP("Max speed"), [](const Lap &lap) { return speedText(lap.maxSpeed()); },
+                Setting::ShowMaxSpeed, hasMark<Mark::MaximumSpeed>},
+        Column {QT_TR_NOOP("Min speed"), [](const Lap &lap) { return speedText(lap.minSpeed()); },
+                Setting::ShowMinSpeed},
+        Column {QT_TR_NOOP("Left Angle"), [](const Lap &lap) { return angleText(lap.minAngle()); },
+                Setting::ShowAngleLeft, hasMark<Mark::LeftAngle>},
+        Column {QT_TR_NOOP("Right Angle"), [](const Lap &lap) { return angleText(lap.maxAngle()); },
+                Setting::ShowAngleRight, hasMark<Mark::RightAngle>},
+        Column {QT_TR_NOOP("Accel"), [](const Lap &lap) { return decimals(lap.accelMax()); },
+                Setting::ShowAccel, hasMark<Mark::Acceleration>},
+        Column {QT_TR_NOOP("Decel"), [](const Lap &lap) { return decimals(lap.decelMax()); },
+                Setting::ShowDecel, hasMark<Mark::Deceleration>},
+        Column {QT_TR_NOOP("Min front susp."),
+                [](const Lap &lap) { return decimals(lap.suspension1().min); },
+                Setting::ShowMinFrontSusp, hasMark<Mark::FrontSuspensionMinimum>},
+        Column {QT_TR_NOOP("Max front susp."),
+                [](const Lap &lap) { return decimals(lap.suspension1().max); },
+                Setting::ShowMaxFrontSusp, hasMark<Mark::FrontSuspensionMaximum>},
+        Column {QT_TR_NOOP("Min rear susp."),
+                [](const Lap &lap) { return decimals(lap.suspension2().min); },
+                Setting::ShowMinRearSusp, hasMark<Mark::RearSuspensionMinimum>},
+        Column {QT_TR_NOOP("Max rear susp."),
+                [](const Lap &lap) { return decimals(lap.suspension2().max); },
+                Setting::ShowMaxRearSusp, hasMark<Mark::RearSuspensionMaximum>},
+    };
+    return Table;
+}
+
+const LapsTableModel::Column *LapsTableModel::columnAt(int column)
+{
+    return sectionOf(column) < 0 ? &columns()[static_cast<std::size_t>(column)] : nullptr;
+}
+
+int LapsTableModel::sectionOf(int column)
+{
+    return column - static_cast<int>(columns().size());
+}
 
 LapsTableModel::LapsTableModel(QObject *parent) : QAbstractTableModel(parent) {}
 
@@ -101,37 +139,8 @@ void LapsTableModel::setSelection(QItemSelectionModel *selection)
 
 std::optional<Setting> LapsTableModel::settingOf(int column)
 {
-    switch (column) {
-    case Number:
-    case LapTime:
-        return std::nullopt;
-    case Type:
-        return Setting::ShowLapType;
-    case CumulatedTime:
-        return Setting::ShowCumulatedTime;
-    case MaxSpeed:
-        return Setting::ShowMaxSpeed;
-    case MinSpeed:
-        return Setting::ShowMinSpeed;
-    case LeftAngle:
-        return Setting::ShowAngleLeft;
-    case RightAngle:
-        return Setting::ShowAngleRight;
-    case Accel:
-        return Setting::ShowAccel;
-    case Decel:
-        return Setting::ShowDecel;
-    case MinFrontSusp:
-        return Setting::ShowMinFrontSusp;
-    case MaxFrontSusp:
-        return Setting::ShowMaxFrontSusp;
-    case MinRearSusp:
-        return Setting::ShowMinRearSusp;
-    case MaxRearSusp:
-        return Setting::ShowMaxRearSusp;
-    default:
-        return Setting::ShowPartiels;
-    }
+    const Column *figure = columnAt(column);
+    return figure != nullptr ? figure->setting : Setting::ShowPartiels;
 }
 
 int LapsTableModel::rowCount(const QModelIndex &parent) const
@@ -143,7 +152,7 @@ int LapsTableModel::columnCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    return FirstSection + (rowCount() > 0 ? m_sections : 0);
+    return static_cast<int>(columns().size()) + (rowCount() > 0 ? m_sections : 0);
 }
 
 const Lap &LapsTableModel::lapAt(const QModelIndex &index) const
@@ -156,11 +165,12 @@ QVariant LapsTableModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     const Lap &lap = lapAt(index);
+    const Column *figure = columnAt(index.column());
     switch (role) {
     case Qt::DisplayRole:
         return text(lap, index.column());
     case Qt::TextAlignmentRole:
-        return QVariant(Qt::AlignCenter);
+        return QVariant(figure != nullptr ? figure->alignment : Qt::AlignCenter);
     case SelectedRecordRole:
         if (isRowSelected(index) && distinctionOf(lap, index.column()) == Distinction::Record)
             return true;
@@ -177,54 +187,24 @@ QVariant LapsTableModel::data(const QModelIndex &index, int role) const
     return background(lap, index.column());
 }
 
-QString LapsTableModel::text(const Lap &lap, int column) const
+QString LapsTableModel::text(const Lap &lap, int column)
 {
-    switch (column) {
-    case Number:
-        return QString::number(lap.lapNumber());
-    case Type:
-        return lap.isComplete() ? tr("Complete") : tr("Incomplete");
-    case CumulatedTime:
-        return timeText(lap.cumulatedTime());
-    case LapTime:
-        return lap.isComplete() ? lap.timeText() : QString();
-    case MaxSpeed:
-        return QStringLiteral("%1 km/h").arg(lap.maxSpeed());
-    case MinSpeed:
-        return QStringLiteral("%1 km/h").arg(lap.minSpeed());
-    case LeftAngle:
-        return angleText(lap.minAngle());
-    case RightAngle:
-        return angleText(lap.maxAngle());
-    case Accel:
-        return decimals(lap.accelMax());
-    case Decel:
-        return decimals(lap.decelMax());
-    case MinFrontSusp:
-        return decimals(lap.suspension1().min);
-    case MaxFrontSusp:
-        return decimals(lap.suspension1().max);
-    case MinRearSusp:
-        return decimals(lap.suspension2().min);
-    case MaxRearSusp:
-        return decimals(lap.suspension2().max);
-    default:
-        return timeText(lap.sectorTime(column - FirstSection));
-    }
+    const Column *figure = columnAt(column);
+    return figure != nullptr ? figure->text(lap) : timeText(lap.sectorTime(sectionOf(column)));
 }
 
-LapsTableModel::Distinction LapsTableModel::distinctionOf(const Lap &lap, int column) const
+LapsTableModel::Distinction LapsTableModel::distinctionOf(const Lap &lap, int column)
 {
     if (!lap.isValid())
         return Distinction::Invalid;
-    if (isMarked(lap, column) || (column == LapTime && lap.isBest()))
-        return Distinction::Record;
-    if (column >= FirstSection && lap.isBestSector(column - FirstSection))
-        return Distinction::BestSection;
-    return Distinction::None;
+    const Column *figure = columnAt(column);
+    if (figure == nullptr)
+        return lap.isBestSector(sectionOf(column)) ? Distinction::BestSection : Distinction::None;
+    const bool isRecord = figure->isRecord != nullptr && figure->isRecord(lap);
+    return isRecord ? Distinction::Record : Distinction::None;
 }
 
-QVariant LapsTableModel::background(const Lap &lap, int column) const
+QVariant LapsTableModel::background(const Lap &lap, int column)
 {
     switch (distinctionOf(lap, column)) {
     case Distinction::Invalid:
@@ -247,27 +227,11 @@ bool LapsTableModel::isRowSelected(const QModelIndex &index) const
 QVariant LapsTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0
-        || section >= HeaderCount)
+        || sectionOf(section) >= NamedSections)
         return {};
-    const std::array<QString, FirstSection> texts {
-        tr("Lap"),
-        tr("Type"),
-        tr("Cumulated time"),
-        tr("Lap time"),
-        tr("Max speed"),
-        tr("Min speed"),
-        tr("Left Angle"),
-        tr("Right Angle"),
-        tr("Accel"),
-        tr("Decel"),
-        tr("Min front susp."),
-        tr("Max front susp."),
-        tr("Min rear susp."),
-        tr("Max rear susp."),
-    };
-    if (section < FirstSection)
-        return texts[static_cast<std::size_t>(section)];
-    return tr("Section %1").arg(section - FirstSection + 1);
+    if (const Column *figure = columnAt(section))
+        return tr(figure->header);
+    return tr("Section %1").arg(sectionOf(section) + 1);
 }
 
 } // namespace zuno

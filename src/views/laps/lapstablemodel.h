@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <optional>
+#include <span>
+
 #include <QAbstractTableModel>
 #include <QPointer>
 
@@ -19,26 +22,6 @@ class LapsTableModel final : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column {
-        Number,
-        Type,
-        CumulatedTime,
-        LapTime,
-        MaxSpeed,
-        MinSpeed,
-        LeftAngle,
-        RightAngle,
-        Accel,
-        Decel,
-        MinFrontSusp,
-        MaxFrontSusp,
-        MinRearSusp,
-        MaxRearSusp,
-        FirstSection,
-    };
-    /// Columns that have a header; tracks with more sections have nameless ones.
-    static constexpr int HeaderCount = 20;
-
     enum Role {
         /// True for a record's cell in a selected row: it keeps its colour.
         SelectedRecordRole = Qt::UserRole + 3,
@@ -58,6 +41,8 @@ public:
 
     /// The setting that shows a column; none for a column that is always shown.
     [[nodiscard]] static std::optional<Setting> settingOf(int column);
+    /// The section, from 0, whose times a column has; negative for a figure of the whole lap.
+    [[nodiscard]] static int sectionOf(int column);
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -66,12 +51,28 @@ public:
                                       int role) const override;
 
 private:
+    /// A figure of the whole lap, as data: to add a column is to add a row of the table.
+    struct Column
+    {
+        /// Still to be translated.
+        const char *header = nullptr;
+        QString (*text)(const Lap &lap) = nullptr;
+        /// Shows it; none for a column that is always shown.
+        std::optional<Setting> setting;
+        /// Whether the lap's figure is a record of the session; nullptr where there is none.
+        bool (*isRecord)(const Lap &lap) = nullptr;
+        Qt::Alignment alignment = Qt::AlignCenter;
+    };
     enum class Distinction { None, Invalid, Record, BestSection };
 
+    /// The columns before those of the sections.
+    [[nodiscard]] static std::span<const Column> columns();
+    /// nullptr for a section's.
+    [[nodiscard]] static const Column *columnAt(int column);
     [[nodiscard]] const Lap &lapAt(const QModelIndex &index) const;
-    [[nodiscard]] QString text(const Lap &lap, int column) const;
-    [[nodiscard]] Distinction distinctionOf(const Lap &lap, int column) const;
-    [[nodiscard]] QVariant background(const Lap &lap, int column) const;
+    [[nodiscard]] static QString text(const Lap &lap, int column);
+    [[nodiscard]] static Distinction distinctionOf(const Lap &lap, int column);
+    [[nodiscard]] static QVariant background(const Lap &lap, int column);
     [[nodiscard]] bool isRowSelected(const QModelIndex &index) const;
 
     const LapList *m_laps = nullptr;

@@ -63,8 +63,9 @@ void LapsView::connectSelection()
     connect(&m_selection, &LapSelection::currentLapChanged, this, &LapsView::selectCurrentRow);
     connect(&m_selection, &LapSelection::firstLapChanged, this, &LapsView::updateActions);
     const auto chooseSector = [this](const QModelIndex &cell) {
-        if (cell.column() >= LapsTableModel::FirstSection)
-            Q_EMIT sectorChosen(cell.column() - LapsTableModel::FirstSection);
+        const int sector = LapsTableModel::sectionOf(cell.column());
+        if (sector >= 0)
+            Q_EMIT sectorChosen(sector);
     };
     connect(&m_table, &QTableView::clicked, this, chooseSector);
     // With the keys: Enter.
@@ -100,9 +101,7 @@ void LapsView::applyColumns()
 {
     for (int column = 0; column < m_model->columnCount(); ++column) {
         const auto setting = LapsTableModel::settingOf(column);
-        // A key that was taken out of the settings file hides its column.
-        const bool shown = !setting || (m_settings.isStored(*setting) && m_settings.isOn(*setting));
-        m_table.setColumnHidden(column, !shown);
+        m_table.setColumnHidden(column, setting && !m_settings.isOn(*setting));
     }
     // Before the window is shown, the header does not know its padding yet and would cut its texts.
     m_table.horizontalHeader()->ensurePolished();

@@ -4,13 +4,8 @@
 #include <views/laps/sessionsummary.h>
 
 #include <QDir>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLocale>
-#include <QTableWidget>
 
-#include <base/laptimes.h>
-#include <base/numbers.h>
 #include <session/recording/gpsquality.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
@@ -18,6 +13,7 @@
 
 namespace zuno {
 
+// Empty when all samples say where the motorcycle was.
 QString SessionSummary::gpsText(const Session &session)
 {
     const qint64 count = gpsQuality(session.wholeSamples()).total();
@@ -54,93 +50,26 @@ QString SessionSummary::reasonForNoLaps(const Session &session, const QString &m
         .arg(map->displayName());
 }
 
-void SessionSummary::showSession(const Session *session)
+QString SessionSummary::idealTimeText(const Session &session)
 {
-    showLabels(session);
-    showSections(session);
+    return tr("Ideal Time : %1").arg(session.idealTimeText());
 }
 
-void SessionSummary::showLabels(const Session *session)
+QString SessionSummary::distanceText(const Session &session)
 {
-    const Map *map = session != nullptr ? session->map() : nullptr;
-    const bool hasMap = map != nullptr;
-    m_w.map->setVisible(hasMap);
-    m_w.mapLength->setVisible(hasMap);
-    m_w.idealTime->setVisible(hasMap);
-    m_w.distance->setVisible(hasMap);
-    m_w.mapError->setVisible(session != nullptr && !hasMap);
-    m_w.newMap->setVisible(session != nullptr && !hasMap && session->sampleCount() > 0);
-    m_w.mapError->setText(
-        tr("No map found, please try to select one from the Map configuraton panel"));
-    if (session == nullptr || !hasMap)
-        return;
-    m_w.map->setText(tr("Map : %1").arg(map->displayName()));
-    m_w.mapLength->setText(
-        tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
-    m_w.idealTime->setText(tr("Ideal Time : %1").arg(session->idealTimeText()));
     const QString distance
-        = tr("Traveled distance : %1 m").arg(QLocale().toString(session->results().distance));
-    const QString gps = gpsText(*session);
-    m_w.distance->setText(gps.isEmpty() ? distance : distance + u"   (" + gps + u')');
+        = tr("Traveled distance : %1 m").arg(QLocale().toString(session.results().distance));
+    const QString gps = gpsText(session);
+    return gps.isEmpty() ? distance : distance + u"   (" + gps + u')';
 }
 
-void SessionSummary::showSections(const Session *session)
+QString SessionSummary::firstLapText(const SessionLap &lap)
 {
-    QTableWidget *table = m_w.sections;
-    table->clear();
-    if (session == nullptr || session->map() == nullptr || session->laps().empty()) {
-        table->hide();
-        return;
-    }
-    const int sectors = session->map()->sectorCount();
-    table->setVisible(sectors > 0);
-    fillSections(*session, sectors);
-    table->horizontalHeader()->ensurePolished();
-    table->resizeColumnsToContents();
-    table->verticalHeader()->setDefaultSectionSize(
-        m_w.laps->verticalHeader()->defaultSectionSize());
-    const int head = table->horizontalHeader()->sizeHint().height() + (2 * table->frameWidth());
-    // As high as its rows where there is room; in a low pane it scrolls, the laps need it more.
-    table->setMinimumHeight(head + table->verticalHeader()->defaultSectionSize());
-    table->setMaximumHeight(head + table->verticalHeader()->length());
-}
-
-// The best time of each section, and the lap that holds it.
-void SessionSummary::fillSections(const Session &session, int sectors)
-{
-    QTableWidget *table = m_w.sections;
-    table->setRowCount(sectors);
-    table->setColumnCount(3);
-    table->setHorizontalHeaderLabels({tr("Section"), tr("Best time"), tr("Lap")});
-    table->verticalHeader()->hide();
-    for (int sector = 0; sector < sectors; ++sector) {
-        const auto s = static_cast<std::size_t>(sector);
-        const qint32 lap = session.results().bestSectorLaps[s];
-        const QStringList texts {
-            QString::number(sector + 1),
-            lap < 0 ? QString() : timeText(session.results().bestSectorTimes[s]),
-            lap < 0 ? QString() : QString::number(lap + 1),
-        };
-        for (int column = 0; column < texts.size(); ++column) {
-            auto *item = new QTableWidgetItem(texts[column]);
-            item->setTextAlignment(Qt::AlignCenter);
-            table->setItem(sector, column, item);
-        }
-    }
-}
-
-void SessionSummary::showFirstLap(const SessionLap &lap)
-{
-    m_w.firstLap->setVisible(static_cast<bool>(lap));
-    if (!lap)
-        return;
     const Map *map = lap.map();
-    m_w.firstLap->setText(
-        tr("Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap time "
-           ": %4 --- max speed : %5 km/h")
-            .arg(map != nullptr ? map->displayName() : QString(), lap.fileName(),
-                 QString::number(lap->lapNumber()), lap->timeText(),
-                 QString::number(lap->maxSpeed())));
+    return tr("Infos of first lap selected : Map : %1 --- Session : %2 --- Lap num : %3 --- Lap "
+              "time : %4 --- max speed : %5 km/h")
+        .arg(map != nullptr ? map->displayName() : QString(), lap.fileName(),
+             QString::number(lap->lapNumber()), lap->timeText(), QString::number(lap->maxSpeed()));
 }
 
 } // namespace zuno

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// How a chart answers to mouse and keys; what it draws is in lapchart.cpp.
+#include <views/charts/chartinput.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,7 +12,6 @@
 #include <QWheelEvent>
 
 #include <views/charts/chartstate.h>
-#include <views/charts/lapchart.h>
 
 namespace zuno {
 
@@ -28,42 +27,67 @@ constexpr double PagePart = 0.9;
 
 } // namespace
 
-// Beside the plot the nearest place in sight is meant.
-double LapChart::placeAt(const QPointF &position) const
+bool ChartInput::handleMouse(QEvent &event, const PixelScale &scale)
 {
-    return m_state.visible().clamped(horizontalScale().valueAt(position.x()));
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+        press(static_cast<const QMouseEvent &>(event));
+        return true;
+    case QEvent::MouseMove:
+        move(static_cast<const QMouseEvent &>(event), scale);
+        return true;
+    case QEvent::MouseButtonRelease:
+        release(static_cast<const QMouseEvent &>(event), scale);
+        return true;
+    case QEvent::MouseButtonDblClick:
+        if (static_cast<const QMouseEvent &>(event).button() == Qt::LeftButton)
+            m_state.showWhole();
+        return true;
+    case QEvent::Wheel:
+        turnWheel(static_cast<const QWheelEvent &>(event), scale);
+        event.accept();
+        return true;
+    default:
+        return false;
+    }
 }
 
-void LapChart::mousePressEvent(QMouseEvent *event)
+// Beside the plot the nearest place in sight is meant.
+double ChartInput::placeAt(const QPointF &position, const PixelScale &scale) const
 {
-    if (event->button() != Qt::LeftButton)
+    return m_state.visible().clamped(scale.valueAt(position.x()));
+}
+
+void ChartInput::press(const QMouseEvent &event)
+{
+    if (event.button() != Qt::LeftButton)
         return;
     m_isPressed = true;
     m_isSelecting = false;
-    m_pressedAt = event->position();
+    m_pressedAt = event.position();
 }
 
-void LapChart::mouseMoveEvent(QMouseEvent *event)
+void ChartInput::move(const QMouseEvent &event, const PixelScale &scale)
 {
-    m_state.hover(placeAt(event->position()));
+    const double here = placeAt(event.position(), scale);
+    m_state.hover(here);
     if (!m_isPressed)
         return;
-    const double way = std::abs(event->position().x() - m_pressedAt.x());
+    const double way = std::abs(event.position().x() - m_pressedAt.x());
     m_isSelecting = m_isSelecting || way >= QApplication::startDragDistance();
     if (m_isSelecting) {
-        const double here = placeAt(event->position());
-        const double there = placeAt(m_pressedAt);
+        const double there = placeAt(m_pressedAt, scale);
         m_state.select(AxisRange {std::min(here, there), std::max(here, there)});
     }
 }
 
-void LapChart::mouseReleaseEvent(QMouseEvent *event)
+void ChartInput::release(const QMouseEvent &event, const PixelScale &scale)
 {
-    if (event->button() != Qt::LeftButton || !m_isPressed)
+    if (event.button() != Qt::LeftButton || !m_isPressed)
         return;
     m_isPressed = false;
     if (!m_isSelecting) {
-        m_state.pin(placeAt(event->position()));
+        m_state.pin(placeAt(event.position(), scale));
         return;
     }
     m_isSelecting = false;
@@ -73,36 +97,23 @@ void LapChart::mouseReleaseEvent(QMouseEvent *event)
         m_state.showRange(*selected);
 }
 
-void LapChart::mouseDoubleClickEvent(QMouseEvent *event)
+void ChartInput::turnWheel(const QWheelEvent &event, const PixelScale &scale)
 {
-    if (event->button() == Qt::LeftButton)
-        m_state.showWhole();
-}
-
-void LapChart::leaveEvent(QEvent *event)
-{
-    QChartView::leaveEvent(event);
-    m_state.endHover();
-}
-
-void LapChart::wheelEvent(QWheelEvent *event)
-{
-    const QPoint turned = event->angleDelta();
-    const bool isSideways = event->modifiers().testFlag(Qt::ShiftModifier) || turned.y() == 0;
+    const QPoint turned = event.angleDelta();
+    const bool isSideways = event.modifiers().testFlag(Qt::ShiftModifier) || turned.y() == 0;
     if (isSideways)
         m_state.scroll(-(turned.x() + turned.y()) / Notch * ScrollPart);
     else
-        m_state.zoom(std::pow(ZoomFactor, turned.y() / Notch), placeAt(event->position()));
-    event->accept();
+        m_state.zoom(std::pow(ZoomFactor, turned.y() / Notch), placeAt(event.position(), scale));
 }
 
-void LapChart::keyPressEvent(QKeyEvent *event)
+void ChartInput::handleKey(QKeyEvent &event)
 {
-    const int direction = event->key() == Qt::Key_Left ? -1 : 1;
-    switch (event->key()) {
+    const int direction = event.key() == Qt::Key_Left ? -1 : 1;
+    switch (event.key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
-        if (event->modifiers().testFlag(Qt::ShiftModifier))
+        if (event.modifiers().testFlag(Qt::ShiftModifier))
             m_state.stepSeconds(direction);
         else
             m_state.step(direction);
@@ -133,7 +144,7 @@ void LapChart::keyPressEvent(QKeyEvent *event)
         break;
     default:
         // Not the scroll area's keys, which would take the arrows up and down.
-        event->ignore();
+        event.ignore();
     }
 }
 

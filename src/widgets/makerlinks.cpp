@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <app/makerlinks.h>
+#include <widgets/makerlinks.h>
 
 #include <QFocusEvent>
 

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <memory>
+
+#include <QWidget>
+
+namespace zuno {
+
+class MapViewController;
+class Session;
+
+namespace Ui {
+class MapPane;
+}
+
+/// The map view of the main window, below what is said about the displayed session's map.
+class MapPane final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MapPane(QWidget *parent = nullptr);
+    ~MapPane() override;
+
+    [[nodiscard]] MapViewController &view() { return *m_view; }
+
+    /// Shows name and length of a session's map; nullptr for no session.
+    void showSession(const Session *session);
+
+Q_SIGNALS:
+    /// The rider wants a map to be made from the session.
+    void newMapRequested();
+
+private:
+    std::unique_ptr<Ui::MapPane> m_ui;
+    MapViewController *m_view;
+};
+
+} // namespace zuno
