@@ -97,7 +97,10 @@ QString failure(const RewriteResult &result)
 {
     switch (result.outcome) {
     case RewriteOutcome::NotRewritable:
-        return QStringLiteral("ends before its information; it was left alone");
+        return QStringLiteral("has a format that is not known, is damaged, or ends before its "
+                              "information; it was left alone");
+    case RewriteOutcome::BeingWritten:
+        return QStringLiteral("was written by somebody else just then; it was left alone");
     case RewriteOutcome::OtherRecording:
         return QStringLiteral("holds another recording now; it was left alone");
     case RewriteOutcome::Unreadable:
