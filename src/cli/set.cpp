@@ -4,6 +4,7 @@
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
+#include <cli/output.h>
 
 #include <algorithm>
 #include <array>
@@ -125,9 +126,13 @@ int set(const QStringList &arguments)
                      QStringLiteral("What to change; can be repeated."));
     line.addValue({QStringLiteral("o")}, QStringLiteral("OUT"),
                   QStringLiteral("Writes to OUT instead of FILE."));
+    addForceOption(line);
     constexpr qsizetype Any = 1000000;
     if (const auto status = line.parse(1, Any))
         return *status;
+    const QString output = line.value(QStringLiteral("o"));
+    if (!output.isEmpty() && !mayWriteReported(output, FileKind::Session, line))
+        return FileFailed;
     const std::unique_ptr<Session> session = openReported(line.argument(0));
     if (!session)
         return FileFailed;
@@ -139,10 +144,9 @@ int set(const QStringList &arguments)
             return WrongUse;
         }
     }
-    const RewriteResult result
-        = line.isSet(QStringLiteral("o"))
-              ? rewriteSessionFileTo(*session, line.value(QStringLiteral("o")))
-              : rewriteSessionFile(*session);
+    const RewriteResult result = line.isSet(QStringLiteral("o"))
+                                     ? rewriteSessionFileTo(*session, output)
+                                     : rewriteSessionFile(*session);
     if (result.ok())
         return Success;
     printFileError(line.argument(0), failure(result));

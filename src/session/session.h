@@ -57,6 +57,9 @@ public:
     /// The samples that the file holds whole: the ones to compute with and to show.
     [[nodiscard]] std::span<const PointAcquisition> wholeSamples() const;
     [[nodiscard]] const ReadingLists &readingLists() const;
+    /// Whether there was not enough memory for samples or laps: the session has none then, until
+    /// release().
+    [[nodiscard]] bool lacksMemory() const { return m_lacksMemory; }
     /// Runs the smoothing pass; does nothing when it has run before.
     void smooth();
     /// Lets go of samples and laps, which take a megabyte or more; what they said about the session
@@ -130,6 +133,7 @@ Q_SIGNALS:
 private:
     void fetchSamples() const;
     void flagLaps();
+    void guard(const std::function<void()> &work) const;
 
     QString m_filePath;
     Recording m_recording;
@@ -140,6 +144,7 @@ private:
     // Decoded on first use, which is no change of the session.
     mutable Samples m_samples;
     mutable bool m_fetched = false;
+    mutable bool m_lacksMemory = false;
     const Map *m_map = nullptr;
     quint8 m_newSession = 1;
     bool m_smoothed = false;
