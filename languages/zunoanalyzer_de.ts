@@ -204,6 +204,10 @@
         <source>has a format that is too old</source>
         <translation>hat ein zu altes Format</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>ist zu groß: Eine Session hat höchstens 1 GB und 20 Millionen Messpunkte</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -276,6 +280,10 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder kopieren Sie die Kartendatei der Strecke nach
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>Der Arbeitsspeicher reicht nicht, um diese Session zu zeigen.</translation>
     </message>
 </context>
 <context>
@@ -656,6 +664,17 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Meinen behalten</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -676,6 +695,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>die Datei ist beschädigt oder endet zu früh</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>ihr Format ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>%1 wurde inzwischen von einem anderen Programm geändert. Wo Sie beide getippt haben, gilt Ihr Text; die Seite „Session-Infos“ bietet den anderen an.</translation>
     </message>
 </context>
 <context>
@@ -1314,6 +1341,41 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Diese Datei hat ein Format, das diese Version nicht kennt (%1). Sie wird gezeigt, aber in ihr kann nichts gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Diese Datei ist beschädigt oder noch nicht vollständig. Sie wird gezeigt, aber in ihr kann nichts gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Ein anderes Programm hat hier zur selben Zeit getippt, und Ihr Text steht jetzt an der Stelle von: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Ein Name, der mit einem Punkt beginnt, ist versteckt: Er würde nicht mehr aufgeführt.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>In einem Namen dürfen nicht stehen: %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Ein Name darf nicht mit einem Leerzeichen beginnen oder enden, auch nicht mit einem Punkt enden.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows benutzt diesen Namen für ein Gerät; wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>Namen mit „ZUNO“ sind den Ordnern der Logger vorbehalten, die weder umbenannt noch gelöscht werden können.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1434,6 +1496,49 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Was Sie zu diesen Sessions eingetragen haben, konnte nicht in ihre Dateien geschrieben werden:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Woanders speichern...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Schließen, ohne zu speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Woanders speichern</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Diese ließen sich auch dort nicht speichern:
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1683,6 +1788,10 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
         <translation>Der Ordner Ihrer Sessions ist nicht mehr da: Er wurde verschoben, oder sein Laufwerk wurde entfernt.
 
 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>„%1“ ist zu groß, um gezeigt zu werden: Eine Session hat höchstens 1 GB und 20 Millionen Messpunkte.</translation>
     </message>
 </context>
 </TS>

@@ -204,6 +204,10 @@
         <source>has a format that is too old</source>
         <translation>tiene un formato demasiado antiguo</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>es demasiado grande: una sesión tiene como máximo 1 GB y 20 millones de muestras</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -276,6 +280,10 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el archivo de mapa del circuito en
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>No hay memoria suficiente para mostrar esta sesión.</translation>
     </message>
 </context>
 <context>
@@ -656,6 +664,17 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Recuperar el otro</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Conservar el mío</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -676,6 +695,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>el archivo está dañado o termina antes de tiempo</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>su formato no se conoce</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>Otro programa modificó %1 entretanto. Donde han escrito los dos queda su texto; la página «Datos de la sesión» ofrece el otro.</translation>
     </message>
 </context>
 <context>
@@ -1314,6 +1341,41 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Este archivo tiene un formato que esta versión no conoce (%1). Se muestra, pero no se puede guardar nada en él.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Este archivo está dañado, o no está completo todavía. Se muestra, pero no se puede guardar nada en él.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Otro programa ha escrito aquí al mismo tiempo, y su texto ha ocupado el lugar de: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Un nombre que empieza por un punto está oculto: ya no aparecería en la lista.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>En un nombre no pueden estar: %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Un nombre no puede empezar ni terminar con un espacio, ni terminar con un punto.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows reserva este nombre para un dispositivo; elija otro.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>Los nombres con «ZUNO» se reservan para las carpetas de los registradores, que no se pueden renombrar ni eliminar.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1434,6 +1496,49 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>desconocida</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Lo que ha anotado sobre estas sesiones no se ha podido escribir en sus archivos:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Volver a intentar</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Guardar en otro sitio...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Cerrar sin guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Guardar en otro sitio</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Estas tampoco se han podido guardar allí:
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1683,6 +1788,10 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
         <translation>La carpeta de sus sesiones ya no está: se ha movido, o se ha retirado su unidad.
 
 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>«%1» es demasiado grande para mostrarse: una sesión tiene como máximo 1 GB y 20 millones de muestras.</translation>
     </message>
 </context>
 </TS>

@@ -204,6 +204,10 @@
         <source>has a format that is too old</source>
         <translation>est d&apos;un format trop ancien</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>est trop grand : une session a 1 Go et 20 millions de points au plus</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -276,6 +280,10 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (Ctrl+M) ou copiez le fichier de carte du circuit dans
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>Il n&apos;y a pas assez de mémoire pour afficher cette session.</translation>
     </message>
 </context>
 <context>
@@ -656,6 +664,17 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Reprendre l&apos;autre</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Garder le mien</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -676,6 +695,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>le fichier est endommagé ou tronqué</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>son format n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>%1 a été modifié entre-temps par un autre programme. Là où vous avez tapé tous deux, votre texte reste ; la page « Infos de la session » propose l&apos;autre.</translation>
     </message>
 </context>
 <context>
@@ -1314,6 +1341,41 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Ce fichier a un format que cette version ne connaît pas (%1). Il est affiché, mais rien ne peut y être enregistré.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Ce fichier est endommagé, ou pas encore complet. Il est affiché, mais rien ne peut y être enregistré.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Un autre programme a tapé ici en même temps, et votre texte a pris la place de : %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Un nom qui commence par un point est caché : il ne serait plus dans la liste.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>Ces signes ne peuvent pas figurer dans un nom : %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Un nom ne peut ni commencer ni finir par une espace, ni finir par un point.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows réserve ce nom à un périphérique ; choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>Les noms avec « ZUNO » sont réservés aux dossiers des boîtiers, qui ne peuvent être ni renommés ni supprimés.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1434,6 +1496,49 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>inconnue</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Ce que vous avez noté sur ces sessions n&apos;a pas pu être écrit dans leurs fichiers :
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Enregistrer ailleurs...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Fermer sans enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Enregistrer ailleurs</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Celles-ci n&apos;ont pas pu être enregistrées là non plus :
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1683,6 +1788,10 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
         <translation>Le dossier de vos sessions n&apos;est plus là&#xa0;: il a été déplacé, ou son disque a été retiré.
 
 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>« %1 » est trop grand pour être affiché : une session a 1 Go et 20 millions de points au plus.</translation>
     </message>
 </context>
 </TS>

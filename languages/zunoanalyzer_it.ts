@@ -204,6 +204,10 @@
         <source>has a format that is too old</source>
         <translation>ha un formato troppo vecchio</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>è troppo grande: una sessione ha al massimo 1 GB e 20 milioni di campioni</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -276,6 +280,10 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copia il file di mappa del circuito in
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>Non c&apos;è abbastanza memoria per mostrare questa sessione.</translation>
     </message>
 </context>
 <context>
@@ -656,6 +664,17 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Riprendi l&apos;altro</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Tieni il mio</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -676,6 +695,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>il file è danneggiato o finisce troppo presto</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>il suo formato non è noto</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>%1 è stato modificato nel frattempo da un altro programma. Dove avete scritto entrambi resta il tuo testo; la scheda «Info sessione» offre l&apos;altro.</translation>
     </message>
 </context>
 <context>
@@ -1314,6 +1341,41 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <extracomment>Below the notes: how many characters they have, and may have.</extracomment>
         <translation>%1 / %2</translation>
     </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Questo file ha un formato che questa versione non conosce (%1). Viene mostrato, ma non vi si può salvare niente.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Questo file è danneggiato, o non ancora completo. Viene mostrato, ma non vi si può salvare niente.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Un altro programma ha scritto qui nello stesso momento, e il tuo testo ha preso il posto di: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Un nome che comincia con un punto è nascosto: non comparirebbe più nell&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>In un nome non possono stare: %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Un nome non può cominciare o finire con uno spazio, né finire con un punto.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows riserva questo nome a un dispositivo; scegline un altro.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>I nomi con «ZUNO» sono riservati alle cartelle dei logger, che non si possono né rinominare né eliminare.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::SessionsStats</name>
@@ -1434,6 +1496,49 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>sconosciuta</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifiche non salvate</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Quello che hai annotato su queste sessioni non si è potuto scrivere nei loro file:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Salva altrove...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Chiudi senza salvare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Salva altrove</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Queste non si sono potute salvare nemmeno lì:
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1683,6 +1788,10 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
         <translation>La cartella delle tue sessioni non c&apos;è più: è stata spostata, o il suo disco è stato scollegato.
 
 %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>«%1» è troppo grande per essere mostrato: una sessione ha al massimo 1 GB e 20 milioni di campioni.</translation>
     </message>
 </context>
 </TS>

@@ -1,11 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <functional>
+
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -15,6 +19,7 @@
 
 #include <library/informationwriter.h>
 #include <session/sessionfile.h>
+#include <session/sessionrewrite.h>
 #include <stats/sessioninfos.h>
 #include <stats/temperaturebox.h>
 
@@ -31,6 +36,8 @@ QByteArray bytesOf(const InformationBytes &information)
 {
     return SessionBytes {.information = information.bytes()}.bytes();
 }
+
+using To = InformationBytes;
 
 /// A page of its own that shows the session of a file.
 struct Page
@@ -59,11 +66,11 @@ struct Page
     QString path = folder.filePath(u"ride.ra1"_s);
     QWidget window;
     QList<QWidget *> fields;
-    SessionInfos::Form form {add<QLineEdit>(), add<QLineEdit>(), add<QLineEdit>(),
-                             add<QLineEdit>(), add<QComboBox>(), add<TemperatureBox>(),
-                             add<QLabel>(),    add<QTextEdit>(), add<QLabel>(),
-                             add<QLabel>(),    add<QLabel>(),    add<QLabel>(),
-                             add<QLabel>(),    add<QLabel>(),    add<QTabWidget>()};
+    SessionInfos::Form form {
+        add<QLineEdit>(), add<QLineEdit>(),      add<QLineEdit>(),  add<QLineEdit>(),
+        add<QComboBox>(), add<TemperatureBox>(), add<QLabel>(),     add<QTextEdit>(),
+        add<QLabel>(),    add<QLabel>(),         add<QLabel>(),     add<QLabel>(),
+        add<QLabel>(),    add<QLabel>(),         add<QTabWidget>(), &window};
     InformationWriter writer;
     std::unique_ptr<Session> session;
     std::unique_ptr<SessionInfos> infos;
@@ -114,12 +121,12 @@ private Q_SLOTS:
     void typing()
     {
         enum Field { Event, Driver, Vehicle, Tyres, Condition, Temperature, Degrees, Notes };
-        using To = InformationBytes;
         const std::tuple<Field, QString, void (*)(To &)> rows[] {
             {Event, u"  Fr\u00FCh  "_s, [](To &to) { to.event = "Fruh"; }},
             {Driver, u" \u00C6 "_s, [](To &to) { to.driver = " AE "; }},
             {Vehicle, u""_s, [](To &to) { to.vehicle = ""; }},
-            {Tyres, u"\u9234"_s, [](To &) {}},
+            {Tyres, u"\u9234"_s, [](To &to) { to.tyres = ""; }},
+            {Notes, u""_s, [](To &to) { to.notes = ""; }},
             {Condition, u"D"_s, [](To &to) { to.condition = "D"; }},
             {Temperature, u"unknown"_s, [](To &to) { to.temperature = 99; }},
             {Temperature, u"255"_s, [](To &to) { to.temperature = 255; }},
@@ -178,24 +185,102 @@ private Q_SLOTS:
         QCOMPARE(page.file(), bytesOf(information));
     }
 
-    // Typed, but not finished with Enter.
+    // Typed, but not finished with Enter: whatever the rider does next, it is in the file.
     void unfinished()
     {
-        Page page;
-        type(*page.form.driver, u"Zoe"_s);
-        page.infos->showSession(page.session.get()); // Its map has changed.
-        QCOMPARE(page.file(), bytesOf({}));
-        page.window.close();
-        QCOMPARE(page.file(), bytesOf({.driver = "Zoe"}));
-        // Leaving the tab saves, too, and for the session that was shown.
-        page.form.tabs->addTab(new QWidget, {});
-        page.form.tabs->addTab(new QWidget, {});
-        page.form.tabs->setCurrentIndex(1);
-        page.form.driver->setText(u"Eve"_s);
-        page.form.tabs->setCurrentIndex(0);
-        page.infos->showSession(nullptr);
-        QCOMPARE(page.file(), bytesOf({.driver = "Eve"}));
-        QCOMPARE(page.form.driver->text(), QString());
+        const auto leave = [](Page &page) {
+            QFocusEvent leaving(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+            QApplication::sendEvent(QApplication::focusWidget(), &leaving);
+            QVERIFY(page.infos);
+        };
+        const auto other = openSession(m_other).session;
+        const std::function<void(Page &)> ends[] {
+            leave,
+            [](Page &page) { page.form.vehicle->setFocus(); },
+            [](Page &page) { page.infos->showSession(nullptr); },
+            [&other](Page &page) { page.infos->showSession(other.get()); },
+            [](Page &page) { page.window.close(); },
+            [](Page &page) { page.infos->commit(); },
+            [](Page &page) { page.infos.reset(), page.writer.flush(); },
+        };
+        for (const auto &end : ends) {
+            for (const bool isNotes : {false, true}) {
+                Page page;
+                if (isNotes)
+                    type(*page.form.notes, u"Zoe"_s);
+                else
+                    type(*page.form.driver, u"Zoe"_s);
+                page.infos->showSession(page.session.get()); // Its map has changed.
+                QCOMPARE(page.file(), bytesOf({}));
+                end(page);
+                QCOMPARE(page.file(),
+                         bytesOf(isNotes ? To {.notes = "Zoe"} : To {.driver = "Zoe"}));
+            }
+        }
+    }
+
+    // Not with every key, but also for who never stops.
+    void writtenWhileTyping()
+    {
+        const Page page;
+        const QSignalSpy written(&page.writer, &InformationWriter::written);
+        QElapsedTimer clock;
+        clock.start();
+        type(*page.form.notes, u"x"_s);
+        type(*page.form.event, u"Race  "_s);
+        QCOMPARE(written.count(), 1); // the notes were left
+        while (clock.elapsed() < 2000) {
+            press(*page.form.event, u'y');
+            QTest::qWait(20);
+        }
+        const QByteArray event = openSession(page.path).session->eventName().toUtf8();
+        QVERIFY2(event.startsWith("Race  yyyyyyyyyy"), event);
+        QVERIFY(page.form.event->text().startsWith(u"Race  yy"));
+        QCOMPARE(written.count(), 2);
+    }
+
+    // The field that two programs have changed: the later one stands, the other is offered.
+    void twoPrograms()
+    {
+        for (const bool putsBack : {false, true}) {
+            const Page page;
+            const auto &notice = child<QWidget>(page.window, "informationNotice");
+            type(*page.form.driver, u"Zoe"_s);
+            const OpenedSession other = openSession(page.path);
+            other.session->setDriver(u"Bob"_s);
+            other.session->setTyres(u"hard"_s);
+            QVERIFY(rewriteSessionFile(*other.session).ok());
+            const QSignalSpy joined(&page.writer, &InformationWriter::joined);
+            QVERIFY(!notice.isVisible());
+            page.form.vehicle->setFocus();
+            QCOMPARE(page.file(), bytesOf({.driver = "Zoe", .tyres = "hard"}));
+            QVERIFY(joined.first().at(1).toString().contains(u"your text stands"));
+            page.infos->showSession(nullptr);
+            QVERIFY(!notice.isVisible());
+            page.infos->showSession(page.session.get());
+            QVERIFY(notice.isVisible());
+            QVERIFY(child<QLabel>(page.window, "lb_notice").text().endsWith(u": \"Bob\""));
+            child<QPushButton>(page.window, putsBack ? "pb_putBack" : "pb_keepMine").click();
+            QVERIFY(!notice.isVisible());
+            QCOMPARE(page.form.driver->text(), putsBack ? u"Bob"_s : u"Zoe"_s);
+            QCOMPARE(page.file(), bytesOf({.driver = putsBack ? "Bob" : "Zoe", .tyres = "hard"}));
+        }
+    }
+
+    // Shown, but nothing is typed that could not be stored.
+    void notRewritable()
+    {
+        const Page page;
+        putFile(m_other,
+                SessionBytes {.version = "2.0", .information = InformationBytes().bytes()}.bytes());
+        const auto newer = openSession(m_other).session;
+        page.infos->showSession(newer.get());
+        QCOMPARE(page.form.driver->text(), u"Ann"_s);
+        QVERIFY(!page.form.driver->isEnabled() && !page.form.notes->isEnabled());
+        QVERIFY(child<QLabel>(page.window, "lb_notice").text().contains(u"(2.0)"));
+        page.infos->showSession(page.session.get());
+        QVERIFY(page.form.driver->isEnabled());
+        QVERIFY(!child<QWidget>(page.window, "informationNotice").isVisible());
     }
 
     void failedWrite()
@@ -204,11 +289,19 @@ private Q_SLOTS:
         const QSignalSpy failed(&page.writer, &InformationWriter::failed);
         QVERIFY(QFile::rename(page.path, page.path + u".away"));
         type(*page.form.notes, u"abc"_s);
+        page.infos->commit();
         QCOMPARE(failed.count(), 1);
+        QVERIFY(page.session->isUnsaved());
         QVERIFY(QFile::rename(page.path + u".away", page.path));
         QTest::keyClick(page.form.notes, Qt::Key_D);
+        page.infos->commit();
         QCOMPARE(page.file(), bytesOf({.notes = "abcd"}));
+        QVERIFY(!page.session->isUnsaved());
     }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_other = m_folder.filePath(u"other.ra1"_s);
 };
 
 QTEST_MAIN(TestSessionInfos)

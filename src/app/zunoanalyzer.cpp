@@ -5,6 +5,7 @@
 
 #include "ui_zunoanalyzer.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -21,10 +22,12 @@
 #include <library/exportdialogs.h>
 #include <library/librarytree.h>
 #include <library/sessionimport.h>
+#include <library/unsavedchanges.h>
 #include <library/upgradepass.h>
 #include <maps/dialog/mapswidget.h>
 #include <maps/editor/mapmaker.h>
 #include <maps/page/mapviewcontroller.h>
+#include <session/sessionfile.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
 #include <track/map.h>
@@ -113,11 +116,12 @@ void ZunoAnalyzer::createActions()
 
 void ZunoAnalyzer::createInfosPage()
 {
-    m_infos = new SessionInfos(
-        {m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires, m_ui->cb_weather,
-         m_ui->sb_trackTemp, m_ui->l_degrees, m_ui->te_infos, m_ui->lb_notesCount, m_ui->lb_hint,
-         m_ui->lb_date, m_ui->lb_circuit, m_ui->lb_bestLap, m_ui->lb_idealTime_2, m_ui->tabWidget},
-        m_writer, this);
+    m_infos
+        = new SessionInfos({m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires,
+                            m_ui->cb_weather, m_ui->sb_trackTemp, m_ui->l_degrees, m_ui->te_infos,
+                            m_ui->lb_notesCount, m_ui->lb_hint, m_ui->lb_date, m_ui->lb_circuit,
+                            m_ui->lb_bestLap, m_ui->lb_idealTime_2, m_ui->tabWidget, m_ui->infos},
+                           m_writer, this);
     m_ui->webSite->setText(webSiteLink(m_language));
     m_ui->mail->setText(mailLink());
 }
@@ -173,9 +177,12 @@ void ZunoAnalyzer::connectParts()
     connect(&m_display, &SessionDisplay::viewedStateChanged, m_tree,
             &LibraryTree::updateViewedStates);
     connect(&m_display, &SessionDisplay::notASession, this, [this](const QString &path) {
-        showState(tr("\"%1\" holds no session that can be shown: it is damaged, empty, or was "
-                     "written by something else.")
-                      .arg(QFileInfo(path).fileName()));
+        const QString text = openSession(path).error == SessionFileError::TooLarge
+                                 ? tr("\"%1\" is too large to be shown: a session has 1 GB and 20 "
+                                      "million samples at most.")
+                                 : tr("\"%1\" holds no session that can be shown: it is damaged, "
+                                      "empty, or was written by something else.");
+        showState(text.arg(QFileInfo(path).fileName()));
     });
     connect(&m_display, &SessionDisplay::vanished, this, [this](const QString &path) {
         tell(tr("\"%1\" is no longer there: it was deleted or moved.")
@@ -449,6 +456,17 @@ bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
         && m_tree->handleKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+void ZunoAnalyzer::commit()
+{
+    m_infos->commit();
+}
+
+void ZunoAnalyzer::closeEvent(QCloseEvent *event)
+{
+    commit();
+    event->setAccepted(UnsavedChanges(m_library, m_writer).mayClose(this));
 }
 
 void ZunoAnalyzer::showSession(Session *session)

@@ -22,6 +22,7 @@
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
 #include <library/customfilesystemmodeldelegate.h>
+#include <library/sessionname.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -246,7 +247,7 @@ QList<Session *> LibraryTree::selectedSessions() const
 // own folder, which is current until something in it is.
 bool LibraryTree::isProtected(const QString &path) const
 {
-    return path == m_folder || QFileInfo(path).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+    return path == m_folder || isLoggersName(QFileInfo(path).fileName());
 }
 
 bool LibraryTree::isCurrentProtected() const
@@ -341,6 +342,10 @@ void LibraryTree::rename(const QString &from, const QString &newName)
     const QString to = QFileInfo(from).absolutePath() + u'/' + newName;
     if (to == from)
         return;
+    if (const QString fault = faultOfSessionName(newName); !fault.isEmpty()) {
+        Q_EMIT failed(fault);
+        return;
+    }
     const bool taken = QFileInfo::exists(to);
     if (taken || !m_model->setData(index, newName, Qt::EditRole)) {
         Q_EMIT failed(taken ? tr("There is a \"%1\" already; nothing was renamed.").arg(newName)
@@ -398,7 +403,10 @@ void LibraryTree::createFolder()
     bool accepted = false;
     const QString name
         = askForName(m_view.window(), tr("Create new folder"), tr("Folder name :"), {}, accepted);
-    if (accepted && !name.isEmpty() && !m_model->mkdir(m_model->index(path), name).isValid())
+    const QString fault = faultOfSessionName(name);
+    if (accepted && !fault.isEmpty())
+        Q_EMIT failed(fault);
+    else if (accepted && !name.isEmpty() && !m_model->mkdir(m_model->index(path), name).isValid())
         Q_EMIT failed(tr("The folder \"%1\" could not be created.").arg(name));
 }
 

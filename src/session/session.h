@@ -103,6 +103,10 @@ public:
     /// Stores the numbers of laps thrown out; laps that are cut already keep their flags.
     void setInvalidLaps(const QList<quint8> &numbers) { m_information.invalidLaps = numbers; }
 
+    /// Whether something that the rider has said about the session is not in its file yet.
+    [[nodiscard]] bool isUnsaved() const { return m_isUnsaved; }
+    void setUnsaved(bool unsaved) { m_isUnsaved = unsaved; }
+
     /// What a rewrite would put into the file now, and what the file held when it was last read or
     /// written.
     [[nodiscard]] StoredState state() const;
@@ -149,6 +153,7 @@ private:
     quint8 m_newSession = 1;
     bool m_smoothed = false;
     bool m_released = false;
+    bool m_isUnsaved = false;
 };
 
 } // namespace zuno

@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
@@ -16,6 +17,7 @@
 
 #include <library/informationwriter.h>
 #include <session/session.h>
+#include <stats/informationnotice.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -89,7 +91,16 @@ SessionInfos::SessionInfos(const Form &form, InformationWriter &writer, QObject 
     : QObject(parent)
     , m_form(form)
     , m_writer(writer)
+    , m_notice(new InformationNotice(form.page))
 {
+    if (auto *layout = qobject_cast<QBoxLayout *>(form.page->layout()))
+        layout->insertWidget(0, m_notice);
+    connect(m_notice, &InformationNotice::putBackRequested, this, &SessionInfos::putBack);
+    connect(m_notice, &InformationNotice::dismissed, this, [this] {
+        m_offers.remove(m_session != nullptr ? m_session->filePath() : QString());
+        showNotice();
+    });
+    connect(&m_writer, &InformationWriter::replaced, this, &SessionInfos::onReplaced);
     m_hintTime.setSingleShot(true);
     m_hintTime.setInterval(HintTime);
     connect(&m_hintTime, &QTimer::timeout, m_form.hint, &QLabel::clear);
@@ -102,18 +113,23 @@ void SessionInfos::connectEdits()
     for (QLineEdit *edit : {m_form.event, m_form.driver, m_form.vehicle, m_form.tyres}) {
         connect(edit, &QLineEdit::editingFinished, this, &SessionInfos::save);
         m_storable.watch(edit);
+        // After it was made storable.
+        connect(edit, &QLineEdit::textEdited, this, &SessionInfos::onTyped);
     }
     m_storable.watch(m_form.condition->lineEdit());
+    connect(m_form.condition->lineEdit(), &QLineEdit::editingFinished, this, &SessionInfos::save);
     // It would put "Dry" for a "D", and into the file with it.
     m_form.condition->setCompleter(nullptr);
-    connect(m_form.condition, &QComboBox::editTextChanged, this, &SessionInfos::save);
+    connect(m_form.condition, &QComboBox::editTextChanged, this, &SessionInfos::onTyped);
     connect(m_form.temperature, &QSpinBox::editingFinished, this, &SessionInfos::save);
+    connect(m_form.temperature, &QSpinBox::valueChanged, this, &SessionInfos::onTyped);
     connect(m_form.temperature, &QSpinBox::valueChanged, m_form.degrees, [this](int degrees) {
         m_form.degrees->setVisible(degrees != SessionInformation::UnknownTemperature);
     });
     connect(m_form.notes, &QTextEdit::textChanged, this, &SessionInfos::onNotesChanged);
     connect(m_form.tabs, &QTabWidget::currentChanged, this, &SessionInfos::onTabChanged);
     connect(&m_storable, &StorableEdits::replaced, this, &SessionInfos::showHint);
+    m_form.notes->installEventFilter(this);
     const std::array<QWidget *, 2> turned {m_form.condition, m_form.temperature};
     for (QWidget *edit : turned) {
         edit->setFocusPolicy(Qt::StrongFocus);
@@ -124,6 +140,8 @@ void SessionInfos::connectEdits()
 void SessionInfos::showSession(Session *session)
 {
     const bool isOther = session == nullptr || session != m_session;
+    if (isOther)
+        commit();
     m_session = session;
     if (isOther) {
         m_filled = texts();
@@ -131,6 +149,7 @@ void SessionInfos::showSession(Session *session)
     }
     fillEdits();
     fillLabels();
+    showNotice();
 }
 
 void SessionInfos::fillEdits()
@@ -151,8 +170,10 @@ void SessionInfos::fillEdits()
 template<typename Edit>
 void SessionInfos::fill(Edit *edit, const QString &text)
 {
-    edit->setEnabled(!m_session.isNull());
-    if (isTyped(edit))
+    edit->setEnabled(canStore());
+    // The event is stored without the blank that was just typed.
+    const bool isBeingTyped = edit->hasFocus() && withoutOuterBlanks(textOf(edit)) == text;
+    if (isTyped(edit) || isBeingTyped)
         return;
     // Setting the same text would take away the cursor's place and what can be undone.
     if (textOf(edit) != text || !edit->hasFocus())
@@ -162,7 +183,7 @@ void SessionInfos::fill(Edit *edit, const QString &text)
 
 void SessionInfos::fillTemperature(int degrees)
 {
-    m_form.temperature->setEnabled(!m_session.isNull());
+    m_form.temperature->setEnabled(canStore());
     if (isTyped(m_form.temperature))
         return;
     m_form.temperature->setValue(degrees);
@@ -210,7 +231,7 @@ void SessionInfos::onNotesChanged()
     if (!m_isFilling && m_storable.makeStorable(m_form.notes))
         return;
     showCount();
-    save();
+    onTyped();
 }
 
 void SessionInfos::showCount()
@@ -226,17 +247,47 @@ void SessionInfos::onTabChanged(int index)
         save();
 }
 
+bool SessionInfos::canStore() const
+{
+    return !m_session.isNull() && m_session->recording().isRewritable();
+}
+
+void SessionInfos::onTyped()
+{
+    if (m_isFilling || !canStore() || !store())
+        return;
+    m_writer.writeSoon(*m_session);
+    Q_EMIT saved();
+}
+
 void SessionInfos::save()
 {
-    if (m_session.isNull() || m_isFilling)
+    if (m_isFilling || !canStore())
         return;
+    const SessionInformation before = m_session->information();
     storeEvent();
+    const bool isEdited = store() || !(m_session->information() == before);
+    m_writer.write(*m_session, isEdited || m_session->isUnsaved()
+                                   ? InformationWriter::Cause::Edited
+                                   : InformationWriter::Cause::Shown);
+    Q_EMIT saved();
+}
+
+void SessionInfos::commit()
+{
+    onTyped();
+    m_writer.flush();
+}
+
+// True when something was typed that the session does not know yet.
+bool SessionInfos::store()
+{
+    const SessionInformation before = m_session->information();
     storeTexts();
     m_session->setTemperature(m_form.temperature->value());
     // A text that is changed back is typed again.
     m_filled = texts();
-    m_writer.write(*m_session, InformationWriter::Cause::Edited);
-    Q_EMIT saved();
+    return !(m_session->information() == before);
 }
 
 // The only text that is stored without its outer blanks, even when the file has had them before.
@@ -261,16 +312,65 @@ void SessionInfos::storeTexts()
         session.setVehicle(storableText(textOf(m_form.vehicle)));
     if (isTyped(m_form.condition))
         session.setCondition(storableText(textOf(m_form.condition)));
-    // Emptied tyres or notes keep what is stored.
-    if (isTyped(m_form.tyres) && !textOf(m_form.tyres).isEmpty())
+    if (isTyped(m_form.event))
+        session.setEventName(storableText(withoutOuterBlanks(textOf(m_form.event))));
+    if (isTyped(m_form.tyres))
         session.setTyres(storableText(textOf(m_form.tyres)));
-    if (isTyped(m_form.notes) && !textOf(m_form.notes).isEmpty())
+    if (isTyped(m_form.notes))
         session.setNotes(storableText(textOf(m_form.notes)));
+}
+
+void SessionInfos::onReplaced(Session *session, const ReplacedTyping &typing)
+{
+    m_offers.insert(session->filePath(), typing);
+    if (session == m_session)
+        showNotice();
+}
+
+void SessionInfos::putBack()
+{
+    if (!canStore())
+        return;
+    SessionInformation information = m_session->information();
+    m_offers.take(m_session->filePath()).putBack(information);
+    m_session->setInformation(information);
+    m_filled = texts();
+    fillEdits();
+    showNotice();
+    m_writer.write(*m_session, InformationWriter::Cause::Edited);
+    Q_EMIT saved();
+}
+
+void SessionInfos::showNotice()
+{
+    const ReplacedTyping offer
+        = m_offers.value(m_session != nullptr ? m_session->filePath() : QString());
+    if (m_session != nullptr && !canStore()) {
+        m_notice->tell(m_session->recording().block == InformationBlock::OtherFormat
+                           ? tr("This file has a format that this version does not know (%1). It "
+                                "is shown, but nothing can be stored in it.")
+                                 .arg(QString::fromLatin1(m_session->recording().version))
+                           : tr("This file is damaged, or not complete yet. It is shown, but "
+                                "nothing can be stored in it."));
+    } else if (!offer.fields.isEmpty()) {
+        QStringList texts;
+        for (const TypedField field : offer.fields)
+            texts.append(u'"' + textOf(field, offer.theirs) + u'"');
+        m_notice->offer(tr("Another program typed here at the same time, and your text has taken "
+                           "its place: %1")
+                            .arg(texts.join(QStringLiteral(", "))));
+    } else {
+        m_notice->tell({});
+    }
 }
 
 // Whoever only scrolls by must not change the file.
 bool SessionInfos::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::FocusOut && watched == m_form.notes)
+        save();
+    if (watched == m_form.notes)
+        return QObject::eventFilter(watched, event);
     if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
         return QObject::eventFilter(watched, event);
     event->ignore();

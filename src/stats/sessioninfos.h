@@ -9,6 +9,7 @@
 #include <QString>
 #include <QTimer>
 
+#include <session/recording/sessionmerge.h>
 #include <stats/storableedit.h>
 
 class QComboBox;
@@ -20,11 +21,13 @@ class QTextEdit;
 
 namespace zuno {
 
+class InformationNotice;
 class InformationWriter;
 class Session;
 
 /// The page on which the rider describes the displayed session. What is typed goes into the
-/// session and its file at once; showing a session changes nothing.
+/// session at once, and into its file when the field is left or two seconds later; showing a
+/// session changes nothing.
 class SessionInfos : public QObject
 {
     Q_OBJECT
@@ -48,6 +51,8 @@ public:
         QLabel *bestLap;
         QLabel *idealTime;
         QTabWidget *tabs;
+        /// What all of them stand on; has a box layout.
+        QWidget *page;
     };
 
     SessionInfos(const Form &form, InformationWriter &writer, QObject *parent = nullptr);
@@ -55,9 +60,10 @@ public:
     /// Fills the page from @p session; nullptr empties and disables it. What the rider is typing
     /// for that very session stays.
     void showSession(Session *session);
-    /// Copies the page into the session and writes the session's file. Emptied tyres and notes
-    /// leave what the session has.
+    /// Copies the page into the session and writes the session's file.
     void save();
+    /// Writes what was typed and waits to be written, the line included that is being typed.
+    void commit();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -69,6 +75,11 @@ private:
     void connectEdits();
     void onNotesChanged();
     void onTabChanged(int index);
+    void onTyped();
+    void onReplaced(Session *session, const ReplacedTyping &typing);
+    void putBack();
+    void showNotice();
+    [[nodiscard]] bool canStore() const;
     void showHint(const QString &hint);
     void showCount();
     void fillEdits();
@@ -78,6 +89,7 @@ private:
     void fillLabels();
     void storeEvent();
     void storeTexts();
+    [[nodiscard]] bool store();
     [[nodiscard]] QHash<const QWidget *, QString> texts() const;
     [[nodiscard]] bool isTyped(const QWidget *edit) const;
 
@@ -86,6 +98,9 @@ private:
     StorableEdits m_storable;
     QTimer m_hintTime;
     QPointer<Session> m_session;
+    InformationNotice *m_notice;
+    // What other programs had typed into the sessions of these files, until the rider decides.
+    QHash<QString, ReplacedTyping> m_offers;
     // What the edits showed when the page was filled or last saved.
     QHash<const QWidget *, QString> m_filled;
     bool m_isFilling = false;

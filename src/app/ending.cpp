@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <app/ending.h>
+
+#include <array>
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QSocketNotifier>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+
+#include <unistd.h>
+#include <sys/socket.h>
+#endif
+
+namespace zuno {
+
+#ifdef Q_OS_UNIX
+
+namespace {
+
+constexpr std::array Signals {SIGTERM, SIGINT, SIGHUP};
+
+// A signal's handler may do next to nothing, but it may write: the other end is read by the event
+// loop.
+std::array<int, 2> ends {-1, -1};
+
+void tell(int signal)
+{
+    const auto byte = static_cast<char>(signal);
+    [[maybe_unused]] const ssize_t told = ::write(ends[0], &byte, 1);
+}
+
+void handleSignals(void (*handler)(int))
+{
+    struct sigaction action
+    {
+    };
+    action.sa_handler = handler;
+    // Whoever is told twice means it.
+    action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
+    for (const int signal : Signals)
+        sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+Ending::Ending(QObject *parent) : QObject(parent)
+{
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Ending::imminent,
+            Qt::DirectConnection);
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+        return;
+    auto *notifier = new QSocketNotifier(ends[1], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &Ending::onSignal);
+    handleSignals(tell);
+}
+
+Ending::~Ending()
+{
+    handleSignals(SIG_DFL);
+    for (int &end : ends) {
+        ::close(end);
+        end = -1;
+    }
+}
+
+void Ending::onSignal()
+{
+    char signal = 0;
+    if (::read(ends[1], &signal, 1) != 1)
+        return;
+    Q_EMIT imminent();
+    // As the system tells of a program that a signal has ended.
+    constexpr int EndedBySignal = 128;
+    QCoreApplication::exit(EndedBySignal + signal);
+}
+
+#else
+
+Ending::Ending(QObject *parent) : QObject(parent)
+{
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Ending::imminent,
+            Qt::DirectConnection);
+}
+
+Ending::~Ending() = default;
+
+void Ending::onSignal() {}
+
+#endif
+
+} // namespace zuno
