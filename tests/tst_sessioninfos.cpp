@@ -190,8 +190,7 @@ private Q_SLOTS:
     {
         const auto leave = [](Page &page) {
             QFocusEvent leaving(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-            QApplication::sendEvent(QApplication::focusWidget(), &leaving);
-            QVERIFY(page.infos);
+            QApplication::sendEvent(page.window.focusWidget(), &leaving);
         };
         const auto other = openSession(m_other).session;
         const std::function<void(Page &)> ends[] {
@@ -228,7 +227,8 @@ private Q_SLOTS:
         clock.start();
         type(*page.form.notes, u"x"_s);
         type(*page.form.event, u"Race  "_s);
-        QCOMPARE(written.count(), 1); // the notes were left
+        QCOMPARE(openSession(page.path).session->notes(), u"x"_s); // the field was left
+        const qsizetype before = written.count();
         while (clock.elapsed() < 2000) {
             press(*page.form.event, u'y');
             QTest::qWait(20);
@@ -236,7 +236,7 @@ private Q_SLOTS:
         const QByteArray event = openSession(page.path).session->eventName().toUtf8();
         QVERIFY2(event.startsWith("Race  yyyyyyyyyy"), event);
         QVERIFY(page.form.event->text().startsWith(u"Race  yy"));
-        QCOMPARE(written.count(), 2);
+        QCOMPARE(written.count(), before + 1);
     }
 
     // The field that two programs have changed: the later one stands, the other is offered.

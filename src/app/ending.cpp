@@ -12,8 +12,8 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 
+#include <fcntl.h>
 #include <unistd.h>
-#include <sys/socket.h>
 #endif
 
 namespace zuno {
@@ -24,14 +24,16 @@ namespace {
 
 constexpr std::array Signals {SIGTERM, SIGINT, SIGHUP};
 
-// A signal's handler may do next to nothing, but it may write: the other end is read by the event
-// loop.
+// A signal's handler may do next to nothing, but it may write into a pipe, whose other end the event
+// loop reads.
 std::array<int, 2> ends {-1, -1};
+int &readEnd = ends[0];
+int &writeEnd = ends[1];
 
 void tell(int signal)
 {
     const auto byte = static_cast<char>(signal);
-    [[maybe_unused]] const ssize_t told = ::write(ends[0], &byte, 1);
+    [[maybe_unused]] const ssize_t told = ::write(writeEnd, &byte, 1);
 }
 
 void handleSignals(void (*handler)(int))
@@ -52,9 +54,11 @@ Ending::Ending(QObject *parent) : QObject(parent)
 {
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Ending::imminent,
             Qt::DirectConnection);
-    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0)
+    if (::pipe(ends.data()) != 0)
         return;
-    auto *notifier = new QSocketNotifier(ends[1], QSocketNotifier::Read, this);
+    for (const int end : ends)
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+    auto *notifier = new QSocketNotifier(readEnd, QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, &Ending::onSignal);
     handleSignals(tell);
 }
@@ -71,7 +75,7 @@ Ending::~Ending()
 void Ending::onSignal()
 {
     char signal = 0;
-    if (::read(ends[1], &signal, 1) != 1)
+    if (::read(readEnd, &signal, 1) != 1)
         return;
     Q_EMIT imminent();
     // As the system tells of a program that a signal has ended.
