@@ -258,6 +258,18 @@ storm() {
     expect "storm in the folder: $told" test "$?" -eq 0
 }
 
+# Keys go into the file before they are two seconds old, whenever the program dies.
+typing() {
+    if [[ ! -x $helper ]]; then
+        note skipped "death while somebody types (built without the window)"
+        return
+    fi
+    local kills=1000 told
+    [[ $quick == no ]] || kills=32
+    told=$("$helper" typing "$ride" "$work/typing" "$kills" 2>/dev/null)
+    expect "killed while somebody types: $told" test "$?" -eq 0
+}
+
 # The program itself: its first start gives every recording its information. It dies once it has
 # rewritten so many of them; of more than there are, when it has had the time for all.
 start_and_kill() { # start_and_kill FILES
@@ -311,6 +323,7 @@ no_right
 two_programs
 moving
 storm
+typing
 if [[ $quick == no ]]; then
     deaths
     dying_starts

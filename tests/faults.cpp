@@ -7,6 +7,8 @@
 //   zuno_faults settings ROOT NUMBER
 //   zuno_faults export TARGET lap|session|copy FILE
 //   zuno_faults storm ROOT SECONDS
+//   zuno_faults typing FILE FOLDER KILLS
+//   zuno_faults type FILE
 
 #include <algorithm>
 #include <cstdio>
@@ -31,6 +33,8 @@
 #include <library/sessionimport.h>
 #include <session/laps/lap.h>
 #include <session/sessionfile.h>
+
+#include "typingkills.h"
 
 using namespace zuno;
 using namespace Qt::StringLiterals;
@@ -199,8 +203,12 @@ int main(int count, char **words)
         qputenv("XDG_DATA_HOME", words[2]);
     const QApplication application(count, words);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.size() == 2 && arguments[0] == u"type")
+        return test::typeForEver(arguments[1]);
     if (arguments.size() < 3)
         return 2;
+    if (arguments[0] == u"typing")
+        return test::killWhileTyping(arguments[1], arguments[2], arguments.value(3).toInt());
     const Settings settings(arguments[1]);
     if (arguments[0] == u"settings")
         return storeSettings(settings, arguments[2]);

@@ -101,6 +101,14 @@ private Q_SLOTS:
         row(FileFailed, "csv good.ra1 --lap 1", "no lap 1");
         row(FileFailed, "set headless.ra1 event=Cup", "left alone");
         row(FileFailed, "set good.ra1 event=Cup -o none/out.ra1", "not written");
+        // Whatever stands there is somebody's.
+        const QByteArray set = "set good.ra1 event=Cup -o ";
+        row(FileFailed, set + "good.ra1", "--force");
+        row(FileFailed, set + "run.ra1", "--force");
+        for (const char *const other : {"/dev/null", "pipe.ra1", "demo"})
+            row(FileFailed, set + other + " --force", "no file that could be replaced");
+        row(FileFailed, set + "demo/Map/Spain/Valmora.map --force", "no session file");
+        row(FileFailed, "map new run.ra1 -o good.ra1 --force", "no map file");
     }
     void statuses()
     {
@@ -112,6 +120,34 @@ private Q_SLOTS:
         QVERIFY2((status == Done ? output.out : output.error).contains(text), output.error);
         QVERIFY((status == Done ? output.error : output.out).isEmpty());
         QVERIFY(contents(u"good.ra1"_s) == before);
+    }
+
+    void output()
+    {
+        QProcess full;
+        full.setStandardOutputFile(u"/dev/full"_s);
+        full.start(QStringLiteral(ZUNO_TOOL), {u"decode"_s, u"good.ra1"_s});
+        QVERIFY(full.waitForFinished());
+        QCOMPARE(full.exitCode(), int(FileFailed));
+        const auto inShell = [](const QString &command) {
+            QProcess shell;
+            shell.start(u"bash"_s, {u"-c"_s, command, QStringLiteral(ZUNO_TOOL)});
+            return shell.waitForFinished()
+                       ? QByteArray::number(shell.exitCode()) + shell.readAllStandardError()
+                       : QByteArray();
+        };
+        QVERIFY(inShell(u"(sleep 0.2; \"$0\" decode good.ra1; echo $? >status) | true"_s) != "");
+        QCOMPARE(contents(u"status"_s), "1\n");
+#ifndef __SANITIZE_ADDRESS__ // it takes terabytes of addresses by itself
+        // Only what the memory has no room for is left out.
+        putFile(u"large.ra1"_s, Bytes().text("RA1").text("1.0.0.0").u32(6'000'000));
+        QVERIFY(QFile::resize(u"large.ra1"_s, 170'000'000));
+        for (const char *const command : {"laps", "decode --json", "csv", "map new -o new.map"}) {
+            const QByteArray said = inShell(
+                u"ulimit -v 400000; \"$0\" %1 large.ra1"_s.arg(QString::fromLatin1(command)));
+            QVERIFY2(said.startsWith("1zuno: large.ra1: needs more memory"), said);
+        }
+#endif
     }
 
     // The hill road is far from every circuit; whoever rode on one has laps with all sectors.
@@ -215,6 +251,8 @@ private Q_SLOTS:
         for (const QString &assignment : assignments) // in place, one after the other
             QCOMPARE(run(u"set place.ra1"_s, {assignment}).status, int(Done));
         QCOMPARE(contents(u"place.ra1"_s), contents(u"changed.ra1"_s));
+        QCOMPARE(run(u"set good.ra1 -o changed.ra1 --force"_s).status, int(Done));
+        QCOMPARE(contents(u"changed.ra1"_s), before);
     }
 
     // By the language of the settings; only the session's name brings letters outside ASCII.

@@ -12,6 +12,7 @@
 #include <library/informationwriter.h>
 #include <library/mapfolder.h>
 #include <library/sessiondisplay.h>
+#include <library/unsavedchanges.h>
 #include <session/sessionfile.h>
 #include <track/mapfile.h>
 
@@ -30,7 +31,7 @@ const QString Haidemoor = u"/Germany/Haidemoor.map"_s;
 struct Outfit
 {
     /// Sessions of the demo, or of any other name.
-    explicit Outfit(const QStringList &names)
+    explicit Outfit(const QStringList &names = {})
     {
         for (const QString &map : {Valmora, Haidemoor, u"/South Africa/Karoosberg.map"_s})
             putFile(settings.mapsFolder() + map, demoFile(map.section(u'/', 2)));
@@ -226,6 +227,9 @@ private Q_SLOTS:
             outfit.library.noteWritten(*outfit.library.find(path));
             for (int i = 0; i < 2; ++i)
                 QVERIFY(outfit.display.display(path));
+            QVERIFY(isOld(path));
+            if (isWritten)
+                QTRY_VERIFY(!isOld(path));
             QCOMPARE(isOld(path), !isWritten);
             QCOMPARE(openSession(path).session->newSession(), 0);
             QCOMPARE(outfit.library.viewedStateMap().value(name), false);
@@ -233,6 +237,78 @@ private Q_SLOTS:
         QCOMPARE(viewed.count(), 1);
         // The program's own writing is no change from outside.
         QCOMPARE(removed.count(), 0);
+    }
+
+    // Somebody copies a recording into the library, and it is selected at once, half of it.
+    void beingCopied()
+    {
+        const Outfit outfit({NeverOpened});
+        const QByteArray whole = contents(outfit.path(NeverOpened));
+        // The block ends within its texts.
+        const QByteArray half = fullSession(InformationBytes {.tyres = ""}).bytes();
+        for (const auto &[name, bytes, rests] : {std::tuple(u"rests.ra1"_s, whole, true),
+                                                 {u"grows.ra1"_s, whole, false},
+                                                 {u"half.ra1"_s, half.chopped(9), true}}) {
+            Outfit other;
+            const QString path = other.path(name);
+            putFile(path, bytes);
+            QVERIFY(other.display.display(path));
+            const QSignalSpy written(&other.writer, &InformationWriter::written);
+            for (int i = 0; !rests && i < 6; ++i) {
+                QTest::qWait(500);
+                QFile file(path);
+                QVERIFY(file.open(QIODevice::Append) && file.write("more") == 4);
+            }
+            QCOMPARE(written.count(), 0);
+            QTest::qWait(rests ? 2300 : 1000);
+            QCOMPARE(written.count(), name == u"rests.ra1" ? 1 : 0);
+            QVERIFY(contents(path).startsWith(name == u"half.ra1" ? bytes : bytes.left(60)));
+            if (!rests) {
+                QTRY_COMPARE(written.count(), 1);
+                QVERIFY(contents(path).endsWith("moremoremore"));
+            }
+        }
+    }
+
+    // What was typed while the file was away comes back with it, and can be saved elsewhere.
+    void unsaved()
+    {
+        Outfit outfit({AtValmora, AtHaidemoor});
+        const QTemporaryDir elsewhere;
+        UnsavedChanges changes(outfit.library, outfit.writer);
+        const auto typeInto = [&outfit](const QString &name) {
+            Session *session = outfit.library.find(outfit.path(name));
+            session->setNotes(u"mine"_s);
+            outfit.writer.writeSoon(*session);
+        };
+        QVERIFY(changes.mayClose(nullptr));
+        const QString path = outfit.path(AtValmora);
+        QVERIFY(QFile::rename(path, path + u".away"));
+        typeInto(AtValmora);
+        outfit.library.removeAt(path);
+        QCOMPARE(outfit.library.unsaved().size(), 1);
+        QVERIFY(QFile::rename(path + u".away", path));
+        QVERIFY(changes.mayClose(nullptr));
+        QCOMPARE(openSession(path).session->notes(), u"mine"_s);
+
+        // One is gone, and one cannot be written.
+        const QString other = outfit.path(AtHaidemoor);
+        typeInto(AtValmora);
+        typeInto(AtHaidemoor);
+        QVERIFY(QFile::remove(path));
+        outfit.library.removeAt(path);
+        QFile::setPermissions(other, QFile::ReadOwner);
+        for (const Session *session : outfit.library.sessions())
+            QVERIFY(session->isUnsaved());
+        putFile(elsewhere.filePath(AtHaidemoor), "taken");
+        QCOMPARE(changes.saveTo(u"/dev/null"_s).size(), 2);
+        QCOMPARE(changes.saveTo(elsewhere.path()), QStringList());
+        QVERIFY(outfit.library.unsaved().isEmpty());
+        const QString base = QFileInfo(AtHaidemoor).completeBaseName();
+        QCOMPARE(openSession(elsewhere.filePath(base + u" 2.ra1")).session->notes(), u"mine"_s);
+        QCOMPARE(contents(elsewhere.filePath(AtHaidemoor)), "taken");
+        const QString text = elsewhere.filePath(QFileInfo(AtValmora).completeBaseName() + u".txt");
+        QVERIFY(contents(text).contains("\nnotes=mine\n"));
     }
 
     // What could not be written is kept when another program changes the file.

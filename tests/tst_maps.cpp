@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -106,6 +108,31 @@ private Q_SLOTS:
         Bytes endless;
         endless.text("MAP").text("1.0").raw(QByteArray(36, '\0')).u32(0x7fffffff);
         QCOMPARE(parsed(endless.text("Time").f64(9).f64(45))->timingPoints().size(), 1);
+    }
+
+    // Whatever a file says, it is read in no time.
+    void size()
+    {
+        Bytes file;
+        file.text("MAP").text("1.0").raw(QByteArray(36, '\0')).u32(17000);
+        for (int i = 0; i < 17000; ++i)
+            file.text("time" + QByteArray::number(i)).f64(9.5 + i * 1e-6).f64(45.5);
+        file.f64(5).u32(25000);
+        for (int i = 0; i < 25000; ++i)
+            file.f64(9.5 + i * 1e-6).f64(45.5 + i * 1e-6);
+        QElapsedTimer timer;
+        timer.start();
+        const auto map = parsed(file);
+        QVERIFY2(timer.elapsed() < 2000, QByteArray::number(timer.elapsed()));
+        QCOMPARE(map->timingDirections().size(), 17000);
+        QVERIFY(map->timingDirections()[63].first > 0.0F);
+        QCOMPARE(map->sectorGate(0)->centre(), map->timingPoints().value(u"time9990"_s));
+        QVERIFY(!map->sectorGate(MaximumSectors));
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.map"_s);
+        putFile(path, mapBytes());
+        QVERIFY(QFile::resize(path, 16'000'000) && readMapFile(path, folder.path()));
+        QVERIFY(QFile::resize(path, 16'000'001) && !readMapFile(path, folder.path()));
     }
 
     void namedPoints()

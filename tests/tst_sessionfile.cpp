@@ -162,6 +162,25 @@ private Q_SLOTS:
         QVERIFY(check(0x7fffffff, 3, 3));
     }
 
+    // Refused before any memory is taken; the files have holes instead of samples.
+    void tooLarge()
+    {
+        using enum SessionFileError;
+        const auto error = [this](quint32 samples, qint64 size) {
+            putFile(m_path, Bytes().text("RA1").text("1.0.0.0").u32(samples));
+            return QFile::resize(m_path, size) ? openSession(m_path).error : Unreadable;
+        };
+        QCOMPARE(error(2, 1'000'000'000), None);
+        QCOMPARE(error(2, 1'000'000'001), TooLarge);
+        QCOMPARE(error(20'000'000, 600'000'000), None);
+        QCOMPARE(error(20'000'001, 600'000'000), TooLarge);
+        // No more than damage.
+        QCOMPARE(error(20'000'001, 1000), None);
+        const OpenedSession opened = openSession(m_path);
+        QCOMPARE(error(20'000'001, 600'000'000), TooLarge);
+        QCOMPARE(opened.session->samples().size(), 0U);
+    }
+
     void lists()
     {
         const auto read = [this](const QByteArray &lists) {

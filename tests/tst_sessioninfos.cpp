@@ -1,10 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <functional>
+
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -13,6 +17,7 @@
 
 #include <library/informationwriter.h>
 #include <session/sessionfile.h>
+#include <session/sessionrewrite.h>
 #include <stats/sessioninfos.h>
 
 #include "builders.h"
@@ -28,6 +33,8 @@ QByteArray bytesOf(const InformationBytes &information)
 {
     return SessionBytes {.information = information.bytes()}.bytes();
 }
+
+using To = InformationBytes;
 
 /// A page of its own that shows the session of a file.
 struct Page
@@ -52,6 +59,14 @@ struct Page
     InformationWriter writer;
     std::unique_ptr<Session> session;
     SessionInfos infos {writer, u"en"_s};
+    struct
+    {
+        QLineEdit *event;
+        QLineEdit *driver;
+        QLineEdit *vehicle;
+        QTextEdit *notes;
+    } form {&field("le_event"), &field("le_driver"), &field("le_vehicle"),
+            &field<QTextEdit>("te_infos")};
 };
 
 /// Letters that no keyboard has arrive like any other.
@@ -98,12 +113,12 @@ private Q_SLOTS:
 
     void typing()
     {
-        using To = InformationBytes;
         const std::tuple<const char *, QString, void (*)(To &)> rows[] {
             {"le_event", u"  Fr\u00FCh  "_s, [](To &to) { to.event = "Fruh"; }},
             {"le_driver", u" \u00C6 "_s, [](To &to) { to.driver = " AE "; }},
             {"le_vehicle", u""_s, [](To &to) { to.vehicle = ""; }},
-            {"le_tires", u"\u9234"_s, [](To &) {}},
+            {"le_tires", u"\u9234"_s, [](To &to) { to.tyres = ""; }},
+            {"te_infos", u""_s, [](To &to) { to.notes = ""; }},
             {"cb_weather", u"D"_s, [](To &to) { to.condition = "D"; }},
             {"sb_trackTemp", u"unknown"_s, [](To &to) { to.temperature = 99; }},
             {"sb_trackTemp", u"255"_s, [](To &to) { to.temperature = 255; }},
@@ -168,24 +183,102 @@ private Q_SLOTS:
         QCOMPARE(page.file(), bytesOf(information));
     }
 
-    // Typed, but not finished with Enter.
+    // Typed, but not finished with Enter: whatever the rider does next, it is in the file.
     void unfinished()
     {
-        Page page;
-        auto &driver = page.field("le_driver");
-        type(driver, u"Zoe"_s);
-        page.infos.showSession(page.session.get()); // Its map has changed.
-        QCOMPARE(page.file(), bytesOf({}));
-        page.infos.close();
-        QCOMPARE(page.file(), bytesOf({.driver = "Zoe"}));
-        // Leaving the tab saves, too, and for the session that was shown.
-        driver.setText(u"Eve"_s);
-        page.infos.onTabChanged(1);
-        QCOMPARE(page.file(), bytesOf({.driver = "Zoe"}));
-        page.infos.onTabChanged(0);
-        page.infos.showSession(nullptr);
-        QCOMPARE(page.file(), bytesOf({.driver = "Eve"}));
-        QCOMPARE(driver.text(), QString());
+        const auto leave = [](Page &page) {
+            QFocusEvent leaving(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+            QApplication::sendEvent(page.infos.focusWidget(), &leaving);
+        };
+        const auto other = openSession(m_other).session;
+        const std::function<void(Page &)> ends[] {
+            leave,
+            [](Page &page) { page.form.vehicle->setFocus(); },
+            [](Page &page) { page.infos.showSession(nullptr); },
+            [&other](Page &page) { page.infos.showSession(other.get()); },
+            [](Page &page) { page.infos.close(); },
+            [](Page &page) { page.infos.commit(); },
+            [](Page &page) { page.writer.flush(); },
+        };
+        for (const auto &end : ends) {
+            for (const bool isNotes : {false, true}) {
+                Page page;
+                if (isNotes)
+                    type(*page.form.notes, u"Zoe"_s);
+                else
+                    type(*page.form.driver, u"Zoe"_s);
+                page.infos.showSession(page.session.get()); // Its map has changed.
+                QCOMPARE(page.file(), bytesOf({}));
+                end(page);
+                QCOMPARE(page.file(),
+                         bytesOf(isNotes ? To {.notes = "Zoe"} : To {.driver = "Zoe"}));
+            }
+        }
+    }
+
+    // Not with every key, but also for who never stops.
+    void writtenWhileTyping()
+    {
+        const Page page;
+        const QSignalSpy written(&page.writer, &InformationWriter::written);
+        QElapsedTimer clock;
+        clock.start();
+        type(*page.form.notes, u"x"_s);
+        type(*page.form.event, u"Race  "_s);
+        QCOMPARE(openSession(page.path).session->notes(), u"x"_s); // the field was left
+        const qsizetype before = written.count();
+        while (clock.elapsed() < 2000) {
+            press(*page.form.event, u'y');
+            QTest::qWait(20);
+        }
+        const QByteArray event = openSession(page.path).session->eventName().toUtf8();
+        QVERIFY2(event.startsWith("Race  yyyyyyyyyy"), event);
+        QVERIFY(page.form.event->text().startsWith(u"Race  yy"));
+        QCOMPARE(written.count(), before + 1);
+    }
+
+    // The field that two programs have changed: the later one stands, the other is offered.
+    void twoPrograms()
+    {
+        for (const bool putsBack : {false, true}) {
+            const Page page;
+            const auto &notice = child<QWidget>(page.infos, "informationNotice");
+            type(*page.form.driver, u"Zoe"_s);
+            const OpenedSession other = openSession(page.path);
+            other.session->setDriver(u"Bob"_s);
+            other.session->setTyres(u"hard"_s);
+            QVERIFY(rewriteSessionFile(*other.session).ok());
+            const QSignalSpy joined(&page.writer, &InformationWriter::joined);
+            QVERIFY(!notice.isVisible());
+            page.form.vehicle->setFocus();
+            QCOMPARE(page.file(), bytesOf({.driver = "Zoe", .tyres = "hard"}));
+            QVERIFY(joined.first().at(1).toString().contains(u"your text stands"));
+            page.infos.showSession(nullptr);
+            QVERIFY(!notice.isVisible());
+            page.infos.showSession(page.session.get());
+            QVERIFY(notice.isVisible());
+            QVERIFY(child<QLabel>(page.infos, "lb_notice").text().endsWith(u": \"Bob\""));
+            child<QPushButton>(page.infos, putsBack ? "pb_putBack" : "pb_keepMine").click();
+            QVERIFY(!notice.isVisible());
+            QCOMPARE(page.form.driver->text(), putsBack ? u"Bob"_s : u"Zoe"_s);
+            QCOMPARE(page.file(), bytesOf({.driver = putsBack ? "Bob" : "Zoe", .tyres = "hard"}));
+        }
+    }
+
+    // Shown, but nothing is typed that could not be stored.
+    void notRewritable()
+    {
+        const Page page;
+        putFile(m_other,
+                SessionBytes {.version = "2.0", .information = InformationBytes().bytes()}.bytes());
+        const auto newer = openSession(m_other).session;
+        page.infos.showSession(newer.get());
+        QCOMPARE(page.form.driver->text(), u"Ann"_s);
+        QVERIFY(!page.form.driver->isEnabled() && !page.form.notes->isEnabled());
+        QVERIFY(child<QLabel>(page.infos, "lb_notice").text().contains(u"(2.0)"));
+        page.infos.showSession(page.session.get());
+        QVERIFY(page.form.driver->isEnabled());
+        QVERIFY(!child<QWidget>(page.infos, "informationNotice").isVisible());
     }
 
     void failedWrite()
@@ -193,13 +286,20 @@ private Q_SLOTS:
         const Page page;
         const QSignalSpy failed(&page.writer, &InformationWriter::failed);
         QVERIFY(QFile::rename(page.path, page.path + u".away"));
-        auto &notes = page.field<QTextEdit>("te_infos");
-        type(notes, u"abc"_s);
+        type(*page.form.notes, u"abc"_s);
+        page.infos.commit();
         QCOMPARE(failed.count(), 1);
+        QVERIFY(page.session->isUnsaved());
         QVERIFY(QFile::rename(page.path + u".away", page.path));
-        QTest::keyClick(&notes, Qt::Key_D);
+        QTest::keyClick(page.form.notes, Qt::Key_D);
+        page.infos.commit();
         QCOMPARE(page.file(), bytesOf({.notes = "abcd"}));
+        QVERIFY(!page.session->isUnsaved());
     }
+
+private:
+    QTemporaryDir m_folder;
+    QString m_other = m_folder.filePath(u"other.ra1"_s);
 };
 
 QTEST_MAIN(TestSessionInfos)

@@ -116,7 +116,11 @@ private Q_SLOTS:
         QCOMPARE(rewritten(withLists(full), Open), withLists(full, 0));
         QCOMPARE(rewritten(withoutLists(full), SetNotes), withoutLists(dry));
         QCOMPARE(rewritten(onlyLists, Nothing), withLists(Defaults));
-        QCOMPARE(rewritten(withLists(full) + "more", Nothing), withLists(full));
+        // What stands behind the block is a newer format's, or another file's.
+        QCOMPARE(rewritten(withLists(full) + "more", Nothing), withLists(full) + "more");
+        QCOMPARE(rewritten(withLists(full) + withLists({}), SetNotes),
+                 withLists(dry) + withLists({}));
+        QCOMPARE(rewritten(withoutLists(full) + "more", longTexts), withoutLists(texts) + "more");
         QCOMPARE(rewritten(withLists(full).chopped(2), Nothing), withLists({.invalidLaps = ""}));
         QCOMPARE(rewritten(withoutLists(full), longTexts), withoutLists(texts));
         // A length that counts characters would cut what is untouched here.
@@ -148,6 +152,57 @@ private Q_SLOTS:
                      where);
             QCOMPARE(rewriteSessionFile(*again.session).outcome, RewriteOutcome::Unchanged);
         }
+    }
+
+    // Files of which nobody knows where their information belongs are displayed, and that is all.
+    void leftAlone()
+    {
+        const auto listsOf = [](const QByteArray &first, const QByteArray &second) {
+            SessionBytes file = fullSession();
+            file.lists = first + second;
+            return file.bytes();
+        };
+        SessionBytes newer = fullSession({});
+        newer.version = "2.0.0.0";
+        SessionBytes odd = newer;
+        odd.version = "10";
+        const QByteArray negative = readingList({1.0, 2.0}, 0xfffffffeU);
+        SessionBytes manySamples = fullSession({});
+        manySamples.sampleCount = 0x80000002U;
+        const QByteArray noBlock
+            = SessionBytes {.listsFlag = 1, .lists = fullSession().lists}.bytes();
+        const QByteArray noListsNoBlock = SessionBytes {.listsFlag = 0}.bytes();
+        for (const QByteArray &bytes :
+             QByteArrayList {newer.bytes(), odd.bytes(), listsOf(negative, readingList(11)),
+                             listsOf(readingList(21), negative), manySamples.bytes(),
+                             noBlock + withLists({}), noListsNoBlock + withLists({})}) {
+            putFile(m_path, bytes);
+            const OpenedSession opened = openSession(m_path);
+            QVERIFY(opened.session && !opened.session->recording().isRewritable());
+            SetNotes(*opened.session);
+            QCOMPARE(rewriteSessionFile(*opened.session).outcome, RewriteOutcome::NotRewritable);
+            QCOMPARE(contents(m_path), bytes);
+        }
+    }
+
+    // The first display is no reason to make half a block whole, or to drop what is on its way.
+    void firstDisplay()
+    {
+        const auto outcome = [this](const QByteArray &bytes) {
+            putFile(m_path, bytes);
+            const OpenedSession opened = openSession(m_path);
+            opened.session->setNewSession(0);
+            return rewriteSessionFile(*opened.session, Occasion::FirstDisplay).outcome;
+        };
+        const QByteArray whole = withLists({});
+        const QByteArray plain = withoutLists({});
+        QCOMPARE(outcome(whole), RewriteOutcome::Written);
+        QCOMPARE(outcome(SessionBytes {.listsFlag = 0}.bytes()), RewriteOutcome::Written);
+        QCOMPARE(outcome(whole.chopped(1)), RewriteOutcome::LeftOut);
+        QCOMPARE(outcome(whole.chopped(InformationBytes().bytes().size() - 1)),
+                 RewriteOutcome::LeftOut);
+        QCOMPARE(outcome(plain.chopped(InformationBytes().bytes().size() - 1)),
+                 RewriteOutcome::LeftOut);
     }
 
     // Times and thrown out laps follow the laps; without laps the file's own are kept.
@@ -216,6 +271,22 @@ private Q_SLOTS:
         QCOMPARE(both(accents, driver, SetNotes), withLists(joined));
         QCOMPARE(both({}, SetNotes, damp), withLists({.notes = "damp"}));
         QCOMPARE(both({}, SetNotes, Open), withLists({.notes = "dry"}, 0));
+        // Where both have typed, the later one stands, and the other's text is not lost.
+        const OpenedSession late = openSession(m_path);
+        late.session->setDriver(u"Eve"_s);
+        late.session->setVehicle(u"R1"_s);
+        const OpenedSession early = openSession(m_path);
+        early.session->setDriver(u"Bob"_s);
+        early.session->setTemperature(7);
+        QVERIFY(rewriteSessionFile(*early.session).replaced.fields.isEmpty());
+        const ReplacedTyping replaced = rewriteSessionFile(*late.session).replaced;
+        QCOMPARE(replaced.fields, {TypedField::Driver});
+        QCOMPARE(textOf(TypedField::Driver, replaced.theirs), u"Bob"_s);
+        SessionInformation information = late.session->information();
+        QCOMPARE(information.driver.text() + information.vehicle.text(), u"EveR1"_s);
+        QCOMPARE(information.temperature, 7);
+        replaced.putBack(information);
+        QCOMPARE(information.driver.text() + information.vehicle.text(), u"BobR1"_s);
         QCOMPARE(both({}, first, second), withLists({.invalidLaps = "\x01\x02\x07"}));
     }
 

@@ -10,6 +10,7 @@
 #include <QScreen>
 
 #include <app/darkstyle.h>
+#include <app/ending.h>
 #include <app/logfile.h>
 #include <app/update/updateapp.h>
 #include <app/zunoanalyzer.h>
@@ -74,6 +75,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window(arguments.language);
+    const zuno::Ending ending;
+    QObject::connect(&ending, &zuno::Ending::imminent, &window, &zuno::ZunoAnalyzer::commit);
     const zuno::Settings settings(zuno::Settings::defaultRoot());
     zuno::UpdateApp updates(
         zuno::UpdateSetup::configured(settings, QCoreApplication::applicationDirPath()), &window);

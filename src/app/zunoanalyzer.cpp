@@ -5,6 +5,7 @@
 
 #include "ui_zunoanalyzer.h"
 
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -20,12 +21,14 @@
 #include <library/librarypane.h>
 #include <library/librarytree.h>
 #include <library/sessionimport.h>
+#include <library/unsavedchanges.h>
 #include <library/upgradepass.h>
 #include <maps/detection/mapdetection.h>
 #include <maps/dialog/mapswidget.h>
 #include <maps/editor/mapmaker.h>
 #include <maps/page/mappane.h>
 #include <maps/page/mapviewcontroller.h>
+#include <session/sessionfile.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
 #include <track/map.h>
@@ -146,9 +149,12 @@ void ZunoAnalyzer::connectParts()
     connect(&m_display, &SessionDisplay::viewedStateChanged, tree,
             &LibraryTree::updateViewedStates);
     connect(&m_display, &SessionDisplay::notASession, this, [this](const QString &path) {
-        showState(tr("\"%1\" holds no session that can be shown: it is damaged, empty, or was "
-                     "written by something else.")
-                      .arg(QFileInfo(path).fileName()));
+        const QString text = openSession(path).error == SessionFileError::TooLarge
+                                 ? tr("\"%1\" is too large to be shown: a session has 1 GB and 20 "
+                                      "million samples at most.")
+                                 : tr("\"%1\" holds no session that can be shown: it is damaged, "
+                                      "empty, or was written by something else.");
+        showState(text.arg(QFileInfo(path).fileName()));
     });
     connect(&m_display, &SessionDisplay::vanished, this, [this](const QString &path) {
         tell(tr("\"%1\" is no longer there: it was deleted or moved.")
@@ -477,6 +483,17 @@ bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
         && m_files->tree().handleKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+void ZunoAnalyzer::commit()
+{
+    m_infos->commit();
+}
+
+void ZunoAnalyzer::closeEvent(QCloseEvent *event)
+{
+    commit();
+    event->setAccepted(UnsavedChanges(m_library, m_writer).mayClose(this));
 }
 
 void ZunoAnalyzer::showSession(Session *session)

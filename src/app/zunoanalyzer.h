@@ -79,6 +79,8 @@ public Q_SLOTS:
     void goToLap(const QString &filePath, int lapNumber);
     void openHelp();
     void openAbout();
+    /// Writes what the rider has typed, the line included that is being typed.
+    void commit();
     /// Shows a message in the status bar for a while.
     void tell(const QString &message);
 
@@ -88,6 +90,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void switchTranslator(QTranslator &translator, const QString &file);

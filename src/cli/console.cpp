@@ -16,6 +16,11 @@ void printOut(const QByteArray &bytes)
     std::fflush(stdout);
 }
 
+bool isOutputWhole()
+{
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
 void printError(const QString &message)
 {
     const QByteArray line = QByteArrayLiteral("zuno: ") + message.toLocal8Bit() + '\n';

@@ -14,8 +14,11 @@
 
 namespace zuno::cli {
 
-/// Writes @p bytes to standard output as they are.
+/// Writes @p bytes to standard output as they are; what could not be written, isOutputWhole()
+/// tells.
 void printOut(const QByteArray &bytes);
+/// Whether all that was printed so far has been taken: a full disk and a closed pipe take nothing.
+[[nodiscard]] bool isOutputWhole();
 /// Writes a line to standard error, after the tool's name.
 void printError(const QString &message);
 /// The same, with the file that the message is about.

@@ -26,7 +26,7 @@ QLocale localeFor(const CommandLine &line)
 // Without a lap there is no need for a map.
 int writeSession(const QString &path, const QLocale &locale)
 {
-    const std::unique_ptr<Session> session = openReported(path);
+    const std::unique_ptr<Session> session = readReported(path);
     if (!session)
         return FileFailed;
     session->smooth();

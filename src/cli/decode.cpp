@@ -166,7 +166,7 @@ int decode(const QStringList &arguments)
     line.addFlag(QStringLiteral("json"), QStringLiteral("Writes JSON instead of a table."));
     if (const auto status = line.parse(1, 1))
         return *status;
-    const std::unique_ptr<Session> session = openReported(line.argument(0));
+    const std::unique_ptr<Session> session = readReported(line.argument(0));
     if (!session)
         return FileFailed;
     if (line.isSet(QStringLiteral("smooth")))

@@ -24,6 +24,15 @@ QString mapsFolder(const CommandLine &line)
     return QDir(folder).absolutePath();
 }
 
+// Lets go of a session that the memory has no room for.
+void reportMemory(std::unique_ptr<Session> &session)
+{
+    if (!session || !session->lacksMemory())
+        return;
+    printFileError(session->filePath(), QStringLiteral("needs more memory than there is"));
+    session.reset();
+}
+
 } // namespace
 
 QString DisplayedSession::mapPath() const
@@ -46,6 +55,15 @@ std::unique_ptr<Session> openReported(const QString &path)
     if (!opened.session)
         printFileError(path, describe(opened.error));
     return std::move(opened.session);
+}
+
+std::unique_ptr<Session> readReported(const QString &path)
+{
+    std::unique_ptr<Session> session = openReported(path);
+    if (session)
+        (void)session->samples();
+    reportMemory(session);
+    return session;
 }
 
 std::unique_ptr<Map> mapReported(const QString &path, const QString &folder)
@@ -86,6 +104,7 @@ DisplayedSession displayReported(const QString &path, const CommandLine &line)
     if (!candidates.isStored && !name.isEmpty())
         printError(QStringLiteral("there is no map \"%1\"; the map is detected").arg(name));
     chooseMapByLength(*displayed.session, candidates.maps);
+    reportMemory(displayed.session);
     return displayed;
 }
 

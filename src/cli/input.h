@@ -14,6 +14,8 @@ class CommandLine;
 
 /// The session of a file; nothing, and the reason reported, when it gives none.
 [[nodiscard]] std::unique_ptr<Session> openReported(const QString &path);
+/// The same, with its samples, which the memory may have no room for.
+[[nodiscard]] std::unique_ptr<Session> readReported(const QString &path);
 
 /// A session as the program displays it: smoothed, given its map, cut into laps.
 struct DisplayedSession

@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 
 #include <QCoreApplication>
 
+#include <base/memory.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 
@@ -37,8 +39,10 @@ QString overview()
                     .arg(QLatin1String(command.name), -8)
                     .arg(QLatin1String(command.summary));
     }
-    text += QStringLiteral("\n\"zuno COMMAND --help\" tells more about a command.\n"
-                           "Exit status: 0 done, 1 a file failed, 2 wrong use.\n");
+    text += QStringLiteral(
+        "\n\"zuno COMMAND --help\" tells more about a command.\n"
+        "Exit status: 0 done, 1 a file failed or the output could not be written, "
+        "2 wrong use.\n");
     return text;
 }
 
@@ -65,6 +69,17 @@ int run(const QStringList &arguments)
     return found->run(arguments.mid(1));
 }
 
+int runWithinMemory(const QStringList &arguments)
+{
+    int status = FileFailed;
+    if (!withinMemory([&] { status = run(arguments); }))
+        printError(QStringLiteral("there is not enough memory for this file"));
+    if (isOutputWhole())
+        return status;
+    printError(QStringLiteral("the output could not be written"));
+    return FileFailed;
+}
+
 } // namespace
 
 } // namespace zuno::cli
@@ -73,5 +88,9 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationVersion(QStringLiteral(ZUNO_VERSION));
-    return zuno::cli::run(QCoreApplication::arguments());
+#ifdef SIGPIPE
+    // A closed pipe is output that could not be written, not death.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+    return zuno::cli::runWithinMemory(QCoreApplication::arguments());
 }

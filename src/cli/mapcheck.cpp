@@ -152,7 +152,7 @@ int mapCheck(const QStringList &arguments)
     bool allRead = true;
     json.beginArray();
     for (const QString &file : line.arguments().mid(1)) {
-        const std::unique_ptr<Session> session = openReported(file);
+        const std::unique_ptr<Session> session = readReported(file);
         allRead = allRead && session != nullptr;
         if (!session)
             continue;

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QFileInfo>
-
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
+#include <cli/output.h>
 #include <maps/check/mapcheck.h>
 #include <maps/proposal/mapproposal.h>
 
@@ -57,7 +56,7 @@ int mapNew(const QStringList &arguments)
     line.addArgument(QStringLiteral("FILE"), QStringLiteral("A session file (.ra1)."));
     line.addValue({QStringLiteral("o"), QStringLiteral("output")}, QStringLiteral("MAP"),
                   QStringLiteral("The map file to write; required."));
-    line.addFlag(QStringLiteral("force"), QStringLiteral("Writes over a file that is there."));
+    addForceOption(line);
     if (const auto status = line.parse(1, 1))
         return *status;
     const QString output = line.value(QStringLiteral("output"));
@@ -65,11 +64,9 @@ int mapNew(const QStringList &arguments)
         printError(QStringLiteral("map new: no map file given to write, with -o"));
         return WrongUse;
     }
-    if (QFileInfo::exists(output) && !line.isSet(QStringLiteral("force"))) {
-        printFileError(output, QStringLiteral("is there already; --force writes over it"));
+    if (!mayWriteReported(output, FileKind::Map, line))
         return FileFailed;
-    }
-    const std::unique_ptr<Session> session = openReported(line.argument(0));
+    const std::unique_ptr<Session> session = readReported(line.argument(0));
     if (!session)
         return FileFailed;
     session->smooth();

@@ -4,6 +4,7 @@
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
+#include <cli/output.h>
 
 #include <algorithm>
 #include <array>
@@ -97,7 +98,10 @@ QString failure(const RewriteResult &result)
 {
     switch (result.outcome) {
     case RewriteOutcome::NotRewritable:
-        return QStringLiteral("ends before its information; it was left alone");
+        return QStringLiteral("has a format that is not known, is damaged, or ends before its "
+                              "information; it was left alone");
+    case RewriteOutcome::BeingWritten:
+        return QStringLiteral("was written by somebody else just then; it was left alone");
     case RewriteOutcome::OtherRecording:
         return QStringLiteral("holds another recording now; it was left alone");
     case RewriteOutcome::Unreadable:
@@ -122,9 +126,13 @@ int set(const QStringList &arguments)
                      QStringLiteral("What to change; can be repeated."));
     line.addValue({QStringLiteral("o")}, QStringLiteral("OUT"),
                   QStringLiteral("Writes to OUT instead of FILE."));
+    addForceOption(line);
     constexpr qsizetype Any = 1000000;
     if (const auto status = line.parse(1, Any))
         return *status;
+    const QString output = line.value(QStringLiteral("o"));
+    if (!output.isEmpty() && !mayWriteReported(output, FileKind::Session, line))
+        return FileFailed;
     const std::unique_ptr<Session> session = openReported(line.argument(0));
     if (!session)
         return FileFailed;
@@ -136,10 +144,9 @@ int set(const QStringList &arguments)
             return WrongUse;
         }
     }
-    const RewriteResult result
-        = line.isSet(QStringLiteral("o"))
-              ? rewriteSessionFileTo(*session, line.value(QStringLiteral("o")))
-              : rewriteSessionFile(*session);
+    const RewriteResult result = line.isSet(QStringLiteral("o"))
+                                     ? rewriteSessionFileTo(*session, output)
+                                     : rewriteSessionFile(*session);
     if (result.ok())
         return Success;
     printFileError(line.argument(0), failure(result));

@@ -19,6 +19,7 @@ AcquisitionLibrary::Said::Said(const Session &session)
     , recording(session.recording())
     , stored(session.storedState())
     , edited(session.state())
+    , isUnsaved(session.isUnsaved())
 {
 }
 
@@ -38,6 +39,7 @@ void AcquisitionLibrary::Said::putInto(Session &session) const
         state->information.idealTimeText = now.information.idealTimeText;
     }
     session.setInformation(merged(before, after, now).information);
+    session.setUnsaved(isUnsaved);
 }
 
 AcquisitionLibrary::AcquisitionLibrary(QObject *parent) : QObject(parent) {}
@@ -105,12 +107,13 @@ Session *AcquisitionLibrary::append(const QString &path, const char *caller)
     m_sessions.push_back(std::move(opened.session));
     m_stamps.insert(m_sessions.back().get(), stamp);
     m_files.insert(file, m_sessions.back().get());
+    const auto kept = std::find_if(m_kept.begin(), m_kept.end(),
+                                   [&path](const Said &said) { return said.path == path; });
+    if (kept != m_kept.end()) {
+        kept->putInto(*m_sessions.back());
+        m_kept.erase(kept);
+    }
     return m_sessions.back().get();
-}
-
-AcquisitionLibrary::FileStamp AcquisitionLibrary::FileStamp::of(const QFileInfo &file)
-{
-    return {file.size(), file.lastModified()};
 }
 
 void AcquisitionLibrary::noteWritten(const Session &session)
@@ -171,10 +174,38 @@ void AcquisitionLibrary::remove(Session *session)
     if (index < 0)
         return;
     Q_EMIT sessionAboutToBeRemoved(session);
+    keep(*session);
     m_stamps.remove(session);
     m_files.removeIf([session](const auto &file) { return file.value() == session; });
     m_sessions.erase(m_sessions.begin() + index);
     tell();
+}
+
+void AcquisitionLibrary::keep(const Session &session)
+{
+    if (!session.isUnsaved() || !session.recording().isRewritable())
+        return;
+    std::erase_if(m_kept, [&session](const Said &said) { return said.path == session.filePath(); });
+    m_kept.emplace_back(session);
+}
+
+QList<AcquisitionLibrary::Unsaved> AcquisitionLibrary::unsaved() const
+{
+    QList<Unsaved> list;
+    for (const auto &session : m_sessions) {
+        if (session->isUnsaved() && session->recording().isRewritable())
+            list.append({session->filePath(), session.get(), session->information()});
+    }
+    for (const Said &said : m_kept)
+        list.append({said.path, nullptr, said.edited.information});
+    return list;
+}
+
+void AcquisitionLibrary::forgetUnsaved(const QString &path)
+{
+    if (Session *session = find(path))
+        session->setUnsaved(false);
+    std::erase_if(m_kept, [&path](const Said &said) { return said.path == path; });
 }
 
 void AcquisitionLibrary::removeAt(const QString &path)
@@ -207,6 +238,7 @@ void AcquisitionLibrary::reload(const QString &folder)
     for (const auto &session : m_sessions) {
         said.emplace_back(*session);
         Q_EMIT sessionAboutToBeRemoved(session.get());
+        keep(*session);
     }
     m_sessions.clear();
     m_stamps.clear();

@@ -7,7 +7,6 @@
 #include <memory>
 #include <vector>
 
-#include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
 #include <QList>
@@ -15,6 +14,7 @@
 #include <QObject>
 #include <QString>
 
+#include <base/filestamp.h>
 #include <session/session.h>
 
 namespace zuno {
@@ -72,6 +72,18 @@ public:
     [[nodiscard]] qsizetype indexOf(const Session *session) const;
     [[nodiscard]] Session *find(const QString &path) const { return at(indexOf(path)); }
 
+    /// What the rider has said about a session and its file has not got; @p session is nullptr when
+    /// the file is gone.
+    struct Unsaved
+    {
+        QString path;
+        Session *session = nullptr;
+        SessionInformation information;
+    };
+    [[nodiscard]] QList<Unsaved> unsaved() const;
+    /// Takes what was said about the session at @p path for saved.
+    void forgetUnsaved(const QString &path);
+
     /// For each file name whether its session has never been opened; the last of several sessions
     /// of a name counts.
     [[nodiscard]] QMap<QString, bool> viewedStateMap() const;
@@ -85,16 +97,6 @@ Q_SIGNALS:
     void noticed(const QString &message);
 
 private:
-    /// Tells whether a file is still the one that was read.
-    struct FileStamp
-    {
-        qint64 size = -1;
-        QDateTime modified;
-
-        static FileStamp of(const QFileInfo &file);
-        friend bool operator==(const FileStamp &, const FileStamp &) = default;
-    };
-
     /// What was said about a session before its file is read again.
     struct Said
     {
@@ -105,17 +107,21 @@ private:
         Recording recording;
         StoredState stored;
         StoredState edited;
+        bool isUnsaved = false;
     };
 
     void loadBelow(const LibraryFolder &root);
     bool makeNamesReadable(const LibraryFolder &root);
     Session *append(const QString &path, const char *caller);
+    void keep(const Session &session);
     void tell();
 
     std::vector<std::unique_ptr<Session>> m_sessions;
     QHash<const Session *, FileStamp> m_stamps;
     /// The sessions by where their files stand without links.
     QHash<QString, Session *> m_files;
+    // Of sessions whose files are gone: unsaved, until they come back.
+    std::vector<Said> m_kept;
     int m_bundles = 0;
     bool m_isUntold = false;
 };

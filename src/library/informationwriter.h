@@ -3,18 +3,22 @@
 
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
+#include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
+#include <QTimer>
 
+#include <base/filestamp.h>
+#include <session/session.h>
 #include <session/sessionrewrite.h>
 
 namespace zuno {
 
-class Session;
-
-/// Writes the information of sessions into their files, and tells when that fails; but a library on
-/// a write-protected card must not complain at every selection.
+/// Writes the information of sessions into their files, at once or when it is time, and tells when
+/// that fails; but a library on a write-protected card must not complain at every selection.
 class InformationWriter : public QObject
 {
     Q_OBJECT
@@ -27,21 +31,47 @@ public:
         Edited,
     };
 
-    using QObject::QObject;
+    explicit InformationWriter(QObject *parent = nullptr);
 
-    /// Rewrites the information block of the session's file.
+    /// Rewrites the information block of the session's file now.
     RewriteResult write(Session &session, Cause cause = Cause::Shown);
+    /// The same for what is being typed, not with every key: the file is written before anything
+    /// typed is two seconds old.
+    void writeSoon(Session &session);
+    /// The same for a session that was displayed for the first time, once its file has rested for
+    /// two seconds: what somebody is still copying must not be replaced.
+    void writeWhenRested(Session &session);
+    /// Writes now what was typed and waits to be written.
+    void flush();
 
 Q_SIGNALS:
     void written(const zuno::Session &session);
     /// The file had been changed by another program; the session has its changes now, and
     /// @p message is for the rider.
     void joined(zuno::Session *session, const QString &message);
+    /// What was typed here has taken the place of what another program had typed.
+    void replaced(zuno::Session *session, const zuno::ReplacedTyping &typing);
     /// A failure that is to be told; @p message is for the rider.
     void failed(const QString &message);
 
 private:
+    // A file that somebody may be writing.
+    struct Resting
+    {
+        QPointer<Session> session;
+        FileStamp stamp;
+        QDeadlineTimer due;
+    };
+
+    void forget(const Session &session);
+    void writeRested();
+    void handle(Session &session, const RewriteResult &result, Cause cause);
     void tell(const QString &message, Cause cause);
+
+    QList<QPointer<Session>> m_typed;
+    QTimer m_typing;
+    QList<Resting> m_resting;
+    QTimer m_rest;
 
     // What was told last since a file was written; empty for nothing.
     QString m_told;

@@ -24,6 +24,7 @@
 #include <library/acquisitionlibrary.h>
 #include <library/customfilesystemmodeldelegate.h>
 #include <library/deletion.h>
+#include <library/sessionname.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -57,22 +58,6 @@ QString askForName(QWidget *parent, const QString &title, const QString &label,
     }
     accepted = dialog.exec() == QDialog::Accepted;
     return dialog.textValue();
-}
-
-// Such a file would vanish from the tree, or could not be copied to every other computer.
-QString whyNoName(const QString &name)
-{
-    static const QRegularExpression reserved(
-        QStringLiteral("^(?:con|prn|aux|nul|com[0-9]|lpt[0-9])(?:\\.|$)|[. ]$"),
-        QRegularExpression::CaseInsensitiveOption);
-    if (name.startsWith(u'.'))
-        return LibraryTree::tr("A name that begins with a dot is hidden; nothing was changed.");
-    if (name.contains(reserved)) {
-        return LibraryTree::tr(
-                   "\"%1\" is a name that not every computer takes; nothing was changed.")
-            .arg(name);
-    }
-    return {};
 }
 
 bool haveSameMap(const QList<Session *> &sessions)
@@ -441,7 +426,7 @@ void LibraryTree::renameCurrent()
         return;
     if (isFile)
         newName += AcquisitionLibrary::Suffix;
-    if (const QString reason = whyNoName(newName); !reason.isEmpty())
+    if (const QString reason = faultOfSessionName(newName); !reason.isEmpty())
         Q_EMIT failed(reason);
     else if (m_model)
         rename(path, newName);
@@ -453,6 +438,10 @@ void LibraryTree::rename(const QString &from, const QString &newName)
     const QString to = QFileInfo(from).absolutePath() + u'/' + newName;
     if (to == from)
         return;
+    if (const QString fault = faultOfSessionName(newName); !fault.isEmpty()) {
+        Q_EMIT failed(fault);
+        return;
+    }
     const bool taken = QFileInfo::exists(to);
     if (taken || !m_folder.mayChange(from) || !m_model->setData(index, newName, Qt::EditRole)) {
         Q_EMIT failed(taken ? tr("There is a \"%1\" already; nothing was renamed.").arg(newName)
@@ -540,7 +529,7 @@ void LibraryTree::createFolder()
         = askForName(m_view.window(), tr("Create new folder"), tr("Folder name :"), {}, accepted);
     if (!accepted || name.isEmpty())
         return;
-    if (const QString reason = whyNoName(name); !reason.isEmpty())
+    if (const QString reason = faultOfSessionName(name); !reason.isEmpty())
         Q_EMIT failed(reason);
     else if (!m_model || !m_folder.mayMakeIn(path)
              || !m_model->mkdir(m_model->index(path), name).isValid())

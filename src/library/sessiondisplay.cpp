@@ -65,12 +65,15 @@ bool SessionDisplay::display(const QString &path)
     release(before);
     m_settings.setValue(Setting::LastFileSelected, clean);
     Q_EMIT sessionDisplayed(m_session);
-    if (m_session->newSession() != 0) {
+    if (m_session->newSession() != 0 && !m_session->lacksMemory()) {
         m_session->setNewSession(0);
         Q_EMIT viewedStateChanged();
         if (isFirstDisplay)
-            m_writer.write(*m_session);
+            m_writer.writeWhenRested(*m_session);
     }
+    // Its file was away, or another one stands there now.
+    if (m_session->isUnsaved() && m_session->recording().isRewritable())
+        m_writer.writeSoon(*m_session);
     return true;
 }
 

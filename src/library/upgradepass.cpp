@@ -3,9 +3,14 @@
 
 #include <library/upgradepass.h>
 
+#include <chrono>
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDirIterator>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QTimer>
 
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
@@ -15,6 +20,12 @@
 #include <widgets/downloadinprogress.h>
 
 namespace zuno {
+
+namespace {
+
+constexpr std::chrono::milliseconds Rest {2000};
+
+} // namespace
 
 UpgradePass::UpgradePass(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts) {}
 
@@ -47,6 +58,8 @@ void UpgradePass::run()
     QStringList paths;
     while (files.hasNext())
         paths.append(files.next());
+    if (!paths.isEmpty())
+        rest();
     for (const QString &path : std::as_const(paths)) {
         // A cancel sets the counter to the number of sessions: one more file is handled then.
         if (m_counter > m_parts.library.size())
@@ -58,11 +71,21 @@ void UpgradePass::run()
     }
 }
 
+// What somebody is copying into the library must not be replaced.
+void UpgradePass::rest()
+{
+    QEventLoop loop;
+    QTimer::singleShot(Rest, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 void UpgradePass::handle(const QString &path)
 {
+    const Session *known = m_parts.library.find(path);
+    const bool hasRested = known != nullptr && !m_parts.library.hasChanged(known, QFileInfo(path));
     m_parts.tree.selectOnly(path);
     Session *session = m_parts.display.session();
-    if (session != nullptr && session->filePath() == path)
+    if (session != nullptr && session->filePath() == path && hasRested)
         m_parts.writer.write(*session);
 }
 

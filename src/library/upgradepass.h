@@ -40,6 +40,7 @@ public:
 
 private:
     void run();
+    void rest();
     void handle(const QString &path);
     void showProgress();
 

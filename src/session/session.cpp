@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <base/laptimes.h>
+#include <base/memory.h>
 #include <session/recording/smoothing.h>
 #include <track/map.h>
 
@@ -32,7 +33,16 @@ void Session::fetchSamples() const
         return;
     m_fetched = true;
     if (m_sampleSource)
-        m_samples = m_sampleSource();
+        guard([this] { m_samples = m_sampleSource(); });
+}
+
+// Half of the samples, or samples that are not smoothed, would show what is not so.
+void Session::guard(const std::function<void()> &work) const
+{
+    if (withinMemory(work))
+        return;
+    m_lacksMemory = true;
+    m_samples = {};
 }
 
 const Points &Session::samples() const
@@ -59,7 +69,7 @@ void Session::smooth()
         return;
     m_smoothed = true;
     fetchSamples();
-    smoothSamples(m_samples.points);
+    guard([this] { smoothSamples(m_samples.points); });
 }
 
 void Session::release()
@@ -72,6 +82,7 @@ void Session::release()
     m_results = {};
     m_samples = {};
     m_fetched = false;
+    m_lacksMemory = false;
     m_smoothed = false;
     m_released = true;
 }
@@ -161,9 +172,12 @@ void Session::setMap(const Map *map)
 void Session::cutIntoLaps()
 {
     m_released = false;
-    m_results = m_map != nullptr
-                    ? zuno::cutIntoLaps(wholeSamples(), *m_map, m_information.invalidLaps)
-                    : LapResults();
+    m_results = {};
+    if (m_map != nullptr) {
+        guard([this] {
+            m_results = zuno::cutIntoLaps(wholeSamples(), *m_map, m_information.invalidLaps);
+        });
+    }
 }
 
 void Session::rankLaps()

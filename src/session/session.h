@@ -57,6 +57,9 @@ public:
     /// The samples that the file holds whole: the ones to compute with and to show.
     [[nodiscard]] std::span<const PointAcquisition> wholeSamples() const;
     [[nodiscard]] const ReadingLists &readingLists() const;
+    /// Whether there was not enough memory for samples or laps: the session has none then, until
+    /// release().
+    [[nodiscard]] bool lacksMemory() const { return m_lacksMemory; }
     /// Runs the smoothing pass; does nothing when it has run before.
     void smooth();
     /// Lets go of samples and laps, which take a megabyte or more; what they said about the session
@@ -100,6 +103,10 @@ public:
     /// Stores the numbers of laps thrown out; laps that are cut already keep their flags.
     void setInvalidLaps(const QList<quint8> &numbers) { m_information.invalidLaps = numbers; }
 
+    /// Whether something that the rider has said about the session is not in its file yet.
+    [[nodiscard]] bool isUnsaved() const { return m_isUnsaved; }
+    void setUnsaved(bool unsaved) { m_isUnsaved = unsaved; }
+
     /// What a rewrite would put into the file now, and what the file held when it was last read or
     /// written.
     [[nodiscard]] StoredState state() const;
@@ -130,6 +137,7 @@ Q_SIGNALS:
 private:
     void fetchSamples() const;
     void flagLaps();
+    void guard(const std::function<void()> &work) const;
 
     QString m_filePath;
     Recording m_recording;
@@ -140,10 +148,12 @@ private:
     // Decoded on first use, which is no change of the session.
     mutable Samples m_samples;
     mutable bool m_fetched = false;
+    mutable bool m_lacksMemory = false;
     const Map *m_map = nullptr;
     quint8 m_newSession = 1;
     bool m_smoothed = false;
     bool m_released = false;
+    bool m_isUnsaved = false;
 };
 
 } // namespace zuno

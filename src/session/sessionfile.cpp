@@ -39,6 +39,10 @@ constexpr QIODevice::OpenMode ReadPiecewise = QIODevice::ReadOnly | QIODevice::U
 
 constexpr quint8 ListsFollow = 1;
 
+constexpr const char *Magic = "RA1";
+// Of other formats only so much is known that their samples can be shown.
+constexpr const char *KnownFormats = "1.";
+
 // The samples as the file has them.
 struct SampleExtent
 {
@@ -50,7 +54,7 @@ struct SampleExtent
 
 SessionFileError readVersion(ByteReader &reader, QByteArray &version)
 {
-    if (reader.countedBytes() != "RA1")
+    if (reader.countedBytes() != Magic)
         return SessionFileError::NotASession;
     version = reader.countedBytes();
     return version < "1.0.0.0" ? SessionFileError::VersionTooOld : SessionFileError::None;
@@ -59,9 +63,10 @@ SessionFileError readVersion(ByteReader &reader, QByteArray &version)
 SampleExtent readExtent(ByteReader &reader)
 {
     SampleExtent extent;
-    extent.count = std::max(reader.i32(), 0);
+    const qint32 declared = reader.i32();
+    extent.count = std::max(declared, 0);
     extent.whole = std::min(extent.count, reader.left() / SampleSize);
-    extent.isComplete = extent.whole == extent.count;
+    extent.isComplete = extent.whole == declared;
     // A count that nothing in the file supports is damage, not a recording cut short.
     if (extent.count > PlausibleCount && extent.count * SampleSize > 2 * reader.left())
         extent.count = extent.whole;
@@ -138,12 +143,13 @@ std::vector<Reading> readReadings(ByteReader &reader)
 }
 
 // Leaves the reader where readReadings would. Less than a whole reading is left at the end: each
-// number of it reads as a reading of its own. False when readings are missing.
+// number of it reads as a reading of its own. False when readings are missing, or their number
+// cannot be true.
 bool skipReadings(ByteReader &reader)
 {
     const qint64 count = reader.i32();
     if (count < 1)
-        return true;
+        return count == 0;
     const qint64 whole = std::min(count, reader.left() / ReadingSize);
     reader.skip(whole * ReadingSize);
     reader.skip(std::min(count - whole, reader.left() / WordSize) * WordSize);
@@ -183,11 +189,9 @@ QString readText(ByteReader &reader)
 }
 
 // The block's first byte, the length of the circuit's name, has been read when it stands in the
-// place of the lists' flag.
-SessionInformation readInformation(ByteReader &reader, Recording &recording)
+// place of the lists' flag. False when something of the block is missing.
+bool readInformation(ByteReader &reader, quint8 listsFlag, SessionInformation &information)
 {
-    const quint8 listsFlag = recording.listsFlag;
-    SessionInformation information;
     information.circuitName = listsFlag == ListsFollow
                                   ? readStored(reader)
                                   : StoredText::fromFile(reader.bytes(listsFlag));
@@ -203,9 +207,7 @@ SessionInformation readInformation(ByteReader &reader, Recording &recording)
     const int invalidCount = reader.u8();
     for (int i = 0; i < invalidCount && !reader.atEnd(); ++i)
         information.invalidLaps.append(reader.u8());
-    recording.hasWholeInformation
-        = !reader.ranShort() && information.invalidLaps.size() == invalidCount;
-    return information;
+    return !reader.ranShort() && information.invalidLaps.size() == invalidCount;
 }
 
 // What stands between the samples and the lists.
@@ -244,22 +246,47 @@ bool skipLists(ByteReader &reader, const Recording &recording)
     return hasFirst && hasSecond && !reader.ranShort();
 }
 
+// Two files in one, the first of which has no block: the second one's beginning reads as one.
+bool isOtherRecording(const SessionInformation &information)
+{
+    const auto begins = [](const StoredText &magic, const StoredText &version) {
+        return magic.text() == QLatin1String(Magic)
+               && version.text().startsWith(QLatin1String(KnownFormats));
+    };
+    return begins(information.circuitName, information.event)
+           || (information.circuitName.text().isEmpty()
+               && begins(information.event, information.driver));
+}
+
+// Reads the block, if there is one, and finds its end.
+InformationBlock readBlock(ByteReader &reader, SessionFrame &frame)
+{
+    const quint8 listsFlag = frame.recording.listsFlag;
+    frame.layout.informationEnd = reader.size();
+    if (reader.atEnd()) {
+        const bool hasBegun = listsFlag > ListsFollow;
+        return hasBegun ? InformationBlock::EndsEarly : InformationBlock::Missing;
+    }
+    SessionInformation &information = frame.state.information;
+    const bool isWhole = readInformation(reader, listsFlag, information);
+    if (isOtherRecording(information))
+        return InformationBlock::Unreachable;
+    if (!isWhole)
+        return InformationBlock::EndsEarly;
+    frame.layout.informationEnd = reader.position();
+    return InformationBlock::Whole;
+}
+
 // Reads everything around the samples into the session.
 SessionFileError describeSession(ByteReader &reader, Session &session)
 {
-    Recording recording;
-    if (const auto error = readVersion(reader, recording.version); error != SessionFileError::None)
+    SessionFrame frame;
+    if (const auto error = readFrame(reader, frame); error != SessionFileError::None)
         return error;
-    const SampleExtent extent = readExtent(reader);
-    recording.sampleCount = extent.count;
-    recording.wholeSampleCount = extent.whole;
-    skipSamples(reader, extent);
-    session.setNewSession(readHeader(reader, recording).newSession);
-    skipLists(reader, recording);
-    if (!reader.atEnd())
-        session.setInformation(readInformation(reader, recording));
-    session.setStoredState(session.state());
-    session.setRecording(std::move(recording));
+    session.setNewSession(frame.state.newSession);
+    session.setInformation(frame.state.information);
+    session.setStoredState(std::move(frame.state));
+    session.setRecording(std::move(frame.recording));
     return SessionFileError::None;
 }
 
@@ -269,7 +296,11 @@ Session::Samples fetchSamples(ByteReader &reader)
     QByteArray version;
     if (readVersion(reader, version) != SessionFileError::None)
         return fetched;
-    fetched.points = readSamples(reader, readExtent(reader));
+    const SampleExtent extent = readExtent(reader);
+    // It may be another file by now.
+    if (extent.count > MaximumSampleCount)
+        return fetched;
+    fetched.points = readSamples(reader, extent);
     Recording recording;
     readHeader(reader, recording);
     if (recording.listsFlag == ListsFollow) {
@@ -319,6 +350,9 @@ QString describe(SessionFileError error)
         return QCoreApplication::translate("SessionFile", "is no session file");
     case SessionFileError::VersionTooOld:
         return QCoreApplication::translate("SessionFile", "has a format that is too old");
+    case SessionFileError::TooLarge:
+        return QCoreApplication::translate(
+            "SessionFile", "is too large: a session has 1 GB and 20 million samples at most");
     case SessionFileError::None:
         break;
     }
@@ -377,21 +411,31 @@ bool beginsWithSamplesOf(const QString &path, const QString &other)
     return true;
 }
 
-std::optional<SessionLayout> findLayout(ByteReader &reader)
+SessionFileError readFrame(ByteReader &reader, SessionFrame &frame)
 {
-    Recording recording;
-    if (readVersion(reader, recording.version) != SessionFileError::None)
-        return std::nullopt;
+    Recording &recording = frame.recording;
+    if (const auto error = readVersion(reader, recording.version); error != SessionFileError::None)
+        return error;
     const SampleExtent extent = readExtent(reader);
+    if (reader.size() > MaximumSessionSize || extent.count > MaximumSampleCount)
+        return SessionFileError::TooLarge;
+    recording.sampleCount = extent.count;
+    recording.wholeSampleCount = extent.whole;
     skipSamples(reader, extent);
     const Header header = readHeader(reader, recording);
+    frame.state.newSession = header.newSession;
+    frame.layout = header.layout;
     // Where samples are missing, the information would be read as one.
-    if (!extent.isComplete || !header.isWhole || !skipLists(reader, recording))
-        return std::nullopt;
-    SessionLayout layout = header.layout;
-    layout.informationAt
-        = recording.listsFlag == ListsFollow ? reader.position() : layout.listsFlagAt;
-    return layout;
+    const bool hasLists = skipLists(reader, recording);
+    const bool isReached = extent.isComplete && header.isWhole && hasLists;
+    frame.layout.informationAt
+        = recording.listsFlag == ListsFollow ? reader.position() : frame.layout.listsFlagAt;
+    recording.block = readBlock(reader, frame);
+    if (!isReached)
+        recording.block = InformationBlock::Unreachable;
+    if (!recording.version.startsWith(KnownFormats))
+        recording.block = InformationBlock::OtherFormat;
+    return SessionFileError::None;
 }
 
 } // namespace zuno

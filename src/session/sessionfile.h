@@ -15,6 +15,11 @@ namespace zuno {
 
 class ByteReader;
 
+/// No ride is longer (20 million samples are three weeks), and larger ones could take more memory
+/// than there is.
+inline constexpr qint64 MaximumSessionSize = 1'000'000'000; // bytes
+inline constexpr qint64 MaximumSampleCount = 20'000'000;
+
 /// Why a file gave no session.
 enum class SessionFileError {
     None,
@@ -24,6 +29,8 @@ enum class SessionFileError {
     NotASession,
     /// A recording of a format version before "1.0.0.0".
     VersionTooOld,
+    /// More than MaximumSessionSize or MaximumSampleCount.
+    TooLarge,
 };
 
 /// A session, or why there is none.
@@ -59,11 +66,22 @@ struct SessionLayout
     /// Where the information block begins. Without lists it begins at their flag: its first byte
     /// takes the flag's place.
     qint64 informationAt = 0;
+    /// Where it ends. What stands behind it is unknown here, and somebody's; a block that ends
+    /// early reaches to the end of the file.
+    qint64 informationEnd = 0;
 };
 
-/// Finds the parts of the session file that @p reader stands at the start of. Nothing when it is no
-/// session file, or when it was cut short before the place of its information: what was written
-/// there would be read as a part of what is missing.
-[[nodiscard]] std::optional<SessionLayout> findLayout(ByteReader &reader);
+/// What a session file holds around its samples.
+struct SessionFrame
+{
+    Recording recording;
+    SessionLayout layout;
+    StoredState state;
+};
+
+/// Reads all but the samples of the session file that @p reader stands at the start of. The layout
+/// is of use only where Recording::isRewritable: where the file was cut short before its
+/// information, what was written there would be read as a part of what is missing.
+[[nodiscard]] SessionFileError readFrame(ByteReader &reader, SessionFrame &frame);
 
 } // namespace zuno

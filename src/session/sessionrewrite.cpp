@@ -3,6 +3,10 @@
 
 #include <session/sessionrewrite.h>
 
+#include <algorithm>
+#include <functional>
+
+#include <QBuffer>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -11,8 +15,8 @@
 #include <QStandardPaths>
 
 #include <base/bytereader.h>
+#include <base/filestamp.h>
 #include <base/wholefile.h>
-#include <session/recording/sessionbuffer.h>
 #include <session/session.h>
 #include <session/sessionfile.h>
 
@@ -20,12 +24,7 @@ namespace zuno {
 
 namespace {
 
-void writeWhole(const QString &path, const QByteArray &bytes, RewriteResult &result)
-{
-    result.reason = writeWholeFile(path, bytes);
-    result.outcome
-        = result.reason.isEmpty() ? RewriteOutcome::Written : RewriteOutcome::WriteFailed;
-}
+constexpr qint64 Piece = 1 << 20;
 
 // Copies of the program wait for each other from reading a file to writing it. Without a lock (no
 // room for it, another user's) there is still only a moment in which they could meet.
@@ -58,41 +57,109 @@ private:
     QLockFile m_lock;
 };
 
-// Takes into the session what somebody else has put into the file since it was read.
-RewriteResult readAgain(Session &session, const QByteArray &bytes)
+bool copy(QIODevice &from, qint64 begin, qint64 end, QIODevice &to)
 {
-    ByteReader reader(bytes);
-    const OpenedSession now = decodeSession(bytes, session.filePath());
-    if (!now.session || !findLayout(reader))
-        return {RewriteOutcome::NotRewritable, {}};
-    if (!isStillRecording(session.recording(), now.session->recording()))
-        return {RewriteOutcome::OtherRecording, {}};
+    if (!from.seek(begin))
+        return false;
+    for (qint64 left = end - begin; left > 0;) {
+        const QByteArray piece = from.read(std::min(left, Piece));
+        if (piece.isEmpty() || to.write(piece) != piece.size())
+            return false;
+        left -= piece.size();
+    }
+    return true;
+}
+
+// Writes the file that @p from is, with the session's flag and block, to @p to.
+bool putTogether(QIODevice &from, const SessionLayout &layout, const Session &session,
+                 QIODevice &to)
+{
+    const QByteArray block = informationBlock(session);
+    return copy(from, 0, layout.newSessionAt, to)
+           && to.putChar(static_cast<char>(session.newSession()))
+           && copy(from, layout.newSessionAt + 1, layout.informationAt, to)
+           && to.write(block) == block.size() && copy(from, layout.informationEnd, from.size(), to);
+}
+
+bool holdsAlready(QIODevice &file, const SessionFrame &frame, const Session &session)
+{
+    const SessionLayout &layout = frame.layout;
+    return frame.state.newSession == session.newSession() && file.seek(layout.informationAt)
+           && file.read(layout.informationEnd - layout.informationAt) == informationBlock(session);
+}
+
+// Takes into the session what somebody else has put into the file since it was read.
+RewriteResult readAgain(Session &session, QFile &file, SessionFrame &frame)
+{
+    ByteReader reader(file);
+    if (readFrame(reader, frame) != SessionFileError::None || !frame.recording.isRewritable())
+        return {RewriteOutcome::NotRewritable, {}, false, {}};
+    if (!isStillRecording(session.recording(), frame.recording))
+        return {RewriteOutcome::OtherRecording, {}, false, {}};
     RewriteResult result;
     // Half a block, or none, is nobody's change: the session's own makes it whole.
-    if (now.session->recording().hasWholeInformation)
-        result.wasChanged = session.takeOver(now.session->state());
+    if (frame.recording.block == InformationBlock::Whole) {
+        result.replaced = replacedBy(session.storedState(), session.state(), frame.state);
+        result.wasChanged = session.takeOver(frame.state);
+    }
     return result;
 }
 
-RewriteResult rewriteTo(Session &session, const QString &target, bool inPlace)
+// Where the file has changed since it was opened, somebody is writing it, and what he has still to
+// write would be lost.
+void writeTo(const QString &target, QFile &file, const FileStamp &before,
+             const std::function<bool(QIODevice &)> &write, RewriteResult &result)
+{
+    result.outcome = RewriteOutcome::Written;
+    result.reason = writeWholeFile(target, [&](QIODevice &out) {
+        if (!write(out)) {
+            result.outcome = RewriteOutcome::WriteFailed;
+            return false;
+        }
+        if (FileStamp::of(file.fileName()) == before)
+            return true;
+        result.outcome = RewriteOutcome::BeingWritten;
+        return false;
+    });
+    if (result.outcome == RewriteOutcome::Written && !result.reason.isEmpty())
+        result.outcome = RewriteOutcome::WriteFailed;
+}
+
+// What the file at @p path holds now is what the session knows of it.
+void noteStored(Session &session, const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    ByteReader reader(file);
+    SessionFrame frame;
+    if (readFrame(reader, frame) == SessionFileError::None)
+        session.setStoredState(std::move(frame.state));
+}
+
+RewriteResult rewriteTo(Session &session, const QString &target, bool inPlace, Occasion occasion)
 {
     const RewriteLock lock(session.filePath());
+    const FileStamp before = FileStamp::of(session.filePath());
     QFile file(session.filePath());
-    if (!file.open(QIODevice::ReadOnly))
-        return {RewriteOutcome::Unreadable, file.errorString()};
-    const QByteArray before = file.readAll();
-    file.close();
-    RewriteResult result = readAgain(session, before);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return {RewriteOutcome::Unreadable, file.errorString(), false, {}};
+    SessionFrame frame;
+    RewriteResult result = readAgain(session, file, frame);
     if (!result.ok())
         return result;
-    const QByteArray after = rewritten(before, session);
-    if (after.isEmpty())
-        return {RewriteOutcome::NotRewritable, {}};
-    if (!inPlace || after != before)
-        writeWhole(target, after, result);
-    const OpenedSession stored = decodeSession(after, target);
-    if (inPlace && result.ok() && stored.session)
-        session.setStoredState(stored.session->state());
+    if (occasion == Occasion::FirstDisplay
+        && frame.recording.block == InformationBlock::EndsEarly) {
+        result.outcome = RewriteOutcome::LeftOut;
+        return result;
+    }
+    if (!inPlace || !holdsAlready(file, frame, session)) {
+        const auto write
+            = [&](QIODevice &out) { return putTogether(file, frame.layout, session, out); };
+        writeTo(target, file, before, write, result);
+    }
+    if (inPlace && result.ok())
+        noteStored(session, target);
     return result;
 }
 
@@ -121,26 +188,26 @@ QByteArray informationBlock(const Session &session)
 
 QByteArray rewritten(const QByteArray &bytes, const Session &session)
 {
-    SessionBuffer buffer(bytes);
-    const std::optional<SessionLayout> layout = findLayout(buffer);
-    if (!layout)
+    ByteReader reader(bytes);
+    SessionFrame frame;
+    if (readFrame(reader, frame) != SessionFileError::None || !frame.recording.isRewritable())
         return {};
-    buffer.setWritePosition(layout->newSessionAt);
-    buffer.replace(session.newSession());
-    buffer.setWritePosition(layout->informationAt);
-    buffer.truncate();
-    buffer.append(informationBlock(session));
-    return buffer.data();
+    QBuffer before;
+    before.setData(bytes);
+    QBuffer after;
+    const bool isWhole = before.open(QIODevice::ReadOnly) && after.open(QIODevice::WriteOnly)
+                         && putTogether(before, frame.layout, session, after);
+    return isWhole ? after.data() : QByteArray();
 }
 
-RewriteResult rewriteSessionFile(Session &session)
+RewriteResult rewriteSessionFile(Session &session, Occasion occasion)
 {
-    return rewriteTo(session, session.filePath(), true);
+    return rewriteTo(session, session.filePath(), true, occasion);
 }
 
 RewriteResult rewriteSessionFileTo(Session &session, const QString &target)
 {
-    return rewriteTo(session, target, false);
+    return rewriteTo(session, target, false, Occasion::Edited);
 }
 
 } // namespace zuno

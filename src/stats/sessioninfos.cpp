@@ -7,11 +7,13 @@
 
 #include <array>
 
+#include <QBoxLayout>
 #include <QEvent>
 #include <QScopedValueRollback>
 
 #include <library/informationwriter.h>
 #include <session/session.h>
+#include <stats/informationnotice.h>
 #include <track/map.h>
 #include <widgets/makerlinks.h>
 
@@ -86,10 +88,19 @@ SessionInfos::SessionInfos(InformationWriter &writer, const QString &language, Q
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::SessionInfos>())
     , m_writer(writer)
+    , m_notice(new InformationNotice(this))
 {
     m_ui->setupUi(this);
     m_ui->webSite->setText(webSiteLink(language));
     m_ui->mail->setText(mailLink());
+    if (auto *column = qobject_cast<QBoxLayout *>(layout()))
+        column->insertWidget(0, m_notice);
+    connect(m_notice, &InformationNotice::putBackRequested, this, &SessionInfos::putBack);
+    connect(m_notice, &InformationNotice::dismissed, this, [this] {
+        m_offers.remove(m_session != nullptr ? m_session->filePath() : QString());
+        showNotice();
+    });
+    connect(&m_writer, &InformationWriter::replaced, this, &SessionInfos::onReplaced);
     m_hintTime.setSingleShot(true);
     m_hintTime.setInterval(HintTime);
     connect(&m_hintTime, &QTimer::timeout, m_ui->lb_hint, &QLabel::clear);
@@ -108,17 +119,22 @@ void SessionInfos::connectEdits()
     for (QLineEdit *edit : {m_ui->le_event, m_ui->le_driver, m_ui->le_vehicle, m_ui->le_tires}) {
         connect(edit, &QLineEdit::editingFinished, this, &SessionInfos::save);
         m_storable.watch(edit);
+        // After it was made storable.
+        connect(edit, &QLineEdit::textEdited, this, &SessionInfos::onTyped);
     }
     m_storable.watch(m_ui->cb_weather->lineEdit());
+    connect(m_ui->cb_weather->lineEdit(), &QLineEdit::editingFinished, this, &SessionInfos::save);
     // It would put "Dry" for a "D", and into the file with it.
     m_ui->cb_weather->setCompleter(nullptr);
-    connect(m_ui->cb_weather, &QComboBox::editTextChanged, this, &SessionInfos::save);
+    connect(m_ui->cb_weather, &QComboBox::editTextChanged, this, &SessionInfos::onTyped);
     connect(m_ui->sb_trackTemp, &QSpinBox::editingFinished, this, &SessionInfos::save);
+    connect(m_ui->sb_trackTemp, &QSpinBox::valueChanged, this, &SessionInfos::onTyped);
     connect(m_ui->sb_trackTemp, &QSpinBox::valueChanged, m_ui->l_degrees, [this](int degrees) {
         m_ui->l_degrees->setVisible(degrees != SessionInformation::UnknownTemperature);
     });
     connect(m_ui->te_infos, &QTextEdit::textChanged, this, &SessionInfos::onNotesChanged);
     connect(&m_storable, &StorableEdits::replaced, this, &SessionInfos::showHint);
+    m_ui->te_infos->installEventFilter(this);
     const std::array<QWidget *, 2> turned {m_ui->cb_weather, m_ui->sb_trackTemp};
     for (QWidget *edit : turned) {
         edit->setFocusPolicy(Qt::StrongFocus);
@@ -129,6 +145,8 @@ void SessionInfos::connectEdits()
 void SessionInfos::showSession(Session *session)
 {
     const bool isOther = session == nullptr || session != m_session;
+    if (isOther)
+        commit();
     m_session = session;
     if (isOther) {
         m_filled = texts();
@@ -136,6 +154,7 @@ void SessionInfos::showSession(Session *session)
     }
     fillEdits();
     fillLabels();
+    showNotice();
 }
 
 void SessionInfos::fillEdits()
@@ -156,8 +175,10 @@ void SessionInfos::fillEdits()
 template<typename Edit>
 void SessionInfos::fill(Edit *edit, const QString &text)
 {
-    edit->setEnabled(!m_session.isNull());
-    if (isTyped(edit))
+    edit->setEnabled(canStore());
+    // The event is stored without the blank that was just typed.
+    const bool isBeingTyped = edit->hasFocus() && withoutOuterBlanks(textOf(edit)) == text;
+    if (isTyped(edit) || isBeingTyped)
         return;
     // Setting the same text would take away the cursor's place and what can be undone.
     if (textOf(edit) != text || !edit->hasFocus())
@@ -167,7 +188,7 @@ void SessionInfos::fill(Edit *edit, const QString &text)
 
 void SessionInfos::fillTemperature(int degrees)
 {
-    m_ui->sb_trackTemp->setEnabled(!m_session.isNull());
+    m_ui->sb_trackTemp->setEnabled(canStore());
     if (isTyped(m_ui->sb_trackTemp))
         return;
     m_ui->sb_trackTemp->setValue(degrees);
@@ -213,7 +234,7 @@ void SessionInfos::onNotesChanged()
     if (!m_isFilling && m_storable.makeStorable(m_ui->te_infos))
         return;
     showCount();
-    save();
+    onTyped();
 }
 
 void SessionInfos::showCount()
@@ -229,17 +250,47 @@ void SessionInfos::onTabChanged(int index)
         save();
 }
 
+bool SessionInfos::canStore() const
+{
+    return !m_session.isNull() && m_session->recording().isRewritable();
+}
+
+void SessionInfos::onTyped()
+{
+    if (m_isFilling || !canStore() || !store())
+        return;
+    m_writer.writeSoon(*m_session);
+    Q_EMIT saved();
+}
+
 void SessionInfos::save()
 {
-    if (m_session.isNull() || m_isFilling)
+    if (m_isFilling || !canStore())
         return;
+    const SessionInformation before = m_session->information();
     storeEvent();
+    const bool isEdited = store() || !(m_session->information() == before);
+    m_writer.write(*m_session, isEdited || m_session->isUnsaved()
+                                   ? InformationWriter::Cause::Edited
+                                   : InformationWriter::Cause::Shown);
+    Q_EMIT saved();
+}
+
+void SessionInfos::commit()
+{
+    onTyped();
+    m_writer.flush();
+}
+
+// True when something was typed that the session does not know yet.
+bool SessionInfos::store()
+{
+    const SessionInformation before = m_session->information();
     storeTexts();
     m_session->setTemperature(m_ui->sb_trackTemp->value());
     // A text that is changed back is typed again.
     m_filled = texts();
-    m_writer.write(*m_session, InformationWriter::Cause::Edited);
-    Q_EMIT saved();
+    return !(m_session->information() == before);
 }
 
 // The only text that is stored without its outer blanks, even when the file has had them before.
@@ -264,16 +315,65 @@ void SessionInfos::storeTexts()
         session.setVehicle(storableText(textOf(m_ui->le_vehicle)));
     if (isTyped(m_ui->cb_weather))
         session.setCondition(storableText(textOf(m_ui->cb_weather)));
-    // Emptied tyres or notes keep what is stored.
-    if (isTyped(m_ui->le_tires) && !textOf(m_ui->le_tires).isEmpty())
+    if (isTyped(m_ui->le_event))
+        session.setEventName(storableText(withoutOuterBlanks(textOf(m_ui->le_event))));
+    if (isTyped(m_ui->le_tires))
         session.setTyres(storableText(textOf(m_ui->le_tires)));
-    if (isTyped(m_ui->te_infos) && !textOf(m_ui->te_infos).isEmpty())
+    if (isTyped(m_ui->te_infos))
         session.setNotes(storableText(textOf(m_ui->te_infos)));
+}
+
+void SessionInfos::onReplaced(Session *session, const ReplacedTyping &typing)
+{
+    m_offers.insert(session->filePath(), typing);
+    if (session == m_session)
+        showNotice();
+}
+
+void SessionInfos::putBack()
+{
+    if (!canStore())
+        return;
+    SessionInformation information = m_session->information();
+    m_offers.take(m_session->filePath()).putBack(information);
+    m_session->setInformation(information);
+    m_filled = texts();
+    fillEdits();
+    showNotice();
+    m_writer.write(*m_session, InformationWriter::Cause::Edited);
+    Q_EMIT saved();
+}
+
+void SessionInfos::showNotice()
+{
+    const ReplacedTyping offer
+        = m_offers.value(m_session != nullptr ? m_session->filePath() : QString());
+    if (m_session != nullptr && !canStore()) {
+        m_notice->tell(m_session->recording().block == InformationBlock::OtherFormat
+                           ? tr("This file has a format that this version does not know (%1). It "
+                                "is shown, but nothing can be stored in it.")
+                                 .arg(QString::fromLatin1(m_session->recording().version))
+                           : tr("This file is damaged, or not complete yet. It is shown, but "
+                                "nothing can be stored in it."));
+    } else if (!offer.fields.isEmpty()) {
+        QStringList texts;
+        for (const TypedField field : offer.fields)
+            texts.append(u'"' + textOf(field, offer.theirs) + u'"');
+        m_notice->offer(tr("Another program typed here at the same time, and your text has taken "
+                           "its place: %1")
+                            .arg(texts.join(QStringLiteral(", "))));
+    } else {
+        m_notice->tell({});
+    }
 }
 
 // Whoever only scrolls by must not change the file.
 bool SessionInfos::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::FocusOut && watched == m_ui->te_infos)
+        save();
+    if (watched == m_ui->te_infos)
+        return QObject::eventFilter(watched, event);
     if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
         return QObject::eventFilter(watched, event);
     event->ignore();

@@ -52,8 +52,14 @@ void Map::addNamedPoint(const QString &name, const QGeoCoordinate &coordinate)
 {
     if (name.contains(u"start", Qt::CaseInsensitive))
         m_startPoint = coordinate;
-    if (name.contains(u"time", Qt::CaseInsensitive))
-        m_timingPoints.insert(name, coordinate);
+    if (!name.contains(u"time", Qt::CaseInsensitive))
+        return;
+    m_timingPoints.insert(name, coordinate);
+    for (std::size_t sector = 0; sector < m_sectorEnds.size(); ++sector) {
+        QString &end = m_sectorEnds[sector];
+        if (name.contains(QString::number(sector)) && (end.isNull() || name > end))
+            end = name;
+    }
 }
 
 void Map::computeGeometry()
@@ -65,8 +71,10 @@ void Map::computeGeometry()
         return;
     NearestSegment start(m_startPoint);
     QList<NearestSegment> timing;
-    for (const QGeoCoordinate &point : std::as_const(m_timingPoints))
-        timing.append(NearestSegment(point));
+    for (const QGeoCoordinate &point : std::as_const(m_timingPoints)) {
+        if (timing.size() < MaximumDirections)
+            timing.append(NearestSegment(point));
+    }
     for (qsizetype i = 0; i + 1 < m_trackPoints.size(); ++i) {
         const QGeoCoordinate &from = m_trackPoints.at(i);
         const QGeoCoordinate &to = m_trackPoints.at(i + 1);
@@ -78,6 +86,7 @@ void Map::computeGeometry()
     m_startDirection = start.direction();
     for (const NearestSegment &segment : std::as_const(timing))
         m_timingDirections.append(segment.direction());
+    m_timingDirections.resize(m_timingPoints.size());
 }
 
 QString Map::displayName() const
@@ -92,13 +101,12 @@ int Map::sectorCount() const
 
 std::optional<Gate> Map::sectorGate(int sector) const
 {
-    const QString number = QString::number(sector);
-    std::optional<Gate> gate;
-    for (auto it = m_timingPoints.cbegin(); it != m_timingPoints.cend(); ++it) {
-        if (it.key().contains(number))
-            gate.emplace(it.value(), m_gateSize);
-    }
-    return gate;
+    if (sector < 0 || sector >= MaximumSectors)
+        return std::nullopt;
+    const QString &name = m_sectorEnds[static_cast<std::size_t>(sector)];
+    if (name.isNull())
+        return std::nullopt;
+    return Gate(m_timingPoints.value(name), m_gateSize);
 }
 
 } // namespace zuno

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -17,6 +18,10 @@ namespace zuno {
 
 /// How many sectors a lap has at most.
 inline constexpr int MaximumSectors = 8;
+
+/// Timing points of which a map works out the direction; a map with more of them is no circuit's,
+/// and would take the time of all of them for each point of its outline.
+inline constexpr qsizetype MaximumDirections = 64;
 
 /// One circuit: its start/finish point, its timing points (the sector lines) and its outline.
 class Map
@@ -63,7 +68,7 @@ public:
     /// Invalid when the file has none; the map is then of no use for laps.
     [[nodiscard]] const QGeoCoordinate &startPoint() const { return m_startPoint; }
     [[nodiscard]] Direction startDirection() const { return m_startDirection; }
-    /// In the order of the timing points.
+    /// In the order of the timing points; those after the first MaximumDirections have none.
     [[nodiscard]] const QList<Direction> &timingDirections() const { return m_timingDirections; }
     [[nodiscard]] const QList<QGeoCoordinate> &trackPoints() const { return m_trackPoints; }
     /// Metres along the outline, which is not closed.
@@ -73,7 +78,7 @@ public:
     /// The number of sectors: one for each timing point, at most MaximumSectors.
     [[nodiscard]] int sectorCount() const;
     /// The line at the end of a sector: the timing point whose name contains the sector's number
-    /// (of several, the last in name order). None when no name does.
+    /// (of several, the last in name order). None when no name does, and from MaximumSectors on.
     [[nodiscard]] std::optional<Gate> sectorGate(int sector) const;
 
 private:
@@ -81,6 +86,8 @@ private:
     QGeoCoordinate m_cornerA;
     QGeoCoordinate m_cornerB;
     QMap<QString, QGeoCoordinate> m_timingPoints;
+    // The names of the timing points at which the sectors end; null for none.
+    std::array<QString, MaximumSectors> m_sectorEnds;
     QGeoCoordinate m_startPoint;
     QList<Direction> m_timingDirections;
     QList<QGeoCoordinate> m_trackPoints;

@@ -17,6 +17,9 @@ namespace {
 
 constexpr qint64 OutlineRecordSize = 16;
 
+// Bytes; a million points.
+constexpr qint64 MaximumMapSize = 16'000'000;
+
 // Up to this many missing outline records are taken for a file cut short and read as zeros.
 constexpr qint32 PlausibleCount = 1000;
 
@@ -78,7 +81,7 @@ std::unique_ptr<Map> parseMap(ByteReader &reader)
 std::unique_ptr<Map> readMapFile(const QString &path, const QString &folder)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.size() > MaximumMapSize)
         return nullptr;
     // Piecewise, so that a film that somebody left in the folder is not read to the end.
     ByteReader reader(file);

@@ -20,7 +20,7 @@ class ByteReader;
 [[nodiscard]] std::unique_ptr<Map> parseMap(ByteReader &reader);
 
 /// Reads the map file at @p path; its name is the path with the maps folder @p folder removed.
-/// Nothing when the file cannot be read or is no map.
+/// Nothing when the file cannot be read, is no map, or is larger than 16 MB.
 [[nodiscard]] std::unique_ptr<Map> readMapFile(const QString &path, const QString &folder);
 
 /// The maps of a folder, owned.

@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include <base/filename.h>
+
 namespace zuno {
 
 namespace {
@@ -17,18 +19,6 @@ struct MapName
 {
     Q_DECLARE_TR_FUNCTIONS(zuno::MapName)
 };
-
-bool isForbidden(QChar c)
-{
-    return c.unicode() < u' ' || c.unicode() == 0x7F || QStringView(u"<>:\"/\\|?*").contains(c);
-}
-
-bool isReserved(const QString &name)
-{
-    static const QRegularExpression devices(QStringLiteral("^(con|prn|aux|nul|(com|lpt)[0-9])$"),
-                                            QRegularExpression::CaseInsensitiveOption);
-    return devices.match(name).hasMatch();
-}
 
 // The words that say something: dates, times and numbers do not tell circuits apart.
 QString withoutNumbers(const QString &text)
@@ -43,8 +33,8 @@ QString withoutNumbers(const QString &text)
 QString usable(QString text)
 {
     std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return isForbidden(c) || c == u'.' || c == u'_'; },
-        u' ');
+        text.begin(), text.end(),
+        [](QChar c) { return isForbiddenInFileName(c) || c == u'.' || c == u'_'; }, u' ');
     text = text.simplified().left(MaximumMapName).trimmed();
     return faultOfMapName(text) == MapNameFault::None ? text : QString();
 }
@@ -57,9 +47,9 @@ MapNameFault faultOfMapName(const QString &name)
         return MapNameFault::Empty;
     if (name.contains(u'.'))
         return MapNameFault::Dot;
-    if (std::any_of(name.cbegin(), name.cend(), isForbidden))
+    if (std::any_of(name.cbegin(), name.cend(), isForbiddenInFileName))
         return MapNameFault::Character;
-    if (isReserved(name.trimmed()))
+    if (isDeviceName(name.trimmed()))
         return MapNameFault::Reserved;
     return name.size() > MaximumMapName ? MapNameFault::TooLong : MapNameFault::None;
 }

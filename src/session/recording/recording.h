@@ -12,6 +12,20 @@
 
 namespace zuno {
 
+/// What a session file holds where its information belongs.
+enum class InformationBlock {
+    /// Nothing yet.
+    Missing,
+    Whole,
+    /// A block that something is missing of.
+    EndsEarly,
+    /// The format is not 1.x: nobody knows what stands there.
+    OtherFormat,
+    /// The way there leads through samples, words or lists that are damaged or missing, or another
+    /// recording begins there.
+    Unreachable,
+};
+
 /// What a session file says around its samples, as the logger wrote it.
 struct Recording
 {
@@ -31,8 +45,13 @@ struct Recording
     double reservedDouble = 0.0;
     /// 1 when lists of suspension readings follow.
     quint8 listsFlag = 0;
-    /// Whether the file has an information block and nothing of it is missing.
-    bool hasWholeInformation = false;
+    InformationBlock block = InformationBlock::Missing;
+
+    /// Whether the information can be written into the file without harm to anything in it.
+    [[nodiscard]] bool isRewritable() const
+    {
+        return block != InformationBlock::OtherFormat && block != InformationBlock::Unreachable;
+    }
 };
 
 /// Whether a file that says @p now holds the recording that it held @p before, grown perhaps.

@@ -42,10 +42,30 @@ struct StoredState
     friend bool operator==(const StoredState &, const StoredState &) = default;
 };
 
+/// A field that riders type something into.
+enum class TypedField { Event, Driver, Vehicle, Tyres, Temperature, Condition, Notes };
+
+/// What somebody else has typed into fields where what was typed here took its place.
+struct ReplacedTyping
+{
+    QList<TypedField> fields;
+    SessionInformation theirs;
+
+    /// Puts what somebody else has typed back into @p information.
+    void putBack(SessionInformation &information) const;
+};
+
+/// What stands in @p field, as text.
+[[nodiscard]] QString textOf(TypedField field, const SessionInformation &information);
+
 /// Joins two changes of @p base, so that neither undoes the other: a field that @p mine has left
 /// alone is that of @p theirs. A field that both have changed is that of @p mine, but for the laps
 /// thrown out, of which each is a field of its own.
 [[nodiscard]] StoredState merged(const StoredState &base, const StoredState &mine,
                                  const StoredState &theirs);
+
+/// The fields of @p theirs that are not in merged(), because @p mine has changed them, too.
+[[nodiscard]] ReplacedTyping replacedBy(const StoredState &base, const StoredState &mine,
+                                        const StoredState &theirs);
 
 } // namespace zuno

@@ -89,7 +89,7 @@ void LapsView::showLaps()
     const Session *session = m_selection.session();
     const Map *map = session != nullptr ? session->map() : nullptr;
     m_model->setLaps(session != nullptr ? &session->laps() : nullptr,
-                     map != nullptr ? static_cast<int>(map->timingPoints().size()) : 0);
+                     map != nullptr ? map->sectorCount() : 0);
     applyColumns();
     selectCurrentRow();
     updateActions();

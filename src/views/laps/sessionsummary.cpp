@@ -32,6 +32,8 @@ QString SessionSummary::laplessText(const Session &session, const QString &mapsF
 
 QString SessionSummary::reasonForNoLaps(const Session &session, const QString &mapsFolder)
 {
+    if (session.lacksMemory())
+        return tr("There is not enough memory to show this session.");
     const Map *map = session.map();
     if (map == nullptr) {
         return tr("No map is known for the place where this session was recorded, so it cannot be "
