@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(
             pointPayload(point),
             QByteArray(R"({"acquisitionNumber":4294967295,"dataTimeStamp":1200,"dataTimeSec":1.2,)"
-                       R"("dataCoordX":3.4028234663852886e+38,"dataCoordY":-45.5,)"
+                       R"("dataCoordX":null,"dataCoordY":-45.5,)"
                        R"("dataSpeed":100,"dataAngle":-1.25e-07,"dataAccelXPH":0.1,)"
                        R"("dataAccelXPHComputed":null,"dataAccelYPH":0})"));
     }

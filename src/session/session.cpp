@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <base/laptimes.h>
+#include <session/recording/gpsquality.h>
 #include <session/recording/smoothing.h>
 #include <track/map.h>
 
@@ -33,6 +34,12 @@ void Session::fetchSamples() const
     m_fetched = true;
     if (m_sampleSource)
         m_samples = m_sampleSource();
+    markMisplaced(std::span(m_samples.points).first(wholeCount(m_samples.points)));
+}
+
+std::size_t Session::wholeCount(const Points &points) const
+{
+    return std::min(points.size(), static_cast<std::size_t>(m_recording.wholeSampleCount));
 }
 
 const Points &Session::samples() const
@@ -43,8 +50,8 @@ const Points &Session::samples() const
 
 std::span<const PointAcquisition> Session::wholeSamples() const
 {
-    const std::span<const PointAcquisition> all(samples());
-    return all.first(std::min(all.size(), static_cast<std::size_t>(m_recording.wholeSampleCount)));
+    const Points &all = samples();
+    return std::span(all).first(wholeCount(all));
 }
 
 const ReadingLists &Session::readingLists() const
@@ -93,7 +100,8 @@ StoredText Session::bestLapStored() const
 
 StoredText Session::idealTimeStored() const
 {
-    if (laps().empty())
+    // On a map that it never passes the line of it has none, whatever the file says of another map.
+    if (laps().empty() && (m_map == nullptr || m_released))
         return m_information.idealTimeText;
     return StoredText(timeText(m_results.idealTime));
 }

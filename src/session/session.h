@@ -129,6 +129,7 @@ Q_SIGNALS:
 
 private:
     void fetchSamples() const;
+    [[nodiscard]] std::size_t wholeCount(const Points &points) const;
     void flagLaps();
 
     QString m_filePath;

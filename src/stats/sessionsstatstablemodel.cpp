@@ -107,7 +107,7 @@ Value bestLapOf(const Session &session)
 Value idealTimeOf(const Session &session)
 {
     if (session.laps().empty())
-        return lapTimeOf(session.information().idealTimeText.text());
+        return lapTimeOf(session.idealTimeText());
     return timeOrNone(session.results().idealTime);
 }
 

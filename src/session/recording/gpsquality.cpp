@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 
+#include <base/numbers.h>
 #include <session/recording/trace.h>
 
 namespace zuno {
@@ -39,11 +40,65 @@ bool isReachable(const PointAcquisition &from, const PointAcquisition &to)
            <= ReceiverError + (FastestPerSecond * millisecondsBetween(from, to) / 1000.0);
 }
 
+// Metres per second; no motorcycle comes near.
+constexpr double Impossible = 150.0;
+
+bool isImpossible(const PointAcquisition &from, const PointAcquisition &to)
+{
+    const qint32 milliseconds = wrappedDifference(to.dataTimeStamp, from.dataTimeStamp);
+    if (milliseconds <= 0)
+        return false;
+    const double reach = Impossible * milliseconds / 1000.0;
+    // Longer than it is anywhere but on the equator, and cheap: nearly every sample ends here.
+    const double most = MetresPerDegree
+                        * std::hypot(to.dataCoordY - from.dataCoordY,
+                                     to.dataCoordX - from.dataCoordX);
+    return most > 0.99 * reach && positionOf(from).distanceTo(positionOf(to)) > reach;
+}
+
+// Whether there are slips at all. Where most of a ride is impossible it is the clock that is wrong.
+bool hasSlips(std::span<const PointAcquisition> samples)
+{
+    qint64 steps = 0;
+    qint64 impossible = 0;
+    const PointAcquisition *before = nullptr;
+    for (const PointAcquisition &sample : samples) {
+        if (!sample.hasPosition())
+            continue;
+        if (before != nullptr) {
+            ++steps;
+            impossible += isImpossible(*before, sample) ? 1 : 0;
+        }
+        before = &sample;
+    }
+    return impossible > 0 && impossible * 3 <= steps;
+}
+
 } // namespace
+
+void markMisplaced(std::span<PointAcquisition> samples)
+{
+    if (!hasSlips(samples))
+        return;
+    const PointAcquisition *before = nullptr;
+    PointAcquisition *here = nullptr;
+    for (PointAcquisition &sample : samples) {
+        if (!sample.hasPosition())
+            continue;
+        if (before != nullptr && here != nullptr && isImpossible(*before, *here)
+            && isImpossible(*here, sample))
+            here->isMisplaced = true;
+        else
+            before = here;
+        here = &sample;
+    }
+}
 
 PositionJudge::Verdict PositionJudge::judge(const PointAcquisition &sample)
 {
-    if (!positionOf(sample).isValid())
+    if (sample.isMisplaced)
+        return Verdict::Jump;
+    if (!sample.hasPosition())
         return Verdict::None;
     const bool isBelieved = m_firstBad != nullptr && isReachable(*m_firstBad, sample)
                             && millisecondsBetween(*m_firstBad, sample) >= BelievedAfterMs;

@@ -183,7 +183,7 @@ QString LapsTableModel::text(const Lap &lap, int column) const
     case Number:
         return QString::number(lap.lapNumber());
     case Type:
-        return lap.isComplete() ? tr("Complete") : tr("Incomplete");
+        return typeText(lap);
     case CumulatedTime:
         return timeText(lap.cumulatedTime());
     case LapTime:
@@ -213,10 +213,19 @@ QString LapsTableModel::text(const Lap &lap, int column) const
     }
 }
 
+QString LapsTableModel::typeText(const Lap &lap)
+{
+    if (lap.isCountedTwice())
+        return tr("Counted twice");
+    return lap.isComplete() ? tr("Complete") : tr("Incomplete");
+}
+
 LapsTableModel::Distinction LapsTableModel::distinctionOf(const Lap &lap, int column) const
 {
     if (!lap.isValid())
         return Distinction::Invalid;
+    if (lap.isCountedTwice())
+        return Distinction::None;
     if (isMarked(lap, column) || (column == LapTime && lap.isBest()))
         return Distinction::Record;
     if (column >= FirstSection && lap.isBestSector(column - FirstSection))

@@ -70,6 +70,7 @@ private:
 
     [[nodiscard]] const Lap &lapAt(const QModelIndex &index) const;
     [[nodiscard]] QString text(const Lap &lap, int column) const;
+    [[nodiscard]] static QString typeText(const Lap &lap);
     [[nodiscard]] Distinction distinctionOf(const Lap &lap, int column) const;
     [[nodiscard]] QVariant background(const Lap &lap, int column) const;
     [[nodiscard]] bool isRowSelected(const QModelIndex &index) const;
