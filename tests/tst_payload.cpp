@@ -60,6 +60,14 @@ private Q_SLOTS:
                        R"("dataAccelXPHComputed":null,"dataAccelYPH":0})"));
     }
 
+    // The page draws a line through all positions: it must not get one that nobody can have ridden.
+    void misplacedPoint()
+    {
+        const auto session = sessionOf(ride(u"0 10 900 30..150/10"_s));
+        QVERIFY(pointPayload(session->samples()[2]).contains(R"("dataCoordX":null,"dataCoordY":nu)"));
+        QVERIFY(!pointPayload(session->samples()[1]).contains("null"));
+    }
+
     void lap()
     {
         Points points = ride(lapRide({0}));

@@ -182,6 +182,7 @@ void ZunoAnalyzer::connectParts()
                  .arg(QFileInfo(path).fileName()));
     });
     connect(m_lapsView, &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
+    connect(m_lapsView, &LapsView::refused, this, &ZunoAnalyzer::tell);
     connect(&m_selection, &LapSelection::firstLapChanged, this,
             [this] { m_summary->showFirstLap(m_selection.first()); });
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,

@@ -6,6 +6,7 @@
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
+#include <session/idealtimetext.h>
 
 namespace zuno::cli {
 
@@ -159,7 +160,7 @@ QByteArray asSummary(const Session &session)
              session.map() != nullptr ? session.map()->name() : QStringLiteral("none found"));
     list.add(QStringLiteral("Distance"), QStringLiteral("%1 m").arg(session.results().distance));
     list.add(QStringLiteral("Best lap"), session.bestLapText());
-    list.add(QStringLiteral("Ideal time"), session.idealTimeText());
+    list.add(QStringLiteral("Ideal time"), explainedIdealTime(session));
     return list.text();
 }
 

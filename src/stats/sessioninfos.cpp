@@ -15,6 +15,7 @@
 #include <QTextEdit>
 
 #include <library/informationwriter.h>
+#include <session/idealtimetext.h>
 #include <session/session.h>
 #include <track/map.h>
 
@@ -195,6 +196,7 @@ void SessionInfos::fillLabels()
                                                  : QString());
     m_form.bestLap->setText(session != nullptr ? session->bestLapText() : QString());
     m_form.idealTime->setText(session != nullptr ? session->idealTimeText() : QString());
+    m_form.idealTime->setToolTip(session != nullptr ? missingSectionText(*session) : QString());
 }
 
 void SessionInfos::showHint(const QString &hint)

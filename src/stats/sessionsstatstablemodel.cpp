@@ -16,10 +16,19 @@ namespace zuno {
 
 namespace {
 
-QString temperatureText(const Session &session)
+// None when nobody has noted one: 20 degrees are what a session starts with.
+std::optional<qint32> temperatureOf(const Session &session)
 {
     const qint32 degrees = session.temperature();
-    return degrees == SessionInformation::UnknownTemperature ? QString() : QString::number(degrees);
+    if (degrees == SessionInformation::UnknownTemperature || !session.information().isTouched())
+        return {};
+    return degrees;
+}
+
+QString temperatureText(const Session &session)
+{
+    const auto degrees = temperatureOf(session);
+    return degrees ? QString::number(*degrees) : QString();
 }
 
 QString text(const Session &session, int column)
@@ -40,7 +49,7 @@ QString text(const Session &session, int column)
     case SessionsStatsTableModel::Event:
         return session.eventName();
     case SessionsStatsTableModel::Condition:
-        return session.condition();
+        return SessionFilter::valueOf(session, SessionFilter::Field::Condition);
     case SessionsStatsTableModel::Temperature:
         return temperatureText(session);
     case SessionsStatsTableModel::Tyres:
@@ -162,9 +171,7 @@ Value valueOf(const Session &session, int column)
     case SessionsStatsTableModel::IdealTime:
         return idealTimeOf(session);
     default:
-        return session.temperature() == SessionInformation::UnknownTemperature
-                   ? Value()
-                   : session.temperature();
+        return temperatureOf(session);
     }
 }
 

@@ -67,7 +67,7 @@ public:
         for (int gate = Line; gate < gateCount(); ++gate)
             checkPasses(gate);
         checkSpeed();
-        if (!isFound(m_samples, *m_map))
+        if (!m_cut.laps.empty() && !isFound(m_samples, *m_map))
             warn({Kind::NotFound, Line, -1, {}});
         return std::move(m_result);
     }

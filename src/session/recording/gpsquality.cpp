@@ -40,6 +40,9 @@ bool isReachable(const PointAcquisition &from, const PointAcquisition &to)
            <= ReceiverError + (FastestPerSecond * millisecondsBetween(from, to) / 1000.0);
 }
 
+// How many slips, each to another place, may follow one another.
+constexpr int SlipsInARow = 3;
+
 // Metres per second; no motorcycle comes near.
 constexpr double Impossible = 150.0;
 
@@ -71,7 +74,7 @@ bool hasSlips(std::span<const PointAcquisition> samples)
         }
         before = &sample;
     }
-    return impossible > 0 && impossible * 3 <= steps;
+    return impossible > 0 && impossible * 4 <= steps;
 }
 
 } // namespace
@@ -80,17 +83,30 @@ void markMisplaced(std::span<PointAcquisition> samples)
 {
     if (!hasSlips(samples))
         return;
-    const PointAcquisition *before = nullptr;
-    PointAcquisition *here = nullptr;
-    for (PointAcquisition &sample : samples) {
-        if (!sample.hasPosition())
-            continue;
-        if (before != nullptr && here != nullptr && isImpossible(*before, *here)
-            && isImpossible(*here, sample))
-            here->isMisplaced = true;
+    const std::size_t end = samples.size();
+    const auto next = [samples, end](std::size_t i) {
+        while (i < end && !samples[i].hasPosition())
+            ++i;
+        return i;
+    };
+    const auto isBackSoon = [&](std::size_t before, std::size_t after) {
+        for (int k = 0; k < SlipsInARow && after < end; ++k, after = next(after + 1)) {
+            if (!isImpossible(samples[before], samples[after]))
+                return true;
+        }
+        return false;
+    };
+    std::size_t before = end;
+    for (std::size_t here = next(0); here < end; here = next(here + 1)) {
+        const std::size_t after = next(here + 1);
+        const bool isSlip = before < end && after < end
+                            && isImpossible(samples[before], samples[here])
+                            && isImpossible(samples[here], samples[after])
+                            && isBackSoon(before, after);
+        if (isSlip)
+            samples[here].isMisplaced = true;
         else
             before = here;
-        here = &sample;
     }
 }
 

@@ -54,4 +54,12 @@ StoredState merged(const StoredState &base, const StoredState &mine, const Store
     return state;
 }
 
+bool SessionInformation::isTouched() const
+{
+    const SessionInformation none;
+    return !(event == none.event && driver == none.driver && vehicle == none.vehicle
+             && condition == none.condition && temperature == none.temperature
+             && tyres == none.tyres && notes == none.notes);
+}
+
 } // namespace zuno

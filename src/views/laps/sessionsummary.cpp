@@ -11,6 +11,7 @@
 
 #include <base/laptimes.h>
 #include <base/numbers.h>
+#include <session/idealtimetext.h>
 #include <session/recording/gpsquality.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
@@ -77,7 +78,7 @@ void SessionSummary::showLabels(const Session *session)
     m_w.map->setText(tr("Map : %1").arg(map->displayName()));
     m_w.mapLength->setText(
         tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
-    m_w.idealTime->setText(tr("Ideal Time : %1").arg(session->idealTimeText()));
+    m_w.idealTime->setText(tr("Ideal Time : %1").arg(explainedIdealTime(*session)));
     const QString distance
         = tr("Traveled distance : %1 m").arg(QLocale().toString(session->results().distance));
     const QString gps = gpsText(*session);
