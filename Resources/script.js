@@ -55,7 +55,7 @@ function parseCentre(text) {
 }
 
 /**
- * The position of a sample, or null when it has none: the logger writes huge numbers then.
+ * The position of a sample, or null when it has none.
  * @param {LapPoint} point
  */
 function positionOf(point) {

@@ -74,6 +74,10 @@ private Q_SLOTS:
         QCOMPARE(csv({}), Header);
         QCOMPARE(csv({point({1.5F, 2}, {3}), point({}, {0.1F})}),
                  SuspensionHeader + row + ";1,5;3" + second + ";2;" + row + ";;0,1");
+        // No position, no number; what the logger wrote by mistake is what the file says.
+        PointAcquisition lost = point();
+        lost.dataCoordX = lost.dataCoordY = NoFixCoordinate;
+        QCOMPARE(csv({lost}), Header + "\n1,2;;;100,5;0,25;-20;-0,5");
         // The first sample decides about the header, every sample about its own row.
         QCOMPARE(csv({point(), point({1})}), Header + row + row + ";1;");
         QCOMPARE(csv({point({}, {1}), point()}), SuspensionHeader + row + ";;1" + row);

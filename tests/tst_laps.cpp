@@ -136,6 +136,27 @@ private Q_SLOTS:
                  u"1 0-440 bx; 2 440-3940 cx; 3 3940-7440 cx; 4 7440-7900"_s);
     }
 
+    // Laps as "2t 500": counted twice (t), not ranked (-), the cumulated time; then the ideal time.
+    void countedTwice()
+    {
+        const auto laps = [](const QString &description, double length) {
+            const Cut cut(ride(description), 10, length, u"Time 0@200"_s);
+            QString text;
+            for (const auto &lap : cut.session->laps())
+                text += u"%1%2%3 %4; "_s.arg(lap->lapNumber())
+                            .arg(lap->isCountedTwice() ? u"t" : u"", lap->isRanked() ? u"" : u"-")
+                            .arg(lap->cumulatedTime());
+            return text += QString::number(cut.session->results().idealTime);
+        };
+        // 10 m/s: a second after the pass the rider is still in the circle, another later he is not.
+        QCOMPARE(laps(u"-120..400/1"_s, 1000), u"1 12000; 2t- 12000; 3 52000; 19999"_s);
+        // A section in a lap that is too short for the ranking.
+        QCOMPARE(laps(u"-120..400/1"_s, 4100), u"1- 12000; 2t- 12000; 3- 52000; -1"_s);
+        // Standing beside the line; what leads to the line, and on from it, is no double.
+        QCOMPARE(laps(u"-120..0/10 1*11 0 9*30"_s, 1000),
+                 u"1 1200; 2t- 2400; 3t- 5400; 4- 5400; -1"_s);
+    }
+
     // The line is met within twice the gate's size, a sector line within its size.
     void gates()
     {

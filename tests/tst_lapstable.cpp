@@ -248,6 +248,7 @@ private Q_SLOTS:
         Table table;
         QVERIFY(table.show());
         const QSignalSpy validity(&table.view, &LapsView::validityChanged);
+        const QSignalSpy refused(&table.view, &LapsView::refused);
         const QSignalSpy asked(&table.selection, &LapSelection::comparisonRequested);
         const auto press = [&table](Qt::Key key) { QTest::keyClick(&table.table, key); };
         press(Qt::Key_V);
@@ -258,7 +259,8 @@ private Q_SLOTS:
         QCOMPARE(validity.count(), 2);
         QCOMPARE(table.menu(), u"Invalidate lap|Compare this lap with...|(Export lap)"_s);
         press(Qt::Key_C);
-        press(Qt::Key_C); // A lap is not compared to itself.
+        press(Qt::Key_C); // A lap is not compared to itself, and the rider is told.
+        QCOMPARE(refused.count(), 1);
         QCOMPARE(table.selection.firstLap(), table.session->laps()[2].get());
         press(Qt::Key_R);
         QVERIFY(table.selection.firstLap() == nullptr);
@@ -271,6 +273,14 @@ private Q_SLOTS:
         QCOMPARE(asked[0][0].value<SessionLap>().lap, table.session->laps()[2].get());
         QCOMPARE(asked[0][1].value<SessionLap>().lap, table.session->laps()[1].get());
         QVERIFY(table.selection.firstLap() == nullptr);
+        const auto other = outing();
+        const MapPointer heath = circuit(u"/Heath.map"_s);
+        other->setMap(heath.get());
+        table.selection.setFirstLap(other.get(), 1);
+        press(Qt::Key_C); // Nor to one of another circuit.
+        QVERIFY(refused.count() == 2 && asked.count() == 1);
+        QVERIFY(refused[1][0].toString().contains(u"Heath"));
+        press(Qt::Key_R);
         table.selection.setCurrentLap(0);
         QVERIFY(table.table.selectionModel()->isRowSelected(0));
         table.display(nullptr);

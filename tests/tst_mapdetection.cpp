@@ -80,6 +80,25 @@ private Q_SLOTS:
         QVERIFY(!found(half));
     }
 
+    // Where no line is near the first position: 40 m/s past an outline that begins 2 km away.
+    void followsOutline()
+    {
+        const auto found = [](const QString &description, double outline = 3000) {
+            const auto map = lineMap(10, outline, {{u"Start"_s, 1500}});
+            const Points points = ride(description);
+            const QList<const Map *> candidates
+                = findCandidates(*sessionOf(points), {map.get()});
+            return candidates.size() == 1 && isFound(points, *map);
+        };
+        QVERIFY(found(u"-2000..3200/4"_s));
+        QVERIFY(!found(u"-2000..2000/4"_s)); // two thirds of a lap
+        QVERIFY(!found(u"5000..-2000/4"_s)); // the other way round
+        QVERIFY(!found(u"-2000..3200/0.2"_s)); // pushed
+        QVERIFY(found(u"-2000..600/4 -*100 1000..3200/4"_s)); // positions lost for a while
+        QVERIFY(!found(u"-2000..3200/4"_s, 90)); // no circuit
+        QVERIFY(!found(u"-2000..3200/4"_s, 200000));
+    }
+
     void choosesByLength()
     {
         // The place of the chosen one of candidates of such lengths, and the laps on it; the line
@@ -110,6 +129,10 @@ private Q_SLOTS:
         QCOMPARE(chosen(u"680x 5000"_s), u"2 4"_s);
         QCOMPARE(chosen(u"680x 700 500"_s), u"2 4"_s);
         QCOMPARE(chosen(u"680x 690x 100x"_s), u"3 0"_s);
+        // The one whose length comes nearest gives no complete lap, but another does.
+        QCOMPARE(chosen(u"700 685x"_s), u"1 4"_s);
+        QCOMPARE(chosen(u"5000 6000x 700"_s), u"3 4"_s);
+        QCOMPARE(chosen(u"900 685x"_s), u"2 0"_s);
     }
 };
 

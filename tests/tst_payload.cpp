@@ -55,9 +55,17 @@ private Q_SLOTS:
         QCOMPARE(
             pointPayload(point),
             QByteArray(R"({"acquisitionNumber":4294967295,"dataTimeStamp":1200,"dataTimeSec":1.2,)"
-                       R"("dataCoordX":3.4028234663852886e+38,"dataCoordY":-45.5,)"
+                       R"("dataCoordX":null,"dataCoordY":-45.5,)"
                        R"("dataSpeed":100,"dataAngle":-1.25e-07,"dataAccelXPH":0.1,)"
                        R"("dataAccelXPHComputed":null,"dataAccelYPH":0})"));
+    }
+
+    // The page draws a line through all positions: it must not get one that nobody can have ridden.
+    void misplacedPoint()
+    {
+        const auto session = sessionOf(ride(u"0 10 900 30..150/10"_s));
+        QVERIFY(pointPayload(session->samples()[2]).contains(R"("dataCoordX":null,"dataCoordY":nu)"));
+        QVERIFY(!pointPayload(session->samples()[1]).contains("null"));
     }
 
     void lap()

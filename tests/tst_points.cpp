@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <base/numbers.h>
+#include <session/recording/gpsquality.h>
 #include <session/recording/smoothing.h>
 #include <session/session.h>
 #include <session/sessionfile.h>
@@ -78,6 +79,33 @@ private Q_SLOTS:
         QCOMPARE(attached(10, 20), u" 0 100 0 0 0 0"_s); // a block at the end is left out
         QCOMPARE(attached(11, 21), u" 100 100 0 110 0 0"_s);
         QCOMPARE(attached(99, 0), u" 100 0 110 0 120 0"_s);
+    }
+
+    // The numbers of the samples that slipped to where nobody can have ridden, and back.
+    void slips()
+    {
+        const auto misplaced = [](const QString &description) {
+            const auto session = sessionOf(ride(description));
+            QString numbers;
+            qint64 count = 0;
+            for (const PointAcquisition &sample : session->samples()) {
+                numbers += sample.isMisplaced ? u" %1"_s.arg(sample.acquisitionNumber) : QString();
+                count += sample.isMisplaced ? 1 : 0;
+            }
+            const GpsQuality quality = gpsQuality(session->wholeSamples());
+            return quality.withoutPosition == 0 && quality.jumps >= count ? numbers : u"?"_s;
+        };
+        const QString on = u" 40..120/10"_s;
+        QCOMPARE(misplaced(u"0 10 300 30"_s + on), u" 3"_s);
+        QCOMPARE(misplaced(u"0 10 35.1 30"_s + on), u""_s); // 251 m/s there, 51 m/s on
+        QCOMPARE(misplaced(u"0 10 45.1 30"_s + on), u" 3"_s);
+        QCOMPARE(misplaced(u"0 10 24.9 10.1 20 30"_s + on), u""_s); // 149 m/s
+        QCOMPARE(misplaced(u"0 10 3000 -500 40..200/10"_s), u" 3 4"_s);
+        // It stays at the new place; the first position; a ride with the wrong clock.
+        QCOMPARE(misplaced(u"0..100/10 3000..3100/10"_s), u""_s);
+        QCOMPARE(misplaced(u"3000 0..100/10"_s), u""_s);
+        QCOMPARE(misplaced(u"0..2000/20 1980..0/20"_s), u""_s);
+        QCOMPARE(gpsQuality(ride(u"0 10 -*2 40..100/10"_s)).withoutPosition, 2);
     }
 
     // A ride must come out of every release and machine with the same bits.

@@ -64,7 +64,11 @@ private Q_SLOTS:
             QVERIFY2(checkMap(samples, proposal.draft).warnings.isEmpty(), qPrintable(name));
             // Lap 3 at Road America ends in the pit lane, beside the line of that map.
             const MapDraft given = MapDraft::of(*opened.session->map());
-            QCOMPARE(checkMap(samples, given).warnings.size(), name[0] == u'r' ? 2 : 0);
+            QList<MapWarning> warnings = checkMap(samples, given).warnings;
+            warnings.removeIf([](const MapWarning &warning) {
+                return warning.kind == MapWarning::Kind::SlowPass;
+            });
+            QCOMPARE(warnings.size(), name[0] == u'r' ? 2 : 0);
         }
     }
 };

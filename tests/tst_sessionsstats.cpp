@@ -128,6 +128,20 @@ private Q_SLOTS:
                  u"3/5/2026 - 10:11|Hill|01:02.003|01:01.001|R6|Ann|Cup|Wet|||0"_s);
     }
 
+    // What a session starts with is nothing that somebody entered.
+    void untouched()
+    {
+        Session session(u"ride.ra1"_s);
+        const SessionsStatsTableModel model({&session});
+        const auto texts = [&model] {
+            return model.index(0, Column::Condition).data().toString()
+                   + model.index(0, Column::Temperature).data().toString();
+        };
+        QCOMPARE(texts(), u""_s);
+        session.setDriver(u"Ann"_s);
+        QCOMPARE(texts(), u"Dry20"_s);
+    }
+
     void boxEntries()
     {
         for (const auto &[toggled, result] :

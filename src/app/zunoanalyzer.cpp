@@ -161,6 +161,7 @@ void ZunoAnalyzer::connectParts()
                  .arg(QFileInfo(path).fileName()));
     });
     connect(&m_laps->table(), &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
+    connect(&m_laps->table(), &LapsView::refused, this, &ZunoAnalyzer::tell);
     connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
             [this] { m_display.setCompared(m_selection.firstSession()); });
     auto *exports = new ExportDialogs(this);

@@ -6,6 +6,7 @@
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
+#include <session/idealtimetext.h>
 
 namespace zuno::cli {
 
@@ -50,6 +51,8 @@ void writeLap(JsonWriter &json, const Lap &lap, int sectors)
     json.member("cumulatedTime", lap.cumulatedTime());
     json.member("distance", lap.distance());
     json.member("complete", lap.isComplete());
+    if (lap.isCountedTwice())
+        json.member("countedTwice", true);
     json.member("valid", lap.isValid());
     json.member("best", lap.isBest());
     json.member("maxSpeed", lap.maxSpeed());
@@ -105,11 +108,18 @@ QByteArray asJson(const Session &session)
     return json.text() + '\n';
 }
 
+QString typeText(const Lap &lap)
+{
+    if (lap.isCountedTwice())
+        return QStringLiteral("counted twice");
+    return lap.isComplete() ? QStringLiteral("complete") : QStringLiteral("incomplete");
+}
+
 QStringList lapRow(const Lap &lap, int sectors)
 {
     QStringList row {
         QString::number(lap.lapNumber()) + (lap.isBest() ? u"*" : u""),
-        lap.isComplete() ? QStringLiteral("complete") : QStringLiteral("incomplete"),
+        typeText(lap),
         lap.isValid() ? QString() : QStringLiteral("thrown out"),
         lap.timeText(),
         timeText(lap.cumulatedTime()),
@@ -150,7 +160,7 @@ QByteArray asSummary(const Session &session)
              session.map() != nullptr ? session.map()->name() : QStringLiteral("none found"));
     list.add(QStringLiteral("Distance"), QStringLiteral("%1 m").arg(session.results().distance));
     list.add(QStringLiteral("Best lap"), session.bestLapText());
-    list.add(QStringLiteral("Ideal time"), session.idealTimeText());
+    list.add(QStringLiteral("Ideal time"), explainedIdealTime(session));
     return list.text();
 }
 

@@ -34,6 +34,8 @@ constexpr KindName KindNames[] = {
     {MapWarning::Kind::NoLapComplete, "noLapComplete"},
     {MapWarning::Kind::LastNotOnLine, "lastNotOnLine"},
     {MapWarning::Kind::TooManyPoints, "tooManyPoints"},
+    {MapWarning::Kind::NotFound, "notFound"},
+    {MapWarning::Kind::SlowPass, "slowPass"},
 };
 
 QString kindName(MapWarning::Kind kind)
@@ -62,6 +64,8 @@ void writeWarning(JsonWriter &json, const MapWarning &warning)
     json.member("point", warning.point);
     json.member("otherPoint", warning.otherPoint);
     writeNumbers(json, "laps", warning.laps);
+    if (warning.speed > 0)
+        json.member("speed", warning.speed);
     json.member("text", warningText(warning));
     json.endObject();
 }

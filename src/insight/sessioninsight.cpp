@@ -143,7 +143,7 @@ CircuitRing::Way wayAround(const Map &map, const Lap &lap)
     const std::size_t step = std::max<std::size_t>(lap.points().size() / WaySamples, 1);
     for (std::size_t i = 0; i < lap.points().size(); i += step) {
         const PointAcquisition &point = lap.points()[i];
-        if (point.dataCoordX == NoFixCoordinate)
+        if (!point.hasPosition())
             continue;
         const double here = ring.nearest(ring.place(point.dataCoordY, point.dataCoordX)).along;
         forwards += ring.wrapped(here - last) < ring.length() / 2.0 ? 1 : -1;

@@ -54,8 +54,11 @@ private:
         return m_locale.toString(value, 'g', 6).replace(u'.', u',');
     }
 
+    // Empty without a position.
     [[nodiscard]] QString coordinate(double value) const
     {
+        if (value == NoFixCoordinate)
+            return {};
         return m_locale.toString(value, 'f', CoordinateDecimals).replace(u'.', u',');
     }
 

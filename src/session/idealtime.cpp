@@ -28,7 +28,7 @@ void IdealTime::add(const Session &session)
     m_sectors.resize(static_cast<std::size_t>(map->sectorCount()));
     addSectors(session);
     for (const auto &lap : session.laps()) {
-        if (lap->isValid() && lap->isComplete())
+        if (lap->isValid() && lap->isRanked() && lap->isComplete())
             addLap({&session, lap.get()});
     }
     for (std::size_t i = 1; i < session.laps().size(); ++i)

@@ -9,6 +9,7 @@
 
 #include <base/laptimes.h>
 #include <base/memory.h>
+#include <session/recording/gpsquality.h>
 #include <session/recording/smoothing.h>
 #include <track/map.h>
 
@@ -34,6 +35,7 @@ void Session::fetchSamples() const
     m_fetched = true;
     if (m_sampleSource)
         guard([this] { m_samples = m_sampleSource(); });
+    markMisplaced(std::span(m_samples.points).first(wholeCount(m_samples.points)));
 }
 
 // Half of the samples, or samples that are not smoothed, would show what is not so.
@@ -45,6 +47,11 @@ void Session::guard(const std::function<void()> &work) const
     m_samples = {};
 }
 
+std::size_t Session::wholeCount(const Points &points) const
+{
+    return std::min(points.size(), static_cast<std::size_t>(m_recording.wholeSampleCount));
+}
+
 const Points &Session::samples() const
 {
     fetchSamples();
@@ -53,8 +60,8 @@ const Points &Session::samples() const
 
 std::span<const PointAcquisition> Session::wholeSamples() const
 {
-    const std::span<const PointAcquisition> all(samples());
-    return all.first(std::min(all.size(), static_cast<std::size_t>(m_recording.wholeSampleCount)));
+    const Points &all = samples();
+    return std::span(all).first(wholeCount(all));
 }
 
 const ReadingLists &Session::readingLists() const
@@ -104,7 +111,8 @@ StoredText Session::bestLapStored() const
 
 StoredText Session::idealTimeStored() const
 {
-    if (laps().empty())
+    // On a map that it never passes the line of it has none, whatever the file says of another map.
+    if (laps().empty() && (m_map == nullptr || m_released))
         return m_information.idealTimeText;
     return StoredText(timeText(m_results.idealTime));
 }

@@ -136,6 +136,7 @@ Q_SIGNALS:
 
 private:
     void fetchSamples() const;
+    [[nodiscard]] std::size_t wholeCount(const Points &points) const;
     void flagLaps();
     void guard(const std::function<void()> &work) const;
 

@@ -23,7 +23,8 @@ QString SessionFilter::valueOf(const Session &session, Field field)
     case Field::Event:
         return session.eventName();
     case Field::Condition:
-        return session.condition();
+        // "Dry" is what a session starts with, which says nothing about the track.
+        return session.information().isTouched() ? session.condition() : QString();
     }
     return {};
 }

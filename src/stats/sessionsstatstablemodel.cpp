@@ -21,10 +21,19 @@ QString dateText(const Session &session)
     return session.recording().date + QStringLiteral(" - ") + session.recording().time;
 }
 
-QString temperatureText(const Session &session)
+// None when nobody has noted one: 20 degrees are what a session starts with.
+std::optional<qint32> temperatureOf(const Session &session)
 {
     const qint32 degrees = session.temperature();
-    return degrees == SessionInformation::UnknownTemperature ? QString() : QString::number(degrees);
+    if (degrees == SessionInformation::UnknownTemperature || !session.information().isTouched())
+        return {};
+    return degrees;
+}
+
+QString temperatureText(const Session &session)
+{
+    const auto degrees = temperatureOf(session);
+    return degrees ? QString::number(*degrees) : QString();
 }
 
 /// What a cell is sorted by; none for a cell that is no value.
@@ -82,7 +91,7 @@ Value bestLapOf(const Session &session)
 Value idealTimeOf(const Session &session)
 {
     if (session.laps().empty())
-        return lapTimeOf(session.information().idealTimeText.text());
+        return lapTimeOf(session.idealTimeText());
     return timeOrNone(session.results().idealTime);
 }
 
@@ -121,10 +130,10 @@ Value dateAndTimeOf(const Session &session)
     return date.toJulianDay() * Day + clockTimeOf(recording.time).msecsSinceStartOfDay();
 }
 
-Value temperatureOf(const Session &session)
+Value temperatureValue(const Session &session)
 {
-    const qint32 degrees = session.temperature();
-    return degrees == SessionInformation::UnknownTemperature ? Value() : degrees;
+    const auto degrees = temperatureOf(session);
+    return degrees ? Value(*degrees) : Value();
 }
 
 /// What a column shows of a session, and by what it is sorted; in the order of
@@ -154,9 +163,11 @@ constexpr std::array Table {
     ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Event"),
                  [](const Session &session) { return session.eventName(); }},
     ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Track condition"),
-                 [](const Session &session) { return session.condition(); }},
+                 [](const Session &session) {
+                     return SessionFilter::valueOf(session, SessionFilter::Field::Condition);
+                 }},
     ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Track temperature"),
-                 temperatureText, temperatureOf},
+                 temperatureText, temperatureValue},
     ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Tires"),
                  [](const Session &session) { return session.tyres(); }},
     ColumnEntry {QT_TRANSLATE_NOOP("zuno::SessionsStatsTableModel", "Notes"),

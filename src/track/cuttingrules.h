@@ -27,11 +27,27 @@ inline constexpr double LengthTolerance = 0.1;
     return std::fabs(distance - length) < LengthTolerance * length;
 }
 
+/// Milliseconds and a part of a circuit's length: what leads from the line to the line in less is no
+/// lap, but the same pass once more, or somebody who stands beside the line.
+inline constexpr int ShortestLapTime = 10000;
+inline constexpr double ShortestLapPart = 0.1;
+
 /// Whether so many metres are more than once around: who comes back to the line only then has
 /// missed it in between.
 [[nodiscard]] inline bool isMoreThanOnce(double distance, double length)
 {
     return distance > 1.5 * length;
+}
+
+/// How much slower riders may be at the line on another day, as a part of their speed.
+inline constexpr double SlowDay = 0.5;
+
+/// Metres per second at a line below which one pass may count twice: the rider is still inside the
+/// circle after the pause. @p gateSize in metres, @p interval in seconds from sample to sample. The
+/// closest sample lies up to half a step before the line.
+[[nodiscard]] inline double leastSpeed(double gateSize, double interval)
+{
+    return LineReach * gateSize / ((PassPause - 0.5) * interval);
 }
 
 /// Sees the passes of gates, sample by sample.

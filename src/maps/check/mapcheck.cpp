@@ -9,8 +9,10 @@
 #include <optional>
 #include <utility>
 
+#include <base/numbers.h>
 #include <maps/check/gatecrossing.h>
 #include <maps/check/passcheck.h>
+#include <maps/detection/mapdetection.h>
 #include <session/laps/lapcutter.h>
 #include <session/recording/trace.h>
 #include <track/cuttingrules.h>
@@ -64,6 +66,9 @@ public:
         checkTouching();
         for (int gate = Line; gate < gateCount(); ++gate)
             checkPasses(gate);
+        checkSpeed();
+        if (!m_cut.laps.empty() && !isFound(m_samples, *m_map))
+            warn({Kind::NotFound, Line, -1, {}});
         return std::move(m_result);
     }
 
@@ -281,6 +286,20 @@ private:
             warn(second);
         if (!otherWay.laps.isEmpty())
             warn(otherWay);
+    }
+
+    // Whether slower days are in danger of passes that count twice.
+    void checkSpeed()
+    {
+        std::vector<double> speeds;
+        for (const GateCrossing &crossing : crossingsOf(Line))
+            speeds.push_back(crossing.speed);
+        const double least = leastSpeed(m_draft.gateSize, usualInterval(m_samples));
+        if (speeds.empty() || !(median(speeds) * SlowDay < least))
+            return;
+        MapWarning warning {Kind::SlowPass, Line, -1, {}};
+        warning.speed = static_cast<int>(std::ceil(least * 3.6));
+        warn(warning);
     }
 
     // Whether the outline comes through a gate at another place than where the gate stands.

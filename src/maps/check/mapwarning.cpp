@@ -45,7 +45,7 @@ QString lapsText(const QList<int> &laps)
     return translated(text).arg(numbers.join(QStringLiteral(", ")));
 }
 
-// %1 is the gate, %2 the second gate, %3 the laps.
+// %1 is the gate, %2 the second gate, %3 the laps, %4 the sections, %5 the speed.
 const char *pattern(const MapWarning &warning)
 {
     switch (warning.kind) {
@@ -91,6 +91,16 @@ const char *pattern(const MapWarning &warning)
         return QT_TRANSLATE_NOOP("zuno::MapWarning",
                                  "A lap has room for %4 sections; timing points after %1 are left "
                                  "out.");
+    case Kind::NotFound:
+        return QT_TRANSLATE_NOOP("zuno::MapWarning",
+                                 "The map would not be found for this session by itself: the line "
+                                 "is more than 1 km from where the recording begins, and the ride "
+                                 "does not follow the outline. Choose the map with \"Maps\".");
+    case Kind::SlowPass:
+        return QT_TRANSLATE_NOOP("zuno::MapWarning",
+                                 "A pass of the line below %5 km/h counts twice, as on a wet or "
+                                 "slow day. Make the gate smaller or move the line to where "
+                                 "everybody is fast.");
     }
     return "";
 }
@@ -105,6 +115,7 @@ QString warningText(const MapWarning &warning)
     text.replace(QStringLiteral("%2"), gateName(warning.otherPoint));
     text.replace(QStringLiteral("%3"), lapsText(warning.laps));
     text.replace(QStringLiteral("%4"), QLocale().toString(warning.point));
+    text.replace(QStringLiteral("%5"), QLocale().toString(warning.speed));
     return text;
 }
 

@@ -24,6 +24,8 @@ struct MapWarning
         NoLapComplete, ///< No lap is as long as the outline.
         LastNotOnLine, ///< The last timing point is not on the line: the rest of a lap has no time.
         TooManyPoints, ///< More timing points than a lap has sectors.
+        NotFound, ///< The program would not find the map for the session by itself.
+        SlowPass, ///< Who passes the line at less than half this session's speed is counted twice.
     };
 
     Kind kind {};
@@ -33,6 +35,8 @@ struct MapWarning
     int otherPoint = -1;
     /// The numbers of the laps concerned.
     QList<int> laps;
+    /// Whole km/h at the line; 0 where no speed is meant.
+    int speed = 0;
 
     friend bool operator==(const MapWarning &, const MapWarning &) = default;
 };

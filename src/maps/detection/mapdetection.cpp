@@ -3,10 +3,13 @@
 
 #include <maps/detection/mapdetection.h>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include <base/numbers.h>
+#include <maps/detection/outlinefollower.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
 #include <session/session.h>
@@ -21,21 +24,19 @@ constexpr qint64 DetectionReach = 1000;
 constexpr qint64 ClearlyCloser = 500;
 
 // The start of the ride. Only the marker of a missing fix is passed over.
-QGeoCoordinate firstPosition(const Session &session)
+QGeoCoordinate firstPosition(std::span<const PointAcquisition> samples)
 {
-    for (const PointAcquisition &point : session.samples()) {
+    for (const PointAcquisition &point : samples) {
         if (point.dataCoordY != NoFixCoordinate && point.dataCoordX != NoFixCoordinate)
             return positionOf(point);
     }
     return {};
 }
 
-} // namespace
-
-QList<const Map *> findCandidates(const Session &session, const QList<const Map *> &maps)
+// The maps near the first position.
+QList<const Map *> nearCandidates(const QGeoCoordinate &position, const QList<const Map *> &maps)
 {
     QList<const Map *> candidates;
-    const QGeoCoordinate position = firstPosition(session);
     qint64 best = std::numeric_limits<qint32>::max();
     for (const Map *map : maps) {
         const qint64 distance = truncatedToInt(position.distanceTo(map->startPoint()));
@@ -51,14 +52,26 @@ QList<const Map *> findCandidates(const Session &session, const QList<const Map 
     return candidates;
 }
 
-MapCandidates candidatesOf(const Session &session, const MapLibrary &maps, const QString &choice)
+// The maps whose outline is followed, wherever the ride began.
+QList<const Map *> followedCandidates(std::span<const PointAcquisition> samples,
+                                      const QList<const Map *> &maps)
 {
-    if (const Map *stored = choice.isEmpty() ? nullptr : maps.find(choice))
-        return {{stored}, true};
-    return {findCandidates(session, maps.maps()), false};
+    QList<const Map *> candidates;
+    if (maps.isEmpty())
+        return candidates;
+    const OutlineFollower ride(samples);
+    std::copy_if(maps.begin(), maps.end(), std::back_inserter(candidates),
+                 [&ride](const Map *map) { return map->isUsable() && ride.follows(*map); });
+    return candidates;
 }
 
-void chooseMapByLength(Session &session, QList<const Map *> candidates)
+qsizetype completeLaps(const LapList &laps)
+{
+    return std::count_if(laps.begin(), laps.end(),
+                         [](const auto &lap) { return lap->isComplete(); });
+}
+
+void chooseByLength(Session &session, QList<const Map *> candidates)
 {
     if (candidates.isEmpty()) {
         session.setMap(nullptr);
@@ -89,7 +102,54 @@ void chooseMapByLength(Session &session, QList<const Map *> candidates)
     session.setMap(chosen);
     session.rankLaps();
     if (!hasWholeLap)
-        chooseMapByLength(session, candidates);
+        chooseByLength(session, candidates);
+}
+
+// Of the layouts of a place one that gives complete laps, where the chosen one gives none.
+void preferComplete(Session &session, const QList<const Map *> &candidates)
+{
+    if (candidates.size() < 2 || completeLaps(session.laps()) > 0)
+        return;
+    const Map *best = nullptr;
+    qsizetype most = 0;
+    for (const Map *map : candidates) {
+        const qsizetype complete = completeLaps(
+            cutIntoLaps(session.wholeSamples(), *map, session.invalidLaps()).laps);
+        if (complete > most) {
+            most = complete;
+            best = map;
+        }
+    }
+    if (best != nullptr)
+        session.setMap(best);
+}
+
+} // namespace
+
+QList<const Map *> findCandidates(const Session &session, const QList<const Map *> &maps)
+{
+    const QList<const Map *> near = nearCandidates(firstPosition(session.samples()), maps);
+    return near.isEmpty() ? followedCandidates(session.wholeSamples(), maps) : near;
+}
+
+bool isFound(std::span<const PointAcquisition> samples, const Map &map)
+{
+    const QList<const Map *> maps {&map};
+    return !nearCandidates(firstPosition(samples), maps).isEmpty()
+           || !followedCandidates(samples, maps).isEmpty();
+}
+
+MapCandidates candidatesOf(const Session &session, const MapLibrary &maps, const QString &choice)
+{
+    if (const Map *stored = choice.isEmpty() ? nullptr : maps.find(choice))
+        return {{stored}, true};
+    return {findCandidates(session, maps.maps()), false};
+}
+
+void chooseMapByLength(Session &session, const QList<const Map *> &candidates)
+{
+    chooseByLength(session, candidates);
+    preferComplete(session, candidates);
 }
 
 } // namespace zuno

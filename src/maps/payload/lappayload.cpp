@@ -3,6 +3,8 @@
 
 #include <maps/payload/lappayload.h>
 
+#include <optional>
+
 #include <base/jsonwriter.h>
 #include <session/laps/lap.h>
 #include <session/session.h>
@@ -15,7 +17,14 @@ namespace {
 void writePoint(JsonWriter &json, const PointAcquisition &point)
 {
     json.beginObject();
-    writePointMembers(json, point, SpeedForm::Rounded);
+    if (point.isMisplaced) {
+        // The page draws a line through all it gets.
+        PointAcquisition lost = point;
+        lost.dataCoordX = lost.dataCoordY = NoFixCoordinate;
+        writePointMembers(json, lost, SpeedForm::Rounded);
+    } else {
+        writePointMembers(json, point, SpeedForm::Rounded);
+    }
     json.endObject();
 }
 
@@ -83,6 +92,11 @@ QByteArray payload(const Drawing &drawing)
     return json.text();
 }
 
+std::optional<double> coordinate(double value)
+{
+    return value == NoFixCoordinate ? std::nullopt : std::optional(value);
+}
+
 } // namespace
 
 void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedForm speed)
@@ -90,8 +104,8 @@ void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedFor
     json.member("acquisitionNumber", point.acquisitionNumber);
     json.member("dataTimeStamp", point.dataTimeStamp);
     json.member("dataTimeSec", point.dataTimeSec);
-    json.member("dataCoordX", point.dataCoordX);
-    json.member("dataCoordY", point.dataCoordY);
+    json.member("dataCoordX", coordinate(point.dataCoordX));
+    json.member("dataCoordY", coordinate(point.dataCoordY));
     if (speed == SpeedForm::Rounded)
         json.member("dataSpeed", point.roundedSpeed());
     else

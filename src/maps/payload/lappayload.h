@@ -16,7 +16,8 @@ class PointAcquisition;
 /// How the speed stands in a point object: as a number, or to the nearest km/h.
 enum class SpeedForm { Exact, Rounded };
 
-/// Writes the ten keys of a sample, without the braces, so that more can follow.
+/// Writes the ten keys of a sample, without the braces, so that more can follow. What is no
+/// coordinate is null.
 void writePointMembers(JsonWriter &json, const PointAcquisition &point, SpeedForm speed);
 
 /// The JSON text of one sample as the map page reads it, its speed rounded.

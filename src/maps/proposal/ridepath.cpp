@@ -87,17 +87,6 @@ void closeJumps(LapPath &path)
     }
 }
 
-// Seconds.
-double usualInterval(std::span<const PointAcquisition> samples)
-{
-    std::vector<double> intervals;
-    for (std::size_t i = 1; i < samples.size(); ++i) {
-        if (samples[i].dataTimeStamp > samples[i - 1].dataTimeStamp)
-            intervals.push_back(samples[i].dataTimeStamp - samples[i - 1].dataTimeStamp);
-    }
-    return intervals.empty() ? 0.1 : median(std::move(intervals)) / 1000.0;
-}
-
 } // namespace
 
 RidePath::RidePath(std::span<const PointAcquisition> samples)

@@ -55,6 +55,8 @@ public:
     void setIsComplete(bool complete) { m_isComplete = complete; }
     void setEndsAtLine(bool ends) { m_endsAtLine = ends; }
     void setIsValid(bool valid) { m_isValid = valid; }
+    void setIsRanked(bool ranked) { m_isRanked = ranked; }
+    void setIsCountedTwice(bool twice) { m_isCountedTwice = twice; }
     void setCumulatedTime(quint32 milliseconds) { m_cumulatedTime = milliseconds; }
     void setBestSector(int sector, bool best);
     void setMarks(QList<Mark> marks) { m_marks = std::move(marks); }
@@ -65,7 +67,8 @@ public:
     /// Milliseconds from the first sample to the last.
     [[nodiscard]] qint32 lapTime() const { return m_lapTime; }
     [[nodiscard]] QString timeText() const;
-    /// Milliseconds: the lap times of this lap and of all before it.
+    /// Milliseconds: the lap times of this lap and of all before it; never less than that of the
+    /// lap before.
     [[nodiscard]] quint32 cumulatedTime() const { return m_cumulatedTime; }
     /// Metres.
     [[nodiscard]] double distance() const { return m_distance; }
@@ -78,6 +81,10 @@ public:
     [[nodiscard]] bool endsAtLine() const { return m_endsAtLine; }
     /// Whether the rider has not thrown it out.
     [[nodiscard]] bool isValid() const { return m_isValid; }
+    /// Whether it is long enough, and lasted at all, to hold a record or a section's best time.
+    [[nodiscard]] bool isRanked() const { return m_isRanked; }
+    /// Whether it is no lap, but one pass of the line that was counted twice.
+    [[nodiscard]] bool isCountedTwice() const { return m_isCountedTwice; }
 
     /// km/h; degrees (left is the smallest angle); G.
     [[nodiscard]] qint32 maxSpeed() const { return m_maxSpeed; }
@@ -151,6 +158,8 @@ private:
     bool m_isComplete = false;
     bool m_endsAtLine = false;
     bool m_isValid = true;
+    bool m_isRanked = true;
+    bool m_isCountedTwice = false;
 };
 
 } // namespace zuno

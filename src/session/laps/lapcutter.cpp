@@ -135,17 +135,30 @@ private:
     PassScan m_scan;
 };
 
+// Tells what is a lap from what only passing the line twice, or standing there, has made.
+void judgeLap(Lap &lap, double length)
+{
+    const bool isShort = lap.distance() < ShortestLapPart * length;
+    lap.setIsRanked(lap.lapTime() > 0 && !isShort);
+    const bool isFromLineToLine = lap.startsAtLine() && lap.endsAtLine() && !lap.isComplete();
+    const bool isBrief = isShort || lap.lapTime() < ShortestLapTime;
+    lap.setIsCountedTwice(lap.lapTime() < 0 || (isFromLineToLine && isBrief));
+}
+
 void rankLapTimes(LapResults &results)
 {
     qint32 best = LapResults::NoTime;
-    quint32 cumulated = 0;
+    qint64 sum = 0;
+    qint64 cumulated = 0;
     results.bestLap = 0;
     for (std::size_t i = 0; i < results.laps.size(); ++i) {
         Lap &lap = *results.laps[i];
         lap.setIsBest(false);
-        cumulated += static_cast<quint32>(lap.lapTime());
-        lap.setCumulatedTime(cumulated);
-        if (lap.isComplete() && lap.isValid() && lap.lapTime() < best) {
+        // A pass that counts twice may take back a little time.
+        sum += lap.lapTime();
+        cumulated = std::max(cumulated, sum);
+        lap.setCumulatedTime(static_cast<quint32>(cumulated));
+        if (lap.isComplete() && lap.isValid() && lap.isRanked() && lap.lapTime() < best) {
             best = lap.lapTime();
             results.bestLap = static_cast<qint32>(i);
         }
@@ -162,7 +175,7 @@ void rankSector(LapResults &results, int sector)
         Lap &lap = *results.laps[i];
         lap.setBestSector(sector, false);
         const qint32 time = lap.sectorTime(sector);
-        if (lap.isValid() && time != -1 && time < results.bestSectorTimes[s]) {
+        if (lap.isValid() && lap.isRanked() && time != -1 && time < results.bestSectorTimes[s]) {
             results.bestSectorTimes[s] = time;
             results.bestSectorLaps[s] = static_cast<qint32>(i);
         }
@@ -195,6 +208,8 @@ LapResults cutIntoLaps(std::span<const PointAcquisition> samples, const Map &map
 
 void rankLaps(LapResults &results, const Map *map)
 {
+    for (const auto &lap : results.laps)
+        judgeLap(*lap, map != nullptr ? map->length() : 0.0);
     rankLapTimes(results);
     results.bestSectorTimes.fill(LapResults::NoTime);
     results.bestSectorLaps.fill(-1);

@@ -46,7 +46,8 @@ struct LapResults
                                      const QList<quint8> &invalid);
 
 /// Computes cumulated times, best lap, best sectors and ideal time from the laps and their flags.
-/// @p map gives the number of sectors.
+/// @p map gives the number of sectors. Laps shorter than a tenth of the map's length, or of a time
+/// of 0 or less, take no part.
 void rankLaps(LapResults &results, const Map *map);
 
 } // namespace zuno

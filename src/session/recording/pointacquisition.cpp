@@ -34,6 +34,13 @@ void SuspensionChannel::add(const Reading *first, std::size_t count)
     mean = sum / 10.0F;
 }
 
+bool PointAcquisition::hasPosition() const
+{
+    // False for what is not a number.
+    return !isMisplaced && dataCoordY >= -90.0 && dataCoordY <= 90.0 && dataCoordX >= -180.0
+           && dataCoordX <= 180.0;
+}
+
 qint32 PointAcquisition::roundedSpeed() const
 {
     return roundedToInt(dataSpeed);

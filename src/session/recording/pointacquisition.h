@@ -72,7 +72,12 @@ public:
     /// late and its lowest values are up to 3 km/h too low: whatever tells where somebody braked,
     /// or how slow he was, takes this one.
     float rawSpeed = 0.0F;
+    /// Nobody can have ridden to the position, nor on from it (markMisplaced()): the sample counts
+    /// as one without a position.
+    bool isMisplaced = false;
 
+    /// Whether the coordinates say a place on Earth that can be believed.
+    [[nodiscard]] bool hasPosition() const;
     /// `dataSpeed` and `dataAngle` to the nearest integer, halves away from zero.
     [[nodiscard]] qint32 roundedSpeed() const;
     [[nodiscard]] qint32 roundedAngle() const;

@@ -110,4 +110,12 @@ ReplacedTyping replacedBy(const StoredState &base, const StoredState &mine,
     return replaced;
 }
 
+bool SessionInformation::isTouched() const
+{
+    const SessionInformation none;
+    return !(event == none.event && driver == none.driver && vehicle == none.vehicle
+             && condition == none.condition && temperature == none.temperature
+             && tyres == none.tyres && notes == none.notes);
+}
+
 } // namespace zuno

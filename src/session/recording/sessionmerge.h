@@ -30,6 +30,10 @@ struct SessionInformation
     StoredText notes;
     QList<quint8> invalidLaps;
 
+    /// Whether the rider, or the logger, has said anything about the ride. Before, the track's
+    /// condition and temperature are nothing but what they are taken for.
+    [[nodiscard]] bool isTouched() const;
+
     friend bool operator==(const SessionInformation &, const SessionInformation &) = default;
 };
 

@@ -9,7 +9,8 @@ namespace zuno {
 
 QGeoCoordinate positionOf(const PointAcquisition &point)
 {
-    return {point.dataCoordY, point.dataCoordX};
+    return point.hasPosition() ? QGeoCoordinate(point.dataCoordY, point.dataCoordX)
+                               : QGeoCoordinate();
 }
 
 Trace::Trace(std::span<const PointAcquisition> points)
@@ -28,6 +29,16 @@ std::size_t Trace::next(std::size_t i) const
             return j;
     }
     return None;
+}
+
+double usualInterval(std::span<const PointAcquisition> samples)
+{
+    std::vector<double> intervals;
+    for (std::size_t i = 1; i < samples.size(); ++i) {
+        if (samples[i].dataTimeStamp > samples[i - 1].dataTimeStamp)
+            intervals.push_back(samples[i].dataTimeStamp - samples[i - 1].dataTimeStamp);
+    }
+    return intervals.empty() ? 0.1 : median(std::move(intervals)) / 1000.0;
 }
 
 PointAcquisition crossingPoint(const PointAcquisition &p1, const PointAcquisition &p2,

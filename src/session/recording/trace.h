@@ -13,7 +13,8 @@
 
 namespace zuno {
 
-/// Where a sample was taken; an invalid coordinate for a sample without a position.
+/// Where a sample was taken; an invalid coordinate for a sample without a position, or with
+/// one that nobody can have ridden to.
 [[nodiscard]] QGeoCoordinate positionOf(const PointAcquisition &point);
 
 /// The positions of consecutive samples, computed once.
@@ -33,6 +34,9 @@ public:
 private:
     std::vector<QGeoCoordinate> m_positions;
 };
+
+/// Seconds from sample to sample, as a rule; a tenth when no time passes.
+[[nodiscard]] double usualInterval(std::span<const PointAcquisition> samples);
 
 /// The point between @p p1 and @p p2 at which @p centre projects onto their segment: a copy of
 /// @p p1 with the interpolated position and time stamp, and the whole seconds of @p p1.

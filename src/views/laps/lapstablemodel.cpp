@@ -67,10 +67,7 @@ std::span<const LapsTableModel::Column> LapsTableModel::columns()
         Column {QT_TR_NOOP("Lap"),
                 [](const Lap &lap) { return QString::number(lap.lapNumber()); },
                 {}},
-        Column {
-            QT_TR_NOOP("Type"),
-            [](const Lap &lap) { return lap.isComplete() ? tr("Complete") : tr("Incomplete"); },
-            Setting::ShowLapType},
+        Column {QT_TR_NOOP("Type"), typeText, Setting::ShowLapType},
         Column {QT_TR_NOOP("Cumulated time"),
                 [](const Lap &lap) { return timeText(lap.cumulatedTime()); },
                 Setting::ShowCumulatedTime},
@@ -193,10 +190,19 @@ QString LapsTableModel::text(const Lap &lap, int column)
     return figure != nullptr ? figure->text(lap) : timeText(lap.sectorTime(sectionOf(column)));
 }
 
+QString LapsTableModel::typeText(const Lap &lap)
+{
+    if (lap.isCountedTwice())
+        return tr("Counted twice");
+    return lap.isComplete() ? tr("Complete") : tr("Incomplete");
+}
+
 LapsTableModel::Distinction LapsTableModel::distinctionOf(const Lap &lap, int column)
 {
     if (!lap.isValid())
         return Distinction::Invalid;
+    if (lap.isCountedTwice())
+        return Distinction::None;
     const Column *figure = columnAt(column);
     if (figure == nullptr)
         return lap.isBestSector(sectionOf(column)) ? Distinction::BestSection : Distinction::None;

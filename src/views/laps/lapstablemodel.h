@@ -71,6 +71,7 @@ private:
     [[nodiscard]] static const Column *columnAt(int column);
     [[nodiscard]] const Lap &lapAt(const QModelIndex &index) const;
     [[nodiscard]] static QString text(const Lap &lap, int column);
+    [[nodiscard]] static QString typeText(const Lap &lap);
     [[nodiscard]] static Distinction distinctionOf(const Lap &lap, int column);
     [[nodiscard]] static QVariant background(const Lap &lap, int column);
     [[nodiscard]] bool isRowSelected(const QModelIndex &index) const;

@@ -134,7 +134,8 @@ void LapsView::updateActions()
                                       : QStringLiteral(":/Resources/check.png")));
     m_validity->setEnabled(lap != nullptr);
     m_compare->setText(hasFirst ? tr("Compare to this lap") : tr("Compare this lap with..."));
-    m_compare->setEnabled(lap != nullptr && (!hasFirst || isSecondLap()));
+    // Also where it does nothing but say why.
+    m_compare->setEnabled(lap != nullptr);
     m_reselect->setEnabled(hasFirst);
     m_export->setEnabled(lap != nullptr
                          && isSignalConnected(QMetaMethod::fromSignal(&LapsView::exportRequested)));
@@ -184,6 +185,12 @@ void LapsView::compare()
     } else if (isSecondLap()) {
         Q_EMIT m_selection.comparisonRequested(first, lap);
         m_selection.clearFirstLap();
+    } else if (first == lap) {
+        Q_EMIT refused(tr("This is the first lap itself; choose another one to compare it with."));
+    } else {
+        Q_EMIT refused(tr("Only laps of the same map are compared; the first lap was ridden on "
+                          "\"%1\".")
+                           .arg(first.map()->displayName()));
     }
 }
 

@@ -38,6 +38,8 @@ public:
 Q_SIGNALS:
     /// The rider threw a lap out or took it back.
     void validityChanged(zuno::Session *session);
+    /// Why a lap is not compared, in plain words.
+    void refused(const QString &reason);
     void exportRequested(const zuno::SessionLap &lap);
     /// The rider clicked a sector of the current lap; counts from 0.
     void sectorChosen(int sector);

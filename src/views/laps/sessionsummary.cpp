@@ -7,6 +7,7 @@
 #include <QLocale>
 
 #include <session/recording/gpsquality.h>
+#include <session/idealtimetext.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
 #include <track/map.h>
@@ -54,7 +55,7 @@ QString SessionSummary::reasonForNoLaps(const Session &session, const QString &m
 
 QString SessionSummary::idealTimeText(const Session &session)
 {
-    return tr("Ideal Time : %1").arg(session.idealTimeText());
+    return tr("Ideal Time : %1").arg(explainedIdealTime(session));
 }
 
 QString SessionSummary::distanceText(const Session &session)
