@@ -4,27 +4,21 @@
 #
 # Builds the Debian package, build/release/zunoanalyzer_*.deb, and checks it without installing it.
 # It is built with what build/release is set to (cmake --preset release -DMAP_KEY=...).
-#   scripts/package.sh [--preset release|ci]
 # scripts/try-package.sh installs, tries and removes it.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
 
-preset=release
-if [[ ${1:-} == --preset && (${2:-} == release || ${2:-} == ci) ]]; then
-    preset=$2
-    shift 2
-fi
 if (($#)); then
-    echo "usage: scripts/package.sh [--preset release|ci]" >&2
+    echo "usage: scripts/package.sh" >&2
     exit 2
 fi
 scripts/install-dependencies.sh --gui --package
 
-build=build/$preset
+build=build/release
 echo "== Building"
-cmake --preset "$preset"
-cmake --build --preset "$preset" --target product
+cmake --preset release
+cmake --build --preset release --target product
 rm -f "$build"/zunoanalyzer_*.deb
 cpack --config "$build/CPackConfig.cmake" -B "$build"
 deb=$(echo "$build"/zunoanalyzer_*.deb)
