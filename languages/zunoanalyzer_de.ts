@@ -96,6 +96,53 @@
     </message>
 </context>
 <context>
+    <name>Formats</name>
+    <message>
+        <source>there is no position in it</source>
+        <translation>sie enthält keine Position</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>sie ist zu groß</translation>
+    </message>
+    <message>
+        <source>its points have no times</source>
+        <translation>ihre Punkte haben keine Zeiten</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>there is no track in it</source>
+        <translation>sie enthält keinen Track</translation>
+    </message>
+    <message>
+        <source>no sentence has a time and a position</source>
+        <translation>kein Satz hat Zeit und Position</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>das Archiv ist beschädigt</translation>
+    </message>
+    <message>
+        <source>there is no row of a trace</source>
+        <translation>es gibt keine Zeile einer Spur</translation>
+    </message>
+    <message>
+        <source>no row can be read; the first is line %1</source>
+        <translation>keine Zeile ist lesbar; die erste ist Zeile %1</translation>
+    </message>
+    <message>
+        <source>there is no row below [data]</source>
+        <translation>unter [data] steht keine Zeile</translation>
+    </message>
+    <message>
+        <source>there is no table with columns for time, latitude and longitude</source>
+        <translation>es gibt keine Tabelle mit Spalten für Zeit, Breite und Länge</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -265,6 +312,10 @@
         <source>has a format that is too old</source>
         <translation>hat ein zu altes Format</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>ist zu groß: Eine Session hat höchstens 1 GB und 20 Millionen Messpunkte</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -313,6 +364,37 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder kopieren Sie die Kartendatei der Strecke nach
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>Der Arbeitsspeicher reicht nicht, um diese Session zu zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno</name>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz: Rundenzeiten können um %2 s falsch sein</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 beschädigte Zeilen ausgelassen, die erste ist Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 unmögliche Positionen ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 Lücken ohne Position</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>keine Geschwindigkeit: aus Positionen berechnet</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>kein Datum: das der Datei gilt</translation>
     </message>
 </context>
 <context>
@@ -720,6 +802,47 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::IdealTimeText</name>
+    <message>
+        <source>without section %1: no lap passed timing point %1 in its circle</source>
+        <translation>ohne Abschnitt %1: Keine Runde kam durch den Kreis von Punkt %1</translation>
+    </message>
+    <message>
+        <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
+        <translation>ohne die der besten Runde %1 ab Abschnitt %2: Sie kam außerhalb des Kreises an Punkt %2 vorbei</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Import</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>ist von keiner Art, die gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>sie enthält keine Sekunde einer Fahrt</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Meinen behalten</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -740,6 +863,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>die Datei ist beschädigt oder endet zu früh</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>ihr Format ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>%1 wurde inzwischen von einem anderen Programm geändert. Wo Sie beide getippt haben, gilt Ihr Text; die Seite „Session-Infos“ bietet den anderen an.</translation>
     </message>
 </context>
 <context>
@@ -856,6 +987,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Lap</source>
         <translation>Runde</translation>
     </message>
+    <message>
+        <source>Choose another folder...</source>
+        <translation>Anderen Ordner wählen ...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsTableModel</name>
@@ -927,6 +1062,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Section %1</source>
         <translation>Sektor %1</translation>
     </message>
+    <message>
+        <source>Counted twice</source>
+        <translation>Doppelt gezählt</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsView</name>
@@ -957,6 +1096,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Compare this lap with...</source>
         <translation>Diese Runde vergleichen mit...</translation>
+    </message>
+    <message>
+        <source>This is the first lap itself; choose another one to compare it with.</source>
+        <translation>Das ist die erste Runde selbst; wählen Sie eine andere zum Vergleichen.</translation>
+    </message>
+    <message>
+        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
+        <translation>Nur Runden derselben Karte werden verglichen; die erste wurde auf „%1“ gefahren.</translation>
     </message>
 </context>
 <context>
@@ -1036,14 +1183,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
-    </message>
-    <message>
-        <source>A name that begins with a dot is hidden; nothing was changed.</source>
-        <translation>Ein Name mit einem Punkt am Anfang ist versteckt; nichts wurde geändert.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
-        <translation>„%1“ ist ein Name, den nicht jeder Computer annimmt; nichts wurde geändert.</translation>
     </message>
     <message>
         <source>Do you want to move this to the trash?</source>
@@ -1427,6 +1566,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
         <translation>Eine Runde hat Platz für %4 Sektoren; die Punkte nach %1 werden ausgelassen.</translation>
     </message>
+    <message>
+        <source>The map would not be found for this session by itself: the line is more than 1 km from where the recording begins, and the ride does not follow the outline. Choose the map with &quot;Maps&quot;.</source>
+        <translation>Die Karte würde für diese Session nicht von selbst gefunden: Die Linie ist mehr als 1 km vom Anfang der Aufzeichnung entfernt, und die Fahrt folgt dem Umriss nicht. Wählen Sie die Karte mit „Karten“.</translation>
+    </message>
+    <message>
+        <source>A pass of the line below %5 km/h counts twice, as on a wet or slow day. Make the gate smaller or move the line to where everybody is fast.</source>
+        <translation>Ein Überfahren der Linie unter %5 km/h zählt doppelt, wie an einem nassen oder langsamen Tag. Machen Sie das Tor kleiner oder legen Sie die Linie dorthin, wo alle schnell sind.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapsWidget</name>
@@ -1544,6 +1691,41 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
         <translation>Hier zum Beispiel Reifendrücke und Fahrwerkseinstellungen eintragen...</translation>
+    </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Diese Datei hat ein Format, das diese Version nicht kennt (%1). Sie wird gezeigt, aber in ihr kann nichts gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Diese Datei ist beschädigt oder noch nicht vollständig. Sie wird gezeigt, aber in ihr kann nichts gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Ein anderes Programm hat hier zur selben Zeit getippt, und Ihr Text steht jetzt an der Stelle von: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Ein Name, der mit einem Punkt beginnt, ist versteckt: Er würde nicht mehr aufgeführt.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>In einem Namen dürfen nicht stehen: %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Ein Name darf nicht mit einem Leerzeichen beginnen oder enden, auch nicht mit einem Punkt enden.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows benutzt diesen Namen für ein Gerät; wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>Namen mit „ZUNO“ sind den Ordnern der Logger vorbehalten, die weder umbenannt noch gelöscht werden können.</translation>
     </message>
 </context>
 <context>
@@ -1665,6 +1847,49 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Was Sie zu diesen Sessions eingetragen haben, konnte nicht in ihre Dateien geschrieben werden:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Woanders speichern...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Schließen, ohne zu speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Woanders speichern</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Diese ließen sich auch dort nicht speichern:
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1796,16 +2021,16 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
         <translation>„%1“ ist nicht mehr da: die Datei wurde gelöscht oder verschoben.</translation>
     </message>
     <message>
-        <source>Choose another folder...</source>
-        <translation>Anderen Ordner wählen ...</translation>
-    </message>
-    <message>
         <source>Folder of your sessions</source>
         <translation>Ordner Ihrer Sessions</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not there, or is no file.</source>
         <translation>„%1“ ist nicht da oder keine Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>„%1“ ist zu groß, um gezeigt zu werden: Eine Session hat höchstens 1 GB und 20 Millionen Messpunkte.</translation>
     </message>
 </context>
 </TS>

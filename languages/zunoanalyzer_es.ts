@@ -96,6 +96,53 @@
     </message>
 </context>
 <context>
+    <name>Formats</name>
+    <message>
+        <source>there is no position in it</source>
+        <translation>no contiene ninguna posición</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>es demasiado grande</translation>
+    </message>
+    <message>
+        <source>its points have no times</source>
+        <translation>sus puntos no tienen hora</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+    <message>
+        <source>there is no track in it</source>
+        <translation>no contiene ninguna pista</translation>
+    </message>
+    <message>
+        <source>no sentence has a time and a position</source>
+        <translation>ninguna frase tiene hora y posición</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>el archivo está dañado</translation>
+    </message>
+    <message>
+        <source>there is no row of a trace</source>
+        <translation>no hay ninguna fila de traza</translation>
+    </message>
+    <message>
+        <source>no row can be read; the first is line %1</source>
+        <translation>no se puede leer ninguna fila; la primera es la línea %1</translation>
+    </message>
+    <message>
+        <source>there is no row below [data]</source>
+        <translation>no hay ninguna fila bajo [data]</translation>
+    </message>
+    <message>
+        <source>there is no table with columns for time, latitude and longitude</source>
+        <translation>no hay tabla con columnas de hora, latitud y longitud</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -265,6 +312,10 @@
         <source>has a format that is too old</source>
         <translation>tiene un formato demasiado antiguo</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>es demasiado grande: una sesión tiene como máximo 1 GB y 20 millones de muestras</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -313,6 +364,37 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el archivo de mapa del circuito en
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>No hay memoria suficiente para mostrar esta sesión.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno</name>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz: los tiempos por vuelta pueden errar %2 s</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 líneas dañadas omitidas, la primera es la línea %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 posiciones imposibles omitidas</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 huecos sin posición</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>sin velocidad: calculada de las posiciones</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>sin fecha: se toma la del archivo</translation>
     </message>
 </context>
 <context>
@@ -720,6 +802,47 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::IdealTimeText</name>
+    <message>
+        <source>without section %1: no lap passed timing point %1 in its circle</source>
+        <translation>sin la sección %1: ninguna vuelta pasó por el círculo del punto %1</translation>
+    </message>
+    <message>
+        <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
+        <translation>sin las de la vuelta %1, la mejor, desde la sección %2: pasó fuera del círculo del punto %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Import</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>no es de ningún tipo legible</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>no se puede crear la carpeta</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>no contiene ni un segundo de marcha</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Recuperar el otro</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Conservar el mío</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -740,6 +863,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>el archivo está dañado o termina antes de tiempo</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>su formato no se conoce</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>Otro programa modificó %1 entretanto. Donde han escrito los dos queda su texto; la página «Datos de la sesión» ofrece el otro.</translation>
     </message>
 </context>
 <context>
@@ -856,6 +987,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Lap</source>
         <translation>Vuelta</translation>
     </message>
+    <message>
+        <source>Choose another folder...</source>
+        <translation>Elegir otra carpeta...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsTableModel</name>
@@ -927,6 +1062,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Section %1</source>
         <translation>Sector %1</translation>
     </message>
+    <message>
+        <source>Counted twice</source>
+        <translation>Contada dos veces</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsView</name>
@@ -957,6 +1096,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Compare this lap with...</source>
         <translation>Comparar esta vuelta con...</translation>
+    </message>
+    <message>
+        <source>This is the first lap itself; choose another one to compare it with.</source>
+        <translation>Es la primera vuelta misma; elija otra para compararla.</translation>
+    </message>
+    <message>
+        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
+        <translation>Solo se comparan vueltas del mismo mapa; la primera se hizo en «%1».</translation>
     </message>
 </context>
 <context>
@@ -1036,14 +1183,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>No se pudo crear la carpeta «%1».</translation>
-    </message>
-    <message>
-        <source>A name that begins with a dot is hidden; nothing was changed.</source>
-        <translation>Un nombre que empieza por un punto queda oculto; no se ha cambiado nada.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
-        <translation>«%1» es un nombre que no todos los ordenadores admiten; no se ha cambiado nada.</translation>
     </message>
     <message>
         <source>Do you want to move this to the trash?</source>
@@ -1427,6 +1566,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
         <translation>En una vuelta caben %4 sectores; el último acaba en %1, los demás puntos se omiten.</translation>
     </message>
+    <message>
+        <source>The map would not be found for this session by itself: the line is more than 1 km from where the recording begins, and the ride does not follow the outline. Choose the map with &quot;Maps&quot;.</source>
+        <translation>El mapa no se encontraría solo para esta sesión: la línea está a más de 1 km del inicio de la grabación y la marcha no sigue el trazado. Elija el mapa con «Mapas».</translation>
+    </message>
+    <message>
+        <source>A pass of the line below %5 km/h counts twice, as on a wet or slow day. Make the gate smaller or move the line to where everybody is fast.</source>
+        <translation>Un paso por la línea a menos de %5 km/h cuenta dos veces, como en un día mojado o lento. Haga la puerta más pequeña o mueva la línea a donde todos van rápido.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapsWidget</name>
@@ -1544,6 +1691,41 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
         <translation>Anote aquí, por ejemplo, las presiones de los neumáticos, los reglajes de suspensión...</translation>
+    </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Este archivo tiene un formato que esta versión no conoce (%1). Se muestra, pero no se puede guardar nada en él.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Este archivo está dañado, o no está completo todavía. Se muestra, pero no se puede guardar nada en él.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Otro programa ha escrito aquí al mismo tiempo, y su texto ha ocupado el lugar de: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Un nombre que empieza por un punto está oculto: ya no aparecería en la lista.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>En un nombre no pueden estar: %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Un nombre no puede empezar ni terminar con un espacio, ni terminar con un punto.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows reserva este nombre para un dispositivo; elija otro.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>Los nombres con «ZUNO» se reservan para las carpetas de los registradores, que no se pueden renombrar ni eliminar.</translation>
     </message>
 </context>
 <context>
@@ -1665,6 +1847,49 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>desconocida</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Lo que ha anotado sobre estas sesiones no se ha podido escribir en sus archivos:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Volver a intentar</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Guardar en otro sitio...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Cerrar sin guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Guardar en otro sitio</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Estas tampoco se han podido guardar allí:
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1796,16 +2021,16 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
         <translation>«%1» ya no está: se ha eliminado o movido.</translation>
     </message>
     <message>
-        <source>Choose another folder...</source>
-        <translation>Elegir otra carpeta...</translation>
-    </message>
-    <message>
         <source>Folder of your sessions</source>
         <translation>Carpeta de sus sesiones</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not there, or is no file.</source>
         <translation>«%1» no está, o no es un archivo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>«%1» es demasiado grande para mostrarse: una sesión tiene como máximo 1 GB y 20 millones de muestras.</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,53 @@
     </message>
 </context>
 <context>
+    <name>Formats</name>
+    <message>
+        <source>there is no position in it</source>
+        <translation>il ne contient aucune position</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>il est trop grand</translation>
+    </message>
+    <message>
+        <source>its points have no times</source>
+        <translation>ses points n&apos;ont pas d&apos;heure</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>there is no track in it</source>
+        <translation>il ne contient aucune trace</translation>
+    </message>
+    <message>
+        <source>no sentence has a time and a position</source>
+        <translation>aucune phrase n&apos;a d&apos;heure et de position</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>l&apos;archive est endommagée</translation>
+    </message>
+    <message>
+        <source>there is no row of a trace</source>
+        <translation>il n&apos;y a aucune ligne de trace</translation>
+    </message>
+    <message>
+        <source>no row can be read; the first is line %1</source>
+        <translation>aucune ligne ne peut être lue ; la première est la ligne %1</translation>
+    </message>
+    <message>
+        <source>there is no row below [data]</source>
+        <translation>il n&apos;y a aucune ligne sous [data]</translation>
+    </message>
+    <message>
+        <source>there is no table with columns for time, latitude and longitude</source>
+        <translation>il n&apos;y a pas de tableau avec des colonnes d&apos;heure, de latitude et de longitude</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -265,6 +312,10 @@
         <source>has a format that is too old</source>
         <translation>est d&apos;un format trop ancien</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>est trop grand : une session a 1 Go et 20 millions de points au plus</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -313,6 +364,37 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (Ctrl+M) ou copiez le fichier de carte du circuit dans
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>Il n&apos;y a pas assez de mémoire pour afficher cette session.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno</name>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz : les temps au tour peuvent être faux de %2 s</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 lignes endommagées omises, la première est la ligne %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 positions impossibles omises</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 lacunes sans position</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>pas de vitesse : calculée à partir des positions</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>pas de date : celle du fichier est prise</translation>
     </message>
 </context>
 <context>
@@ -720,6 +802,47 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::IdealTimeText</name>
+    <message>
+        <source>without section %1: no lap passed timing point %1 in its circle</source>
+        <translation>sans la section %1 : aucun tour n&apos;a passé le point %1 dans son cercle</translation>
+    </message>
+    <message>
+        <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
+        <translation>sans celles du tour %1, le meilleur, à partir de la section %2 : il a passé le point %2 hors de son cercle</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Import</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>n&apos;est d&apos;aucun type lisible</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>il ne contient pas une seconde de roulage</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Reprendre l&apos;autre</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Garder le mien</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -740,6 +863,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>le fichier est endommagé ou tronqué</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>son format n&apos;est pas connu</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>%1 a été modifié entre-temps par un autre programme. Là où vous avez tapé tous deux, votre texte reste ; la page « Infos de la session » propose l&apos;autre.</translation>
     </message>
 </context>
 <context>
@@ -856,6 +987,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Lap</source>
         <translation>Tour</translation>
     </message>
+    <message>
+        <source>Choose another folder...</source>
+        <translation>Choisir un autre dossier...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsTableModel</name>
@@ -927,6 +1062,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Section %1</source>
         <translation>Secteur %1</translation>
     </message>
+    <message>
+        <source>Counted twice</source>
+        <translation>Compté deux fois</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsView</name>
@@ -957,6 +1096,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Compare this lap with...</source>
         <translation>Comparer ce tour avec...</translation>
+    </message>
+    <message>
+        <source>This is the first lap itself; choose another one to compare it with.</source>
+        <translation>C&apos;est le premier tour lui-même ; choisissez-en un autre à comparer.</translation>
+    </message>
+    <message>
+        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
+        <translation>Seuls des tours de la même carte sont comparés ; le premier a été fait sur « %1 ».</translation>
     </message>
 </context>
 <context>
@@ -1036,14 +1183,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;a pas pu être créé.</translation>
-    </message>
-    <message>
-        <source>A name that begins with a dot is hidden; nothing was changed.</source>
-        <translation>Un nom qui commence par un point est caché&#xa0;; rien n&apos;a été changé.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
-        <translation>«&#xa0;%1&#xa0;» est un nom que certains ordinateurs refusent&#xa0;; rien n&apos;a été changé.</translation>
     </message>
     <message>
         <source>Do you want to move this to the trash?</source>
@@ -1427,6 +1566,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
         <translation>Un tour a %4 secteurs au plus&#xa0;; les points de chronométrage après %1 sont ignorés.</translation>
     </message>
+    <message>
+        <source>The map would not be found for this session by itself: the line is more than 1 km from where the recording begins, and the ride does not follow the outline. Choose the map with &quot;Maps&quot;.</source>
+        <translation>La carte ne serait pas trouvée d&apos;elle-même pour cette session : la ligne est à plus de 1 km du début de l&apos;enregistrement, et le parcours ne suit pas le tracé. Choisissez la carte avec « Cartes ».</translation>
+    </message>
+    <message>
+        <source>A pass of the line below %5 km/h counts twice, as on a wet or slow day. Make the gate smaller or move the line to where everybody is fast.</source>
+        <translation>Un passage de la ligne sous %5 km/h compte deux fois, comme un jour humide ou lent. Rendez la porte plus petite ou placez la ligne là où tous vont vite.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapsWidget</name>
@@ -1544,6 +1691,41 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
         <translation>Notez ici, par exemple, vos pressions de pneus, vos réglages de suspension...</translation>
+    </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Ce fichier a un format que cette version ne connaît pas (%1). Il est affiché, mais rien ne peut y être enregistré.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Ce fichier est endommagé, ou pas encore complet. Il est affiché, mais rien ne peut y être enregistré.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Un autre programme a tapé ici en même temps, et votre texte a pris la place de : %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Un nom qui commence par un point est caché : il ne serait plus dans la liste.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>Ces signes ne peuvent pas figurer dans un nom : %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Un nom ne peut ni commencer ni finir par une espace, ni finir par un point.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows réserve ce nom à un périphérique ; choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>Les noms avec « ZUNO » sont réservés aux dossiers des boîtiers, qui ne peuvent être ni renommés ni supprimés.</translation>
     </message>
 </context>
 <context>
@@ -1665,6 +1847,49 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>inconnue</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Ce que vous avez noté sur ces sessions n&apos;a pas pu être écrit dans leurs fichiers :
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Enregistrer ailleurs...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Fermer sans enregistrer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Enregistrer ailleurs</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Celles-ci n&apos;ont pas pu être enregistrées là non plus :
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1796,16 +2021,16 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
         <translation>«&#xa0;%1&#xa0;» n&apos;est plus là&#xa0;: le fichier a été supprimé ou déplacé.</translation>
     </message>
     <message>
-        <source>Choose another folder...</source>
-        <translation>Choisir un autre dossier...</translation>
-    </message>
-    <message>
         <source>Folder of your sessions</source>
         <translation>Dossier de vos sessions</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not there, or is no file.</source>
         <translation>«&#xa0;%1&#xa0;» n&apos;est pas là, ou n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>« %1 » est trop grand pour être affiché : une session a 1 Go et 20 millions de points au plus.</translation>
     </message>
 </context>
 </TS>

@@ -96,6 +96,53 @@
     </message>
 </context>
 <context>
+    <name>Formats</name>
+    <message>
+        <source>there is no position in it</source>
+        <translation>non contiene nessuna posizione</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>è troppo grande</translation>
+    </message>
+    <message>
+        <source>its points have no times</source>
+        <translation>i suoi punti non hanno orari</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>riga %1: %2</translation>
+    </message>
+    <message>
+        <source>there is no track in it</source>
+        <translation>non contiene nessuna traccia</translation>
+    </message>
+    <message>
+        <source>no sentence has a time and a position</source>
+        <translation>nessuna frase ha ora e posizione</translation>
+    </message>
+    <message>
+        <source>the archive is damaged</source>
+        <translation>l&apos;archivio è danneggiato</translation>
+    </message>
+    <message>
+        <source>there is no row of a trace</source>
+        <translation>non c&apos;è nessuna riga di traccia</translation>
+    </message>
+    <message>
+        <source>no row can be read; the first is line %1</source>
+        <translation>nessuna riga è leggibile; la prima è la riga %1</translation>
+    </message>
+    <message>
+        <source>there is no row below [data]</source>
+        <translation>non c&apos;è nessuna riga sotto [data]</translation>
+    </message>
+    <message>
+        <source>there is no table with columns for time, latitude and longitude</source>
+        <translation>non c&apos;è una tabella con colonne per ora, latitudine e longitudine</translation>
+    </message>
+</context>
+<context>
     <name>Help</name>
     <message>
         <source>The manual is not there; it belongs to %1</source>
@@ -265,6 +312,10 @@
         <source>has a format that is too old</source>
         <translation>ha un formato troppo vecchio</translation>
     </message>
+    <message>
+        <source>is too large: a session has 1 GB and 20 million samples at most</source>
+        <translation>è troppo grande: una sessione ha al massimo 1 GB e 20 milioni di campioni</translation>
+    </message>
 </context>
 <context>
     <name>SessionSummary</name>
@@ -313,6 +364,37 @@ Make a new map from it, choose a map with &quot;Maps&quot; (Ctrl+M), or copy the
 
 Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copia il file di mappa del circuito in
 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show this session.</source>
+        <translation>Non c&apos;è abbastanza memoria per mostrare questa sessione.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno</name>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz: i tempi sul giro possono sbagliare di %2 s</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 righe danneggiate tralasciate, la prima è la riga %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 posizioni impossibili tralasciate</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 lacune senza posizione</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>nessuna velocità: calcolata dalle posizioni</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>nessuna data: vale quella del file</translation>
     </message>
 </context>
 <context>
@@ -720,6 +802,47 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::IdealTimeText</name>
+    <message>
+        <source>without section %1: no lap passed timing point %1 in its circle</source>
+        <translation>senza la sezione %1: nessun giro è passato nel cerchio del punto %1</translation>
+    </message>
+    <message>
+        <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
+        <translation>senza quelle del giro %1, il migliore, dalla sezione %2: è passato fuori dal cerchio del punto %2</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Import</name>
+    <message>
+        <source>cannot be read</source>
+        <translation>non si può leggere</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>non è di un tipo leggibile</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>la cartella non può essere creata</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>non contiene un secondo di guida</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::InformationNotice</name>
+    <message>
+        <source>Put it back</source>
+        <translation>Riprendi l&apos;altro</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Tieni il mio</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationWriter</name>
     <message>
         <source>%1 was not changed: %2. Changes are kept until the program ends.</source>
@@ -740,6 +863,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>the file is damaged, or ends too early</source>
         <translation>il file è danneggiato o finisce troppo presto</translation>
+    </message>
+    <message>
+        <source>its format is not known</source>
+        <translation>il suo formato non è noto</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
+        <translation>%1 è stato modificato nel frattempo da un altro programma. Dove avete scritto entrambi resta il tuo testo; la scheda «Info sessione» offre l&apos;altro.</translation>
     </message>
 </context>
 <context>
@@ -856,6 +987,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Lap</source>
         <translation>Giro</translation>
     </message>
+    <message>
+        <source>Choose another folder...</source>
+        <translation>Scegli un&apos;altra cartella...</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsTableModel</name>
@@ -927,6 +1062,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Section %1</source>
         <translation>Settore %1</translation>
     </message>
+    <message>
+        <source>Counted twice</source>
+        <translation>Contato due volte</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapsView</name>
@@ -957,6 +1096,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Compare this lap with...</source>
         <translation>Confronta questo giro con...</translation>
+    </message>
+    <message>
+        <source>This is the first lap itself; choose another one to compare it with.</source>
+        <translation>Questo è il primo giro stesso; ne scelga un altro da confrontare.</translation>
+    </message>
+    <message>
+        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
+        <translation>Si confrontano solo giri della stessa mappa; il primo è stato fatto su «%1».</translation>
     </message>
 </context>
 <context>
@@ -1036,14 +1183,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>The folder &quot;%1&quot; could not be created.</source>
         <translation>Non è stato possibile creare la cartella «%1».</translation>
-    </message>
-    <message>
-        <source>A name that begins with a dot is hidden; nothing was changed.</source>
-        <translation>Un nome che comincia con un punto è nascosto; nulla è cambiato.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a name that not every computer takes; nothing was changed.</source>
-        <translation>«%1» è un nome che non tutti i computer accettano; nulla è cambiato.</translation>
     </message>
     <message>
         <source>Do you want to move this to the trash?</source>
@@ -1427,6 +1566,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>A lap has room for %4 sections; timing points after %1 are left out.</source>
         <translation>Un giro ha al massimo %4 settori; i punti di intertempo dopo %1 non contano.</translation>
     </message>
+    <message>
+        <source>The map would not be found for this session by itself: the line is more than 1 km from where the recording begins, and the ride does not follow the outline. Choose the map with &quot;Maps&quot;.</source>
+        <translation>La mappa non verrebbe trovata da sola per questa sessione: la linea è a più di 1 km dall&apos;inizio della registrazione e la guida non segue il tracciato. Scelga la mappa con «Mappe».</translation>
+    </message>
+    <message>
+        <source>A pass of the line below %5 km/h counts twice, as on a wet or slow day. Make the gate smaller or move the line to where everybody is fast.</source>
+        <translation>Un passaggio della linea sotto %5 km/h conta due volte, come in un giorno bagnato o lento. Riduca la porta o sposti la linea dove tutti vanno forte.</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapsWidget</name>
@@ -1544,6 +1691,41 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Enter here, for example, your tyre pressures, your suspension settings...</source>
         <translation>Inserisci qui, per esempio, le pressioni delle gomme, le regolazioni delle sospensioni...</translation>
+    </message>
+    <message>
+        <source>This file has a format that this version does not know (%1). It is shown, but nothing can be stored in it.</source>
+        <translation>Questo file ha un formato che questa versione non conosce (%1). Viene mostrato, ma non vi si può salvare niente.</translation>
+    </message>
+    <message>
+        <source>This file is damaged, or not complete yet. It is shown, but nothing can be stored in it.</source>
+        <translation>Questo file è danneggiato, o non ancora completo. Viene mostrato, ma non vi si può salvare niente.</translation>
+    </message>
+    <message>
+        <source>Another program typed here at the same time, and your text has taken its place: %1</source>
+        <translation>Un altro programma ha scritto qui nello stesso momento, e il tuo testo ha preso il posto di: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::SessionName</name>
+    <message>
+        <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
+        <translation>Un nome che comincia con un punto è nascosto: non comparirebbe più nell&apos;elenco.</translation>
+    </message>
+    <message>
+        <source>These cannot stand in a name: %1</source>
+        <translation>In un nome non possono stare: %1</translation>
+    </message>
+    <message>
+        <source>A name cannot begin or end with a blank, nor end with a dot.</source>
+        <translation>Un nome non può cominciare o finire con uno spazio, né finire con un punto.</translation>
+    </message>
+    <message>
+        <source>Windows keeps this name for a device; choose another one.</source>
+        <translation>Windows riserva questo nome a un dispositivo; scegline un altro.</translation>
+    </message>
+    <message>
+        <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
+        <translation>I nomi con «ZUNO» sono riservati alle cartelle dei logger, che non si possono né rinominare né eliminare.</translation>
     </message>
 </context>
 <context>
@@ -1665,6 +1847,49 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>unknown</source>
         <extracomment>A track temperature that nobody noted.</extracomment>
         <translation>sconosciuta</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::UnsavedChanges</name>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifiche non salvate</translation>
+    </message>
+    <message>
+        <source>What you have said about these sessions could not be written into their files:
+
+%1</source>
+        <translation>Quello che hai annotato su queste sessioni non si è potuto scrivere nei loro file:
+
+%1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Save elsewhere...</source>
+        <translation>Salva altrove...</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Chiudi senza salvare</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Save elsewhere</source>
+        <translation>Salva altrove</translation>
+    </message>
+    <message>
+        <source>These could not be saved there, either:
+
+%1</source>
+        <translation>Queste non si sono potute salvare nemmeno lì:
+
+%1</translation>
     </message>
 </context>
 <context>
@@ -1796,16 +2021,16 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
         <translation>«%1» non c&apos;è più: è stato eliminato o spostato.</translation>
     </message>
     <message>
-        <source>Choose another folder...</source>
-        <translation>Scegli un&apos;altra cartella...</translation>
-    </message>
-    <message>
         <source>Folder of your sessions</source>
         <translation>Cartella delle sessioni</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not there, or is no file.</source>
         <translation>«%1» non c&apos;è, o non è un file.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
+        <translation>«%1» è troppo grande per essere mostrato: una sessione ha al massimo 1 GB e 20 milioni di campioni.</translation>
     </message>
 </context>
 </TS>
