@@ -141,6 +141,46 @@
         <source>there is no table with columns for time, latitude and longitude</source>
         <translation>es gibt keine Tabelle mit Spalten für Zeit, Breite und Länge</translation>
     </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>ist von keiner Art, die gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>sie enthält keine Sekunde einer Fahrt</translation>
+    </message>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz: Rundenzeiten können um %2 s falsch sein</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 beschädigte Zeilen ausgelassen, die erste ist Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 unmögliche Positionen ausgelassen</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 Lücken ohne Position</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>keine Geschwindigkeit: aus Positionen berechnet</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>kein Datum: das der Datei gilt</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -368,33 +408,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>There is not enough memory to show this session.</source>
         <translation>Der Arbeitsspeicher reicht nicht, um diese Session zu zeigen.</translation>
-    </message>
-</context>
-<context>
-    <name>zuno</name>
-    <message>
-        <source>%1 Hz: lap times may be off by %2 s</source>
-        <translation>%1 Hz: Rundenzeiten können um %2 s falsch sein</translation>
-    </message>
-    <message>
-        <source>%1 damaged lines left out, the first is line %2</source>
-        <translation>%1 beschädigte Zeilen ausgelassen, die erste ist Zeile %2</translation>
-    </message>
-    <message>
-        <source>%1 impossible positions left out</source>
-        <translation>%1 unmögliche Positionen ausgelassen</translation>
-    </message>
-    <message>
-        <source>%1 gaps without a position</source>
-        <translation>%1 Lücken ohne Position</translation>
-    </message>
-    <message>
-        <source>no speed: computed from positions</source>
-        <translation>keine Geschwindigkeit: aus Positionen berechnet</translation>
-    </message>
-    <message>
-        <source>no date: that of the file is taken</source>
-        <translation>kein Datum: das der Datei gilt</translation>
     </message>
 </context>
 <context>
@@ -810,25 +823,6 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
         <translation>ohne die der besten Runde %1 ab Abschnitt %2: Sie kam außerhalb des Kreises an Punkt %2 vorbei</translation>
-    </message>
-</context>
-<context>
-    <name>zuno::Import</name>
-    <message>
-        <source>cannot be read</source>
-        <translation>kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>is of no kind that can be read</source>
-        <translation>ist von keiner Art, die gelesen werden kann</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made</source>
-        <translation>der Ordner kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>there is not a second of a ride in it</source>
-        <translation>sie enthält keine Sekunde einer Fahrt</translation>
     </message>
 </context>
 <context>

@@ -141,6 +141,46 @@
         <source>there is no table with columns for time, latitude and longitude</source>
         <translation>no hay tabla con columnas de hora, latitud y longitud</translation>
     </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>no es de ningún tipo legible</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>no se puede crear la carpeta</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>no contiene ni un segundo de marcha</translation>
+    </message>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz: los tiempos por vuelta pueden errar %2 s</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 líneas dañadas omitidas, la primera es la línea %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 posiciones imposibles omitidas</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 huecos sin posición</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>sin velocidad: calculada de las posiciones</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>sin fecha: se toma la del archivo</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -368,33 +408,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>There is not enough memory to show this session.</source>
         <translation>No hay memoria suficiente para mostrar esta sesión.</translation>
-    </message>
-</context>
-<context>
-    <name>zuno</name>
-    <message>
-        <source>%1 Hz: lap times may be off by %2 s</source>
-        <translation>%1 Hz: los tiempos por vuelta pueden errar %2 s</translation>
-    </message>
-    <message>
-        <source>%1 damaged lines left out, the first is line %2</source>
-        <translation>%1 líneas dañadas omitidas, la primera es la línea %2</translation>
-    </message>
-    <message>
-        <source>%1 impossible positions left out</source>
-        <translation>%1 posiciones imposibles omitidas</translation>
-    </message>
-    <message>
-        <source>%1 gaps without a position</source>
-        <translation>%1 huecos sin posición</translation>
-    </message>
-    <message>
-        <source>no speed: computed from positions</source>
-        <translation>sin velocidad: calculada de las posiciones</translation>
-    </message>
-    <message>
-        <source>no date: that of the file is taken</source>
-        <translation>sin fecha: se toma la del archivo</translation>
     </message>
 </context>
 <context>
@@ -810,25 +823,6 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
         <translation>sin las de la vuelta %1, la mejor, desde la sección %2: pasó fuera del círculo del punto %2</translation>
-    </message>
-</context>
-<context>
-    <name>zuno::Import</name>
-    <message>
-        <source>cannot be read</source>
-        <translation>no se puede leer</translation>
-    </message>
-    <message>
-        <source>is of no kind that can be read</source>
-        <translation>no es de ningún tipo legible</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made</source>
-        <translation>no se puede crear la carpeta</translation>
-    </message>
-    <message>
-        <source>there is not a second of a ride in it</source>
-        <translation>no contiene ni un segundo de marcha</translation>
     </message>
 </context>
 <context>

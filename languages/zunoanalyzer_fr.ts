@@ -141,6 +141,46 @@
         <source>there is no table with columns for time, latitude and longitude</source>
         <translation>il n&apos;y a pas de tableau avec des colonnes d&apos;heure, de latitude et de longitude</translation>
     </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>n&apos;est d&apos;aucun type lisible</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>il ne contient pas une seconde de roulage</translation>
+    </message>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz : les temps au tour peuvent être faux de %2 s</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 lignes endommagées omises, la première est la ligne %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 positions impossibles omises</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 lacunes sans position</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>pas de vitesse : calculée à partir des positions</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>pas de date : celle du fichier est prise</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -314,7 +354,7 @@
     </message>
     <message>
         <source>is too large: a session has 1 GB and 20 million samples at most</source>
-        <translation>est trop grand : une session a 1 Go et 20 millions de points au plus</translation>
+        <translation>est trop grand&#xa0;: une session a 1 Go et 20 millions de points au plus</translation>
     </message>
 </context>
 <context>
@@ -368,33 +408,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>There is not enough memory to show this session.</source>
         <translation>Il n&apos;y a pas assez de mémoire pour afficher cette session.</translation>
-    </message>
-</context>
-<context>
-    <name>zuno</name>
-    <message>
-        <source>%1 Hz: lap times may be off by %2 s</source>
-        <translation>%1 Hz : les temps au tour peuvent être faux de %2 s</translation>
-    </message>
-    <message>
-        <source>%1 damaged lines left out, the first is line %2</source>
-        <translation>%1 lignes endommagées omises, la première est la ligne %2</translation>
-    </message>
-    <message>
-        <source>%1 impossible positions left out</source>
-        <translation>%1 positions impossibles omises</translation>
-    </message>
-    <message>
-        <source>%1 gaps without a position</source>
-        <translation>%1 lacunes sans position</translation>
-    </message>
-    <message>
-        <source>no speed: computed from positions</source>
-        <translation>pas de vitesse : calculée à partir des positions</translation>
-    </message>
-    <message>
-        <source>no date: that of the file is taken</source>
-        <translation>pas de date : celle du fichier est prise</translation>
     </message>
 </context>
 <context>
@@ -813,25 +826,6 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
-    <name>zuno::Import</name>
-    <message>
-        <source>cannot be read</source>
-        <translation>ne peut pas être lu</translation>
-    </message>
-    <message>
-        <source>is of no kind that can be read</source>
-        <translation>n&apos;est d&apos;aucun type lisible</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made</source>
-        <translation>le dossier ne peut pas être créé</translation>
-    </message>
-    <message>
-        <source>there is not a second of a ride in it</source>
-        <translation>il ne contient pas une seconde de roulage</translation>
-    </message>
-</context>
-<context>
     <name>zuno::InformationNotice</name>
     <message>
         <source>Put it back</source>
@@ -870,7 +864,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
-        <translation>%1 a été modifié entre-temps par un autre programme. Là où vous avez tapé tous deux, votre texte reste ; la page « Infos de la session » propose l&apos;autre.</translation>
+        <translation>%1 a été modifié entre-temps par un autre programme. Là où vous avez tapé tous deux, votre texte reste&#xa0;; la page «&#xa0;Infos de la session&#xa0;» propose l&apos;autre.</translation>
     </message>
 </context>
 <context>
@@ -1702,18 +1696,18 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Another program typed here at the same time, and your text has taken its place: %1</source>
-        <translation>Un autre programme a tapé ici en même temps, et votre texte a pris la place de : %1</translation>
+        <translation>Un autre programme a tapé ici en même temps, et votre texte a pris la place de&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>zuno::SessionName</name>
     <message>
         <source>A name that begins with a dot is hidden: it would not be listed any more.</source>
-        <translation>Un nom qui commence par un point est caché : il ne serait plus dans la liste.</translation>
+        <translation>Un nom qui commence par un point est caché&#xa0;: il ne serait plus dans la liste.</translation>
     </message>
     <message>
         <source>These cannot stand in a name: %1</source>
-        <translation>Ces signes ne peuvent pas figurer dans un nom : %1</translation>
+        <translation>Ces signes ne peuvent pas figurer dans un nom&#xa0;: %1</translation>
     </message>
     <message>
         <source>A name cannot begin or end with a blank, nor end with a dot.</source>
@@ -1721,11 +1715,11 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Windows keeps this name for a device; choose another one.</source>
-        <translation>Windows réserve ce nom à un périphérique ; choisissez-en un autre.</translation>
+        <translation>Windows réserve ce nom à un périphérique&#xa0;; choisissez-en un autre.</translation>
     </message>
     <message>
         <source>Names with &quot;ZUNO&quot; are kept for the folders of loggers, which can be neither renamed nor deleted.</source>
-        <translation>Les noms avec « ZUNO » sont réservés aux dossiers des boîtiers, qui ne peuvent être ni renommés ni supprimés.</translation>
+        <translation>Les noms avec «&#xa0;ZUNO&#xa0;» sont réservés aux dossiers des boîtiers, qui ne peuvent être ni renommés ni supprimés.</translation>
     </message>
 </context>
 <context>
@@ -1859,7 +1853,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>What you have said about these sessions could not be written into their files:
 
 %1</source>
-        <translation>Ce que vous avez noté sur ces sessions n&apos;a pas pu être écrit dans leurs fichiers :
+        <translation>Ce que vous avez noté sur ces sessions n&apos;a pas pu être écrit dans leurs fichiers&#xa0;:
 
 %1</translation>
     </message>
@@ -1887,7 +1881,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>These could not be saved there, either:
 
 %1</source>
-        <translation>Celles-ci n&apos;ont pas pu être enregistrées là non plus :
+        <translation>Celles-ci n&apos;ont pas pu être enregistrées là non plus&#xa0;:
 
 %1</translation>
     </message>
@@ -2030,7 +2024,7 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     </message>
     <message>
         <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
-        <translation>« %1 » est trop grand pour être affiché : une session a 1 Go et 20 millions de points au plus.</translation>
+        <translation>«&#xa0;%1&#xa0;» est trop grand pour être affiché&#xa0;: une session a 1 Go et 20 millions de points au plus.</translation>
     </message>
 </context>
 </TS>

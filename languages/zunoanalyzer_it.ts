@@ -141,6 +141,46 @@
         <source>there is no table with columns for time, latitude and longitude</source>
         <translation>non c&apos;è una tabella con colonne per ora, latitudine e longitudine</translation>
     </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>non può essere letto</translation>
+    </message>
+    <message>
+        <source>is of no kind that can be read</source>
+        <translation>non è di un tipo leggibile</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>la cartella non può essere creata</translation>
+    </message>
+    <message>
+        <source>there is not a second of a ride in it</source>
+        <translation>non contiene un secondo di guida</translation>
+    </message>
+    <message>
+        <source>%1 Hz: lap times may be off by %2 s</source>
+        <translation>%1 Hz: i tempi sul giro possono sbagliare di %2 s</translation>
+    </message>
+    <message>
+        <source>%1 damaged lines left out, the first is line %2</source>
+        <translation>%1 righe danneggiate tralasciate, la prima è la riga %2</translation>
+    </message>
+    <message>
+        <source>%1 impossible positions left out</source>
+        <translation>%1 posizioni impossibili tralasciate</translation>
+    </message>
+    <message>
+        <source>%1 gaps without a position</source>
+        <translation>%1 lacune senza posizione</translation>
+    </message>
+    <message>
+        <source>no speed: computed from positions</source>
+        <translation>nessuna velocità: calcolata dalle posizioni</translation>
+    </message>
+    <message>
+        <source>no date: that of the file is taken</source>
+        <translation>nessuna data: vale quella del file</translation>
+    </message>
 </context>
 <context>
     <name>Help</name>
@@ -368,33 +408,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>There is not enough memory to show this session.</source>
         <translation>Non c&apos;è abbastanza memoria per mostrare questa sessione.</translation>
-    </message>
-</context>
-<context>
-    <name>zuno</name>
-    <message>
-        <source>%1 Hz: lap times may be off by %2 s</source>
-        <translation>%1 Hz: i tempi sul giro possono sbagliare di %2 s</translation>
-    </message>
-    <message>
-        <source>%1 damaged lines left out, the first is line %2</source>
-        <translation>%1 righe danneggiate tralasciate, la prima è la riga %2</translation>
-    </message>
-    <message>
-        <source>%1 impossible positions left out</source>
-        <translation>%1 posizioni impossibili tralasciate</translation>
-    </message>
-    <message>
-        <source>%1 gaps without a position</source>
-        <translation>%1 lacune senza posizione</translation>
-    </message>
-    <message>
-        <source>no speed: computed from positions</source>
-        <translation>nessuna velocità: calcolata dalle posizioni</translation>
-    </message>
-    <message>
-        <source>no date: that of the file is taken</source>
-        <translation>nessuna data: vale quella del file</translation>
     </message>
 </context>
 <context>
@@ -810,25 +823,6 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
         <translation>senza quelle del giro %1, il migliore, dalla sezione %2: è passato fuori dal cerchio del punto %2</translation>
-    </message>
-</context>
-<context>
-    <name>zuno::Import</name>
-    <message>
-        <source>cannot be read</source>
-        <translation>non si può leggere</translation>
-    </message>
-    <message>
-        <source>is of no kind that can be read</source>
-        <translation>non è di un tipo leggibile</translation>
-    </message>
-    <message>
-        <source>the folder cannot be made</source>
-        <translation>la cartella non può essere creata</translation>
-    </message>
-    <message>
-        <source>there is not a second of a ride in it</source>
-        <translation>non contiene un secondo di guida</translation>
     </message>
 </context>
 <context>

@@ -148,7 +148,8 @@ private Q_SLOTS:
                             .arg(lap->cumulatedTime());
             return text += QString::number(cut.session->results().idealTime);
         };
-        // 10 m/s: a second after the pass the rider is still in the circle, another later he is not.
+        // 10 m/s: a second after the pass the rider is still in the circle, another later he is
+        // not.
         QCOMPARE(laps(u"-120..400/1"_s, 1000), u"1 12000; 2t- 12000; 3 52000; 19999"_s);
         // A section in a lap that is too short for the ranking.
         QCOMPARE(laps(u"-120..400/1"_s, 4100), u"1- 12000; 2t- 12000; 3- 52000; -1"_s);

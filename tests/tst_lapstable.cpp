@@ -222,12 +222,11 @@ private Q_SLOTS:
         table.view.applyColumns();
         QCOMPARE(hidden(table.table), u"10 11 12 13"_s);
         // In the order of the columns, each setting shows the next.
-        const Setting settings[] {Setting::ShowLapType,      Setting::ShowCumulatedTime,
-                                  Setting::ShowMaxSpeed,     Setting::ShowMinSpeed,
-                                  Setting::ShowAngleLeft,    Setting::ShowAngleRight,
-                                  Setting::ShowAccel,        Setting::ShowDecel,
-                                  Setting::ShowMinFrontSusp, Setting::ShowMaxFrontSusp,
-                                  Setting::ShowMinRearSusp,  Setting::ShowMaxRearSusp};
+        const Setting settings[] {
+            Setting::ShowLapType,      Setting::ShowCumulatedTime, Setting::ShowMaxSpeed,
+            Setting::ShowMinSpeed,     Setting::ShowAngleLeft,     Setting::ShowAngleRight,
+            Setting::ShowAccel,        Setting::ShowDecel,         Setting::ShowMinFrontSusp,
+            Setting::ShowMaxFrontSusp, Setting::ShowMinRearSusp,   Setting::ShowMaxRearSusp};
         for (const Setting setting : settings)
             table.settings.setValue(setting, false);
         table.settings.setValue(Setting::ShowPartiels, false);

@@ -86,8 +86,7 @@ private Q_SLOTS:
         const auto found = [](const QString &description, double outline = 3000) {
             const auto map = lineMap(10, outline, {{u"Start"_s, 1500}});
             const Points points = ride(description);
-            const QList<const Map *> candidates
-                = findCandidates(*sessionOf(points), {map.get()});
+            const QList<const Map *> candidates = findCandidates(*sessionOf(points), {map.get()});
             return candidates.size() == 1 && isFound(points, *map);
         };
         QVERIFY(found(u"-2000..3200/4"_s));

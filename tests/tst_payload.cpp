@@ -64,7 +64,8 @@ private Q_SLOTS:
     void misplacedPoint()
     {
         const auto session = sessionOf(ride(u"0 10 900 30..150/10"_s));
-        QVERIFY(pointPayload(session->samples()[2]).contains(R"("dataCoordX":null,"dataCoordY":nu)"));
+        QVERIFY(
+            pointPayload(session->samples()[2]).contains(R"("dataCoordX":null,"dataCoordY":nu)"));
         QVERIFY(!pointPayload(session->samples()[1]).contains("null"));
     }
 

@@ -119,13 +119,13 @@ private:
 int typeForEver(const QString &path)
 {
     QWidget window;
-    SessionInfos::Form form {new QLineEdit(&window), new QLineEdit(&window),
-                             new QLineEdit(&window), new QLineEdit(&window),
-                             new QComboBox(&window), new TemperatureBox(&window),
-                             new QLabel(&window),    new QTextEdit(&window),
-                             new QLabel(&window),    new QLabel(&window),
-                             new QLabel(&window),    new QLabel(&window),
-                             new QLabel(&window),    new QLabel(&window),
+    SessionInfos::Form form {new QLineEdit(&window),  new QLineEdit(&window),
+                             new QLineEdit(&window),  new QLineEdit(&window),
+                             new QComboBox(&window),  new TemperatureBox(&window),
+                             new QLabel(&window),     new QTextEdit(&window),
+                             new QLabel(&window),     new QLabel(&window),
+                             new QLabel(&window),     new QLabel(&window),
+                             new QLabel(&window),     new QLabel(&window),
                              new QTabWidget(&window), &window};
     form.condition->setEditable(true);
     InformationWriter writer;
@@ -171,8 +171,9 @@ int killWhileTyping(const QString &recording, const QString &folder, int kills)
         });
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
     }
-    std::printf("%d kills, %d files harmed, %d times more than two seconds lost (at most %lld ms)\n",
-                kills, harmed, late, static_cast<long long>(oldest));
+    std::printf(
+        "%d kills, %d files harmed, %d times more than two seconds lost (at most %lld ms)\n", kills,
+        harmed, late, static_cast<long long>(oldest));
     return harmed == 0 && late == 0 ? 0 : 1;
 }
 

@@ -24,8 +24,8 @@ namespace {
 
 constexpr std::array Signals {SIGTERM, SIGINT, SIGHUP};
 
-// A signal's handler may do next to nothing, but it may write into a pipe, whose other end the event
-// loop reads.
+// A signal's handler may do next to nothing, but it may write into a pipe, whose other end the
+// event loop reads.
 std::array<int, 2> ends {-1, -1};
 int &readEnd = ends[0];
 int &writeEnd = ends[1];

@@ -238,9 +238,8 @@ void LibraryTree::onSelectionChanged()
     // From here on the rider decides what is selected. When the selected file vanishes, its
     // neighbour becomes current, but nobody has asked to see it.
     m_isRestored = true;
-    const auto isRecent = [](const QElapsedTimer &since) {
-        return since.isValid() && !since.hasExpired(StepTime);
-    };
+    const auto isRecent
+        = [](const QElapsedTimer &since) { return since.isValid() && !since.hasExpired(StepTime); };
     if (isRecent(m_sinceKey) && isRecent(m_sinceChange))
         m_settling.start(StepTime);
     else

@@ -216,8 +216,8 @@ void SessionInfos::fillLabels()
     const Map *map = session != nullptr ? session->map() : nullptr;
     m_ui->lb_date->setText(session != nullptr ? dateText(session->recording()) : QString());
     m_ui->lb_circuit->setText(map != nullptr       ? map->displayName()
-                            : session != nullptr ? session->circuitName()
-                                                 : QString());
+                              : session != nullptr ? session->circuitName()
+                                                   : QString());
     m_ui->lb_bestLap->setText(session != nullptr ? session->bestLapText() : QString());
     m_ui->lb_idealTime_2->setText(session != nullptr ? session->idealTimeText() : QString());
     m_ui->lb_idealTime_2->setToolTip(session != nullptr ? missingSectionText(*session) : QString());

@@ -27,8 +27,8 @@ inline constexpr double LengthTolerance = 0.1;
     return std::fabs(distance - length) < LengthTolerance * length;
 }
 
-/// Milliseconds and a part of a circuit's length: what leads from the line to the line in less is no
-/// lap, but the same pass once more, or somebody who stands beside the line.
+/// Milliseconds and a part of a circuit's length: what leads from the line to the line in less is
+/// no lap, but the same pass once more, or somebody who stands beside the line.
 inline constexpr int ShortestLapTime = 10000;
 inline constexpr double ShortestLapPart = 0.1;
 

@@ -23,11 +23,6 @@ namespace zuno {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Formats", text);
-}
-
 /// Writes the outings of one file.
 class Import
 {
@@ -58,12 +53,12 @@ bool Import::prepare()
 {
     // Opening a pipe would wait for somebody to write to it.
     if (!QFileInfo(m_file.fileName()).isFile() || !m_file.open(QIODevice::ReadOnly)) {
-        m_outcome.error = tr("cannot be read");
+        m_outcome.error = QCoreApplication::translate("Formats", "cannot be read");
         return false;
     }
     m_outcome.reader = findRideReader(m_file.peek(HeadSize));
     if (m_outcome.reader == nullptr) {
-        m_outcome.error = tr("is of no kind that can be read");
+        m_outcome.error = QCoreApplication::translate("Formats", "is of no kind that can be read");
         return false;
     }
     if (m_options.folder.isEmpty())
@@ -73,7 +68,7 @@ bool Import::prepare()
     if (!m_outcome.presentAs.isEmpty())
         return false;
     if (!QDir().mkpath(m_options.folder))
-        m_outcome.error = tr("the folder cannot be made");
+        m_outcome.error = QCoreApplication::translate("Formats", "the folder cannot be made");
     return m_outcome.error.isEmpty();
 }
 
@@ -104,7 +99,8 @@ void Import::read()
     if (m_outcome.error.isEmpty())
         m_outcome.error = end.error;
     if (m_outcome.sessions.empty() && m_outcome.error.isEmpty())
-        m_outcome.error = tr("there is not a second of a ride in it");
+        m_outcome.error
+            = QCoreApplication::translate("Formats", "there is not a second of a ride in it");
     m_outcome.isCancelled = m_isStopped;
     if (!m_isStopped)
         return;

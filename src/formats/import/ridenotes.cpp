@@ -14,11 +14,6 @@ namespace zuno {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Formats", text);
-}
-
 double rateOf(const RideFacts &facts, const ConversionReport &report)
 {
     // Some apps interpolate what they write and say separately how often they measured.
@@ -76,22 +71,28 @@ QStringList ridesOddities(const RideFacts &facts, const ConversionReport &report
     QStringList oddities;
     const double rate = rateOf(facts, report);
     if (rate > 0 && rate < 4.5) {
-        oddities.append(tr("%1 Hz: lap times may be off by %2 s")
-                            .arg(rateText(rate), QString::number(rate < 1.5 ? 0.3 : 0.1)));
+        oddities.append(
+            QCoreApplication::translate("Formats", "%1 Hz: lap times may be off by %2 s")
+                .arg(rateText(rate), QString::number(rate < 1.5 ? 0.3 : 0.1)));
     }
     if (facts.damage.lines > 0) {
-        oddities.append(tr("%1 damaged lines left out, the first is line %2")
+        oddities.append(QCoreApplication::translate(
+                            "Formats", "%1 damaged lines left out, the first is line %2")
                             .arg(facts.damage.lines)
                             .arg(facts.damage.firstLine));
     }
     if (report.positions.jumps > 0)
-        oddities.append(tr("%1 impossible positions left out").arg(report.positions.jumps));
+        oddities.append(QCoreApplication::translate("Formats", "%1 impossible positions left out")
+                            .arg(report.positions.jumps));
     if (report.gaps > 0)
-        oddities.append(tr("%1 gaps without a position").arg(report.gaps));
+        oddities.append(
+            QCoreApplication::translate("Formats", "%1 gaps without a position").arg(report.gaps));
     if (report.speed != ChannelSource::Recorded)
-        oddities.append(tr("no speed: computed from positions"));
+        oddities.append(
+            QCoreApplication::translate("Formats", "no speed: computed from positions"));
     if (!facts.clockZero.isValid())
-        oddities.append(tr("no date: that of the file is taken"));
+        oddities.append(
+            QCoreApplication::translate("Formats", "no date: that of the file is taken"));
     return oddities;
 }
 

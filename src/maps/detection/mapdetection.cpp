@@ -113,8 +113,8 @@ void preferComplete(Session &session, const QList<const Map *> &candidates)
     const Map *best = nullptr;
     qsizetype most = 0;
     for (const Map *map : candidates) {
-        const qsizetype complete = completeLaps(
-            cutIntoLaps(session.wholeSamples(), *map, session.invalidLaps()).laps);
+        const qsizetype complete
+            = completeLaps(cutIntoLaps(session.wholeSamples(), *map, session.invalidLaps()).laps);
         if (complete > most) {
             most = complete;
             best = map;

@@ -27,8 +27,8 @@ class Session;
 
 /// Gives @p session the candidate whose length comes nearest to that of its second lap, the first
 /// that starts on the line. The first candidate is tried to cut the laps; without two laps it is
-/// passed over. Where that one gives no complete lap, another that does is taken, the one with the most
-/// of them. Without candidates the session has no map.
+/// passed over. Where that one gives no complete lap, another that does is taken, the one with the
+/// most of them. Without candidates the session has no map.
 void chooseMapByLength(Session &session, const QList<const Map *> &candidates);
 
 /// The maps among which that of a session is chosen.

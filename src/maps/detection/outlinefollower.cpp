@@ -15,8 +15,8 @@ namespace zuno {
 
 namespace {
 
-// Metres that an outline is wide to each side: a track, and the errors of two receivers. Also across
-// a cell of the grid in which outlines are looked up.
+// Metres that an outline is wide to each side: a track, and the errors of two receivers. Also
+// across a cell of the grid in which outlines are looked up.
 constexpr double Width = 25.0;
 
 // The cosine of 60 degrees.

@@ -21,8 +21,9 @@ class OutlineFollower
 public:
     explicit OutlineFollower(std::span<const PointAcquisition> samples);
 
-    /// Whether the ride follows the outline of @p map: over at least once the outline's length, most
-    /// of where it went is on the outline, in its direction, and it comes nearly everywhere on it.
+    /// Whether the ride follows the outline of @p map: over at least once the outline's length,
+    /// most of where it went is on the outline, in its direction, and it comes nearly everywhere on
+    /// it.
     [[nodiscard]] bool follows(const Map &map) const;
 
 private:

@@ -160,8 +160,7 @@ void MapEditor::connectForm()
     connect(m_ui->cb_outline, &QComboBox::activated, this, &MapEditor::chooseOutline);
     connect(m_ui->sb_gate, &QDoubleSpinBox::valueChanged, &m_gestures, &MapGestures::setGateSize);
     connect(m_ui->pointsPane, &MapPointsPane::pointSelected, &m_gestures, &MapGestures::select);
-    connect(m_ui->pointsPane, &MapPointsPane::addRequested, &m_gestures,
-            &MapGestures::addPoint);
+    connect(m_ui->pointsPane, &MapPointsPane::addRequested, &m_gestures, &MapGestures::addPoint);
     connect(m_ui->pointsPane, &MapPointsPane::removeRequested, &m_gestures,
             &MapGestures::removePoint);
     connect(m_ui->checkPane, &MapCheckPane::pointSelected, &m_gestures, &MapGestures::select);

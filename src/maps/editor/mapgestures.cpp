@@ -18,9 +18,7 @@ constexpr qint64 Pause = 1000;
 
 } // namespace
 
-MapGestures::MapGestures(MapEdit &edit, QObject *parent)
-    : QObject(parent)
-    , m_edit(edit)
+MapGestures::MapGestures(MapEdit &edit, QObject *parent) : QObject(parent), m_edit(edit)
 {
     connect(&m_edit, &MapEdit::changed, this,
             [this] { m_selected = std::min(m_selected, m_edit.pointCount() - 1); });

@@ -28,7 +28,8 @@ constexpr double NeighbourMargin = 4.0;
 constexpr double PausePart = 0.85;
 constexpr double SlowPausePart = 0.92;
 
-// Metres by which a receiver may be wrong in another way on another day, and the least gate for that.
+// Metres by which a receiver may be wrong in another way on another day, and the least gate for
+// that.
 constexpr double OtherDay = 2.25;
 constexpr double LeastOtherDay = 4.5;
 
@@ -233,8 +234,7 @@ GateChoice chooseGates(const Circuit &circuit, std::size_t line, double part)
     const double wish = std::max(UsualGateSize, 1.3 * (circuit.usualNeed() + Margin));
     GateChoice best;
     // Smaller where the track's pieces are near each other, larger where the samples are not.
-    for (const Passes passes :
-         {Passes::OtherDays, Passes::AllEasily, Passes::All, Passes::Most}) {
+    for (const Passes passes : {Passes::OtherDays, Passes::AllEasily, Passes::All, Passes::Most}) {
         const std::size_t enough = passes == Passes::OtherDays ? EnoughPoints : LeastPoints;
         for (const double factor : std::array {1.0, 0.8, 0.65, 0.5, 1.3, 0.4, 1.6}) {
             const double size

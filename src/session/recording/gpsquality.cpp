@@ -53,9 +53,9 @@ bool isImpossible(const PointAcquisition &from, const PointAcquisition &to)
         return false;
     const double reach = Impossible * milliseconds / 1000.0;
     // Longer than it is anywhere but on the equator, and cheap: nearly every sample ends here.
-    const double most = MetresPerDegree
-                        * std::hypot(to.dataCoordY - from.dataCoordY,
-                                     to.dataCoordX - from.dataCoordX);
+    const double most
+        = MetresPerDegree
+          * std::hypot(to.dataCoordY - from.dataCoordY, to.dataCoordX - from.dataCoordX);
     return most > 0.99 * reach && positionOf(from).distanceTo(positionOf(to)) > reach;
 }
 
@@ -99,10 +99,9 @@ void markMisplaced(std::span<PointAcquisition> samples)
     std::size_t before = end;
     for (std::size_t here = next(0); here < end; here = next(here + 1)) {
         const std::size_t after = next(here + 1);
-        const bool isSlip = before < end && after < end
-                            && isImpossible(samples[before], samples[here])
-                            && isImpossible(samples[here], samples[after])
-                            && isBackSoon(before, after);
+        const bool isSlip
+            = before < end && after < end && isImpossible(samples[before], samples[here])
+              && isImpossible(samples[here], samples[after]) && isBackSoon(before, after);
         if (isSlip)
             samples[here].isMisplaced = true;
         else

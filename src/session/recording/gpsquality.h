@@ -12,8 +12,8 @@
 namespace zuno {
 
 /// Marks the samples whose position would need more than 150 m/s both from the last good position
-/// before and to the next one after, while one soon after can be ridden to: a receiver's slip of one
-/// sample. @p samples in time order; where no time passes between samples nothing is said about
+/// before and to the next one after, while one soon after can be ridden to: a receiver's slip of
+/// one sample. @p samples in time order; where no time passes between samples nothing is said about
 /// speed, nor is it where more than a quarter of the ride is as fast: then its clock is wrong.
 void markMisplaced(std::span<PointAcquisition> samples);
 

@@ -64,9 +64,8 @@ constexpr int NamedSections = 6;
 std::span<const LapsTableModel::Column> LapsTableModel::columns()
 {
     static constexpr std::array Table {
-        Column {QT_TR_NOOP("Lap"),
-                [](const Lap &lap) { return QString::number(lap.lapNumber()); },
-                {}},
+        Column {
+            QT_TR_NOOP("Lap"), [](const Lap &lap) { return QString::number(lap.lapNumber()); }, {}},
         Column {QT_TR_NOOP("Type"), typeText, Setting::ShowLapType},
         Column {QT_TR_NOOP("Cumulated time"),
                 [](const Lap &lap) { return timeText(lap.cumulatedTime()); },

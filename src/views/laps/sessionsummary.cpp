@@ -6,8 +6,8 @@
 #include <QDir>
 #include <QLocale>
 
-#include <session/recording/gpsquality.h>
 #include <session/idealtimetext.h>
+#include <session/recording/gpsquality.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
 #include <track/map.h>
