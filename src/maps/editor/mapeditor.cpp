@@ -15,6 +15,7 @@
 
 #include <maps/editor/outlinechoice.h>
 #include <maps/page/mapviewcontroller.h>
+#include <track/map.h>
 #include <track/mapname.h>
 
 #include "ui_mapeditor.h"
