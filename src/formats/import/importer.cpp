@@ -224,7 +224,7 @@ QString findImported(const QString &folder, const QByteArray &fingerprint)
     QDirIterator files(folder, {QStringLiteral("*.ra1")}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
-        const QString path = files.next();
+        QString path = files.next();
         const auto origin = readSessionOrigin(path);
         if (origin && origin->fingerprint == fingerprint)
             return path;

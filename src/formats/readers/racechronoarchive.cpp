@@ -92,7 +92,7 @@ std::vector<RawRow> likelierRows(const Receiver &receiver)
 // Laps are objects that tell when they start and finish; names differ by version.
 void takeLaps(const QJsonArray &laps, RideFacts &facts)
 {
-    for (const QJsonValue &lap : laps) {
+    for (const auto lap : laps) {
         const QJsonObject object = lap.toObject();
         for (auto it = object.begin(); it != object.end(); ++it) {
             const double time = it.value().toDouble();
@@ -112,7 +112,7 @@ void takeSession(const QByteArray &json, RideFacts &facts)
     const QJsonObject session = QJsonDocument::fromJson(json).object();
     const auto text = [&session](std::initializer_list<const char *> names) {
         for (const char *name : names) {
-            const QString found = session.value(QLatin1String(name)).toString();
+            QString found = session.value(QLatin1String(name)).toString();
             if (!found.isEmpty())
                 return found;
         }
