@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(session->fileName(), u"2024-05-06 10h20 racechrono-csv.ra1"_s);
         QCOMPARE(session->recording().date, u"06/05/2024"_s);
         QCOMPARE(session->recording().time, u"10:20:30"_s);
-        QVERIFY(session->recording().hasWholeInformation);
+        QCOMPARE(session->recording().block, InformationBlock::Whole);
         QCOMPARE(session->circuitName(), u"Oval"_s);
         QCOMPARE(session->newSession(), quint8(1));
         QCOMPARE(session->samples().size(), std::size_t(200));
