@@ -11,14 +11,10 @@
 #include <vector>
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProcess>
-#include <QTabWidget>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -26,7 +22,6 @@
 #include <session/sessionfile.h>
 #include <session/sessionrewrite.h>
 #include <stats/sessioninfos.h>
-#include <stats/temperaturebox.h>
 
 namespace zuno::test {
 
@@ -118,24 +113,15 @@ private:
 
 int typeForEver(const QString &path)
 {
-    QWidget window;
-    SessionInfos::Form form {new QLineEdit(&window),  new QLineEdit(&window),
-                             new QLineEdit(&window),  new QLineEdit(&window),
-                             new QComboBox(&window),  new TemperatureBox(&window),
-                             new QLabel(&window),     new QTextEdit(&window),
-                             new QLabel(&window),     new QLabel(&window),
-                             new QLabel(&window),     new QLabel(&window),
-                             new QLabel(&window),     new QLabel(&window),
-                             new QTabWidget(&window), &window};
-    form.condition->setEditable(true);
     InformationWriter writer;
-    SessionInfos page(form, writer);
+    SessionInfos page(writer, u"en"_s);
+    auto *notes = page.findChild<QTextEdit *>(u"te_infos"_s);
     const OpenedSession opened = openSession(path);
     page.showSession(opened.session.get());
     int number = 0;
     QTimer keys;
     QObject::connect(&keys, &QTimer::timeout, [&] {
-        type(*form.notes, QString::number(++number));
+        type(*notes, QString::number(++number));
         std::printf("%d %lld\n", number, static_cast<long long>(now()));
         std::fflush(stdout);
     });

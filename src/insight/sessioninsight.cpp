@@ -45,6 +45,7 @@ InsightLap insightLap(const Lap &lap, const CircuitCorners &circuit,
 void flag(std::vector<InsightLap> &laps, const TrackParts &segments)
 {
     std::vector<const LapOnOutline *> paths;
+    paths.reserve(laps.size());
     for (const InsightLap &lap : laps)
         paths.push_back(&lap.path);
     const std::vector<LapFlags> flags = flagLaps(paths, segments);

@@ -77,7 +77,7 @@ QString labelOf(const TrackPart &part, const Corners &corners)
 {
     if (part.isLine())
         return QStringLiteral("line");
-    const QString first = corners[part.firstCorner].label();
+    QString first = corners[part.firstCorner].label();
     if (part.cornerCount == 1)
         return first;
     return first + u'-' + corners[part.firstCorner + part.cornerCount - 1].label();

@@ -46,8 +46,8 @@ struct SessionOrigin
 
 /// The words of a session file that say this.
 [[nodiscard]] std::vector<quint32> wordsOf(const SessionOrigin &origin);
-/// What words of a session file say; nothing when they are a logger's or damaged.
-[[nodiscard]] std::optional<SessionOrigin> originOf(const std::vector<quint32> &words);
+/// What a @p list of a session file's words says; nothing when it is a logger's or damaged.
+[[nodiscard]] std::optional<SessionOrigin> originOf(const std::vector<quint32> &list);
 /// What the session file at @p path says of its origin; nothing for one that was not imported.
 [[nodiscard]] std::optional<SessionOrigin> readSessionOrigin(const QString &path);
 
