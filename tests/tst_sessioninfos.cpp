@@ -125,7 +125,7 @@ private Q_SLOTS:
             {"te_infos", QString(260, u'\u00E9'), [](To &to) { to.notes = QByteArray(255, 'e'); }},
         };
         for (const auto &[name, typed, store] : rows) {
-            const Page page;
+            Page page;
             auto &field = page.field<QWidget>(name);
             type(field, typed);
             QTest::keyClick(&field, Qt::Key_Backtab);
@@ -138,7 +138,7 @@ private Q_SLOTS:
     // The rider sees what is stored.
     void shown()
     {
-        const Page page;
+        Page page;
         auto &driver = page.field("le_driver");
         type(driver, u"x"_s);
         driver.home(false);
@@ -165,7 +165,7 @@ private Q_SLOTS:
         information.condition = "dry";
         information.temperature = 120;
         information.notes = "a\r\nb\xc2\xa0\xc3\xa9";
-        const Page page(information);
+        Page page(information);
         QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
         auto &notes = page.field<QTextEdit>("te_infos");
         for (QWidget *field : page.infos.findChildren<QWidget *>()) {
@@ -219,7 +219,7 @@ private Q_SLOTS:
     // Not with every key, but also for who never stops.
     void writtenWhileTyping()
     {
-        const Page page;
+        Page page;
         const QSignalSpy written(&page.writer, &InformationWriter::written);
         QElapsedTimer clock;
         clock.start();
@@ -241,7 +241,7 @@ private Q_SLOTS:
     void twoPrograms()
     {
         for (const bool putsBack : {false, true}) {
-            const Page page;
+            Page page;
             const auto &notice = child<QWidget>(page.infos, "informationNotice");
             type(*page.form.driver, u"Zoe"_s);
             const OpenedSession other = openSession(page.path);
@@ -268,7 +268,7 @@ private Q_SLOTS:
     // Shown, but nothing is typed that could not be stored.
     void notRewritable()
     {
-        const Page page;
+        Page page;
         putFile(m_other,
                 SessionBytes {.version = "2.0", .information = InformationBytes().bytes()}.bytes());
         const auto newer = openSession(m_other).session;
@@ -283,7 +283,7 @@ private Q_SLOTS:
 
     void failedWrite()
     {
-        const Page page;
+        Page page;
         const QSignalSpy failed(&page.writer, &InformationWriter::failed);
         QVERIFY(QFile::rename(page.path, page.path + u".away"));
         type(*page.form.notes, u"abc"_s);

@@ -31,6 +31,10 @@ using namespace zuno::test;
 
 namespace {
 
+// Columns of the laps table.
+constexpr int MaxSpeed = 4;
+constexpr int SecondSection = 15;
+
 const QString LauraAgain = u"2026-04-18 14h05 Valmora.ra1"_s;
 
 /// Does something to the dialog that is open next, once it is.
@@ -101,7 +105,7 @@ private Q_SLOTS:
         const Paddock paddock;
         QTableView &table = paddock.table();
         const QModelIndex cell
-            = table.model()->index(table.currentIndex().row(), LapsTableModel::FirstSection + 1);
+            = table.model()->index(table.currentIndex().row(), SecondSection);
         QVERIFY(!paddock.state().isZoomed());
         table.setCurrentIndex(cell);
         if (byKey)
@@ -183,14 +187,14 @@ private Q_SLOTS:
     {
         const Paddock paddock;
         const QSignalSpy sent(paddock.page, &JSConnector::setOptions);
-        QVERIFY(!paddock.table().isColumnHidden(LapsTableModel::MaxSpeed));
+        QVERIFY(!paddock.table().isColumnHidden(MaxSpeed));
         onDialog([](QWidget &dialog) {
             child<QCheckBox>(dialog, "cb_maxSpeed").click();
             child<QCheckBox>(dialog, "cb_displayMinMax").click();
             child<QPushButton>(dialog, "pb_ok").click();
         });
         paddock.window->main.openSettings();
-        QVERIFY(paddock.table().isColumnHidden(LapsTableModel::MaxSpeed));
+        QVERIFY(paddock.table().isColumnHidden(MaxSpeed));
         QCOMPARE(sent.count(), 1);
         QVERIFY(sent[0][0].toString().contains(u"\"minMax\":\"false\""_s));
     }

@@ -529,8 +529,8 @@ void ZunoAnalyzer::showNothing()
 
 QString ZunoAnalyzer::emptyState() const
 {
-    const QString problem = LibraryFolder(m_settings.acquisitionFolder(), m_settings).problem();
-    if (!problem.isEmpty())
+    if (QString problem = LibraryFolder(m_settings.acquisitionFolder(), m_settings).problem();
+        !problem.isEmpty())
         return problem;
     if (m_library.size() == 0) {
         return tr("There are no sessions yet.\n\nDrop the session files (.ra1) of your logger "

@@ -64,7 +64,7 @@ std::vector<std::filesystem::path> unreadableEntries(const QString &folder)
 QString freePath(const QString &folder, const QString &name)
 {
     for (int number = 1;; ++number) {
-        const QString path = numberedPath(folder, name, number);
+        QString path = numberedPath(folder, name, number);
         if (!QFileInfo::exists(path) && !QFileInfo(path).isSymLink())
             return path;
     }
