@@ -21,7 +21,6 @@
 #include <views/charts/lapchart.h>
 #include <views/laps/lapselection.h>
 
-#include "../tests/chartpane.h"
 
 namespace zuno {
 
@@ -87,14 +86,13 @@ int run()
     second.setPoints(lap(1));
 
     LapSelection selection;
-    test::ChartPane pane;
-    LapCharts charts(pane.widgets, selection, settings);
-    pane.resize(1900, 900);
+    LapCharts charts(selection, settings);
+    charts.resize(1900, 900);
     charts.state().showLaps({&session, &first}, {&session, &second});
-    pane.show();
+    charts.show();
     QCoreApplication::processEvents();
     const double length = charts.state().whole().to;
-    const QList<LapChart *> drawn = pane.findChildren<LapChart *>();
+    const QList<LapChart *> drawn = charts.findChildren<LapChart *>();
 
     const double cursor
         = median([&](int turn) { charts.state().hover(length * ((turn * 37) % Turns) / Turns); });
