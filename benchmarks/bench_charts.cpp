@@ -19,8 +19,8 @@
 #include <base/settings.h>
 #include <session/session.h>
 #include <views/charts/lapchart.h>
+#include <views/charts/lapcharts.h>
 #include <views/laps/lapselection.h>
-
 
 namespace zuno {
 

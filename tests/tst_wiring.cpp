@@ -104,8 +104,7 @@ private Q_SLOTS:
         QFETCH(const bool, byKey);
         const Paddock paddock;
         QTableView &table = paddock.table();
-        const QModelIndex cell
-            = table.model()->index(table.currentIndex().row(), SecondSection);
+        const QModelIndex cell = table.model()->index(table.currentIndex().row(), SecondSection);
         QVERIFY(!paddock.state().isZoomed());
         table.setCurrentIndex(cell);
         if (byKey)

@@ -12,7 +12,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QStandardPaths>
 
 #include <base/bytereader.h>
 #include <base/filestamp.h>
@@ -43,8 +42,8 @@ private:
     // Not where everybody may write: another user's file in the way would cost each write a second.
     static QString folder()
     {
-        const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-        return runtime.isEmpty() ? QDir::tempPath() : runtime;
+        const QFileInfo runtime(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+        return runtime.isDir() && runtime.isWritable() ? runtime.filePath() : QDir::tempPath();
     }
 
     // Lock files stand in no library: it may be on a card, and it is the rider's.

@@ -4,6 +4,9 @@
 #include <tools/pictures/windows.h>
 
 #include <QAction>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
 #include <QTabWidget>
 #include <QTreeView>
 
@@ -99,6 +102,17 @@ void selectFolder(Stage &stage)
                                        + QStringLiteral("/Imported Sessions"));
 }
 
+// A recording that is none of the library's.
+void openFromCard(Stage &stage)
+{
+    const QString card = QDir::tempPath() + QStringLiteral("/0001.ra1");
+    QDirIterator files(stage.object<LibraryTree>().folder(), {QStringLiteral("*.ra1")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    QFile::remove(card);
+    QFile::copy(files.next(), card);
+    stage.window().openFile(card);
+}
+
 /// How to open each window that is not the main one; it is closed again by whoever looks at it.
 struct Window
 {
@@ -121,8 +135,7 @@ constexpr Window Windows[] {
          selectFolder(stage);
          stage.object<LibraryTree>().createFolder();
      }},
-    {"import",
-     [](Stage &stage) { stage.window().openFile(QStringLiteral("/media/card/0001.ra1")); }},
+    {"import", openFromCard},
 };
 
 } // namespace
