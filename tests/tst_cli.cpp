@@ -184,13 +184,13 @@ private Q_SLOTS:
         const QJsonObject json
             = run(u"insight --json --maps demo/Map run.ra1 --lap 3 --against run.ra1:5"_s).json();
         double sum = 0.0;
-        for (const QJsonValue &loss : json[u"losses"].toArray())
+        for (const auto loss : json[u"losses"].toArray())
             sum += loss[u"loss"].toDouble();
         QCOMPARE(qRound(1000.0 * sum), laps[2][u"time"].toInt() - laps[4][u"time"].toInt());
         QCOMPARE(json[u"losses"].toArray().size(), json[u"units"].toArray().size());
-        for (const QJsonValue &lap : json[u"laps"].toArray()) {
+        for (const auto lap : json[u"laps"].toArray()) {
             int time = 0;
-            for (const QJsonValue &unit : lap[u"unitTime"].toArray())
+            for (const auto unit : lap[u"unitTime"].toArray())
                 time += qRound(1000.0 * unit.toDouble());
             QCOMPARE(time, laps[lap[u"number"].toInt() - 1][u"time"].toInt());
         }
