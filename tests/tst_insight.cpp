@@ -61,6 +61,7 @@ struct Ride
 std::vector<LapPlan> lapsOf(const std::vector<Ride> &rides)
 {
     std::vector<LapPlan> laps;
+    laps.reserve(rides.size());
     for (const Ride &ride : rides)
         laps.push_back({ride, {}});
     return laps;

@@ -9,8 +9,8 @@ namespace zuno {
 
 namespace {
 
-const QString Gpx = QStringLiteral("http://www.topografix.com/GPX/1/1");
-const QString Extension = QStringLiteral("http://www.garmin.com/xmlschemas/TrackPointExtension/v2");
+constexpr QLatin1String Gpx("http://www.topografix.com/GPX/1/1");
+constexpr QLatin1String Extension("http://www.garmin.com/xmlschemas/TrackPointExtension/v2");
 
 QString number(double value, int decimals)
 {
