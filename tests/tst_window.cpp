@@ -58,6 +58,8 @@ private Q_SLOTS:
         QVERIFY(home.settings.isStored(Setting::AcquisitionFolder));
         QVERIFY(home.settings.isStored(Setting::ShowLapType));
         QVERIFY(window.state().startsWith(u"There are no sessions yet."));
+        putFile(home.path(AtValmora), demoFile(AtValmora));
+        QTRY_VERIFY(window.state().startsWith(u"Select a session in the list"));
     }
 
     void languages_data()
@@ -194,6 +196,27 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(home.path(AtValmora)));
         QTRY_VERIFY(window.state().startsWith(u"There are no sessions yet."));
         QVERIFY(window.part<QLineEdit>("le_driver").text().isEmpty());
+    }
+
+    // No session may point at a map that is loaded no more.
+    void otherMaps()
+    {
+        const Home home({AtValmora}, {u"Valmora.map"_s});
+        home.startedBefore(AtValmora);
+        Window window;
+        QTRY_COMPARE(window.laps(), 7);
+        const QTemporaryDir empty;
+        window.main.loadMaps(empty.path());
+        QCOMPARE(window.laps(), 0);
+        window.main.reloadMaps();
+        QCOMPARE(window.laps(), 7);
+        Session *session = window.main.findSessionByPath(home.path(AtValmora));
+        const Map *map = session->map();
+        window.main.chooseMapByLength(nullptr, {map});
+        window.main.chooseMapByLength(session, {});
+        QVERIFY(session->map() == nullptr);
+        window.main.chooseMapByLength(session, {map});
+        QVERIFY(session->map() == map && session->laps().size() == 7);
     }
 
     void throwsLapOut()
