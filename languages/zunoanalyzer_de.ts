@@ -2026,5 +2026,9 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
         <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
         <translation>„%1“ ist zu groß, um gezeigt zu werden: Eine Session hat höchstens 1 GB und 20 Millionen Messpunkte.</translation>
     </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Karte und Runden</translation>
+    </message>
 </context>
 </TS>

@@ -2026,5 +2026,9 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
         <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
         <translation>«%1» es demasiado grande para mostrarse: una sesión tiene como máximo 1 GB y 20 millones de muestras.</translation>
     </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Mapa y vueltas</translation>
+    </message>
 </context>
 </TS>

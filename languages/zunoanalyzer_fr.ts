@@ -2026,5 +2026,9 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
         <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
         <translation>«&#xa0;%1&#xa0;» est trop grand pour être affiché&#xa0;: une session a 1 Go et 20 millions de points au plus.</translation>
     </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Carte et tours</translation>
+    </message>
 </context>
 </TS>

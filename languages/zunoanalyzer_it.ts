@@ -2026,5 +2026,9 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
         <source>&quot;%1&quot; is too large to be shown: a session has 1 GB and 20 million samples at most.</source>
         <translation>«%1» è troppo grande per essere mostrato: una sessione ha al massimo 1 GB e 20 milioni di campioni.</translation>
     </message>
+    <message>
+        <source>Map and Laps</source>
+        <translation>Mappa e giri</translation>
+    </message>
 </context>
 </TS>

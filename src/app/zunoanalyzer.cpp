@@ -111,7 +111,11 @@ void ZunoAnalyzer::arrangePanes()
     m_ui->splitter1->addWidget(m_charts);
     // Until the rider chooses: two parts of the height to three, larger than any least height.
     m_ui->splitter1->setSizes({2000, 3000});
+    // The splitter itself is the tab, without the page that the form has around it.
+    m_ui->tabWidget->clear();
+    m_ui->tabWidget->addTab(m_ui->splitter1, tr("Maps and Laps  "));
     m_ui->tabWidget->addTab(m_infos, tr(" Session infos  "));
+    m_ui->tabWidget->setCurrentIndex(0);
     connect(m_ui->tabWidget, &QTabWidget::currentChanged, m_infos, &SessionInfos::onTabChanged);
     m_ui->splitter3->insertWidget(0, m_files);
     m_ui->splitter3->setStretchFactor(1, 1);
