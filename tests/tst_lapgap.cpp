@@ -23,7 +23,8 @@ namespace {
 class Road
 {
 public:
-    Road(const QString &stretches)
+    Road() = default;
+    explicit Road(const QString &stretches)
     {
         for (const QString &stretch : stretches.split(u' ')) {
             const auto steps = static_cast<int>(stretch.section(u'/', 0, 0).toDouble() * 100.0);
@@ -48,6 +49,8 @@ private:
     std::vector<std::array<double, 3>> m_spots {{0.0, 0.0, 0.0}}; // a hundred to a metre
 };
 
+constexpr double StandTime = 8000.0;
+
 struct Ride
 {
     double right = 0.0;
@@ -60,11 +63,14 @@ struct Ride
     int lostTo = 0;
     // Metres at most.
     double end = 1e9;
+    // Where the rider stands for eight seconds while the receiver's positions wander.
+    double stand = 1e9;
 
     // Milliseconds at so many metres, at 18 to 34 m/s; and the other way around.
     [[nodiscard]] double timeAt(double along) const
     {
-        return (along / 0.024) + (1500.0 * std::sin(along / 120.0)) + (trend * along * along);
+        return (along / 0.024) + (1500.0 * std::sin(along / 120.0)) + (trend * along * along)
+               + (along > stand ? StandTime : 0.0);
     }
     [[nodiscard]] double placeAt(double time) const
     {
@@ -75,6 +81,17 @@ struct Ride
     }
 };
 
+/// A lap that ends at the line.
+std::unique_ptr<Lap> lapOf(const Points &points, qint32 number, bool isComplete)
+{
+    auto lap = std::make_unique<Lap>();
+    lap->setLapNumber(number);
+    lap->setPoints(points);
+    lap->setIsComplete(isComplete);
+    lap->setEndsAtLine(true);
+    return lap;
+}
+
 std::unique_ptr<Lap> lapOn(const Road &road, const Ride &ride, double stretch = 1.0)
 {
     const double end = std::min(road.length(), ride.end);
@@ -82,7 +99,9 @@ std::unique_ptr<Lap> lapOn(const Road &road, const Ride &ride, double stretch = 
     for (double time = 0.0, along = 0.0; along < end; time += ride.interval) {
         along = std::min(ride.placeAt(time), end);
         const bool lost = time >= ride.lostFrom && time < ride.lostTo;
-        const QGeoCoordinate where = road.at(along, ride.right);
+        const bool stands = std::fabs(along - ride.stand) < 0.001;
+        const QGeoCoordinate where
+            = road.at(along + (stands ? 2.0 * std::sin(time / 900.0) : 0.0), ride.right);
         PointAcquisition point;
         const double stamp = std::min(time, ride.timeAt(end)) * stretch;
         point.dataTimeStamp = 5000 + static_cast<quint32>(std::round(stamp));
@@ -90,10 +109,7 @@ std::unique_ptr<Lap> lapOn(const Road &road, const Ride &ride, double stretch = 
         point.dataCoordY = lost ? NoFixCoordinate : where.latitude();
         points.push_back(point);
     }
-    auto lap = std::make_unique<Lap>();
-    lap->setLapNumber(2);
-    lap->setPoints(points);
-    lap->setIsComplete(end < ride.end);
+    std::unique_ptr<Lap> lap = lapOf(points, 2, end < ride.end);
     lap->setEndsAtLine(end < ride.end);
     return lap;
 }
@@ -103,9 +119,11 @@ double elapsed(const Lap &lap, std::size_t i)
     return lap.points()[i].dataTimeStamp - 5000.0;
 }
 
-const Road Circuit(u"400 188.5/180 150 47.1/-90 47.1/90 190 94.2/90 60 94.2/90"_s);
+const QString CircuitText = u"400 188.5/180 150 47.1/-90 47.1/90 190 94.2/90 60 94.2/90"_s;
+const Road Circuit(CircuitText);
 // Its legs are twelve metres apart, and two riders take its turns quite differently.
 const Road Hairpins(u"300 18.8/180 280 18.8/-180 300"_s);
+const Road ShortLegs(u"400 18.8/180 80 18.8/-180 300"_s);
 const Road Eight(u"200 235.6/270 200 235.6/-270 60"_s);
 
 } // namespace
@@ -115,60 +133,129 @@ class TestLapGap : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void againstItself_data()
+    {
+        QTest::addColumn<double>("stretch"); // of the first lap's times
+        QTest::addColumn<double>("end");
+        QTest::newRow("same") << 1.0 << 1e9;
+        QTest::newRow("slower") << 1.01 << 1e9;
+        QTest::newRow("ends somewhere") << 1.0 << 600.0;
+    }
     void againstItself()
     {
+        QFETCH(const double, stretch);
+        QFETCH(const double, end);
+        const std::unique_ptr<Lap> lap = lapOn(Circuit, {0.0, 0.0, 100, 0, 0, end});
+        const std::unique_ptr<Lap> slower = lapOn(Circuit, {0.0, 0.0, 100, 0, 0, end}, stretch);
+        const LapGap gap(*slower, *lap);
+        QCOMPARE(gap.size(), lap->points().size());
+        for (std::size_t i = 0; i < gap.size(); ++i) {
+            QCOMPARE(gap.gap(i), elapsed(*slower, i) - elapsed(*lap, i));
+            QCOMPARE(gap.secondPoint(i), static_cast<double>(i));
+        }
+        QCOMPARE(gap.secondPointAt(-5.0), 0.0);
+        QCOMPARE(gap.secondPointAt(250.0), 2.5);
+        QCOMPARE(gap.firstPointAt(250.0 * stretch), 2.5);
+        QCOMPARE(gap.secondPointAt(1e9), static_cast<double>(gap.size() - 1));
+    }
+
+    // Where the ways have nothing in common the gap is even, and a clock that was put back makes
+    // nobody ride backwards.
+    void oddLaps()
+    {
         const std::unique_ptr<Lap> lap = lapOn(Circuit, {});
-        for (const double stretch : {1.0, 1.01}) {
-            const std::unique_ptr<Lap> slower = lapOn(Circuit, {}, stretch);
-            const LapGap gap(*slower, *lap);
-            QCOMPARE(gap.size(), lap->points().size());
-            for (std::size_t i = 0; i < gap.size(); ++i) {
-                QCOMPARE(gap.gap(i), elapsed(*slower, i) - elapsed(*lap, i));
-                QCOMPARE(gap.secondPoint(i), static_cast<double>(i));
-            }
-            QCOMPARE(gap.secondPointAt(250.0), 2.5);
-            QCOMPARE(gap.secondPointAt(1e9), static_cast<double>(gap.size() - 1));
+        const Road straight(u"600"_s);
+        const std::unique_ptr<Lap> aside = lapOn(straight, {75.0}, 1.1);
+        const LapGap even(*aside, *lapOn(straight, {0.0, 0.0001}));
+        const double share = even.gap(even.size() - 1) / aside->lapTime();
+        for (std::size_t i = 0; i < even.size(); ++i)
+            QVERIFY(std::fabs(even.gap(i) - (elapsed(*aside, i) * share)) < 1.0);
+        Points points = lap->points();
+        for (std::size_t i = 200; i < points.size(); ++i)
+            points[i].dataTimeStamp -= 3000;
+        const auto put = lapOf(points, 2, true);
+        for (const LapGap &gap : {LapGap(*put, *lap), LapGap(*lap, *put)}) {
+            for (std::size_t i = 1; i < gap.size(); ++i)
+                QVERIFY(gap.secondTime(i) >= gap.secondTime(i - 1));
         }
     }
 
-    void samePlace()
+    // The ends of both laps are one place only when the second has no way left to it.
+    void ends_data()
     {
+        QTest::addColumn<Road>("road"); // of the second lap, which is not complete
+        QTest::addColumn<int>("lost"); // positions of the first, milliseconds before its end
+        QTest::addColumn<int>("gap");
+        QTest::newRow("lost before the line") << Circuit << 4000 << 0;
+        QTest::newRow("passed the line unseen") << Road(CircuitText + u' ' + CircuitText) << 0 << 0;
+        QTest::newRow("both at once") << Road(CircuitText + u' ' + CircuitText) << 4000 << -1;
+    }
+    void ends()
+    {
+        QFETCH(const Road, road);
+        QFETCH(const int, lost);
+        QFETCH(const int, gap);
+        const int end = lapOn(Circuit, {})->lapTime();
+        const auto lap = lapOn(Circuit, {0.0, 0.0, 100, end - lost, end});
+        const auto other = lapOf(lapOn(road, {})->points(), 2, false);
+        const LapGap found(*lap, *other);
+        const double last = found.gap(found.size() - 1);
+        QVERIFY(gap < 0 ? std::isnan(last) : std::fabs(last - gap) < 1.0);
+    }
+
+    void samePlace_data()
+    {
+        QTest::addColumn<Road>("road");
+        QTest::addColumn<Ride>("first");
+        QTest::addColumn<Ride>("second");
+        QTest::addColumn<double>("tolerance"); // milliseconds
         const Ride middle;
         const Ride slower {-3.0, 0.0005};
-        const struct
-        {
-            QString name;
-            const Road &road;
-            Ride first;
-            Ride second;
-            double tolerance; // milliseconds
-        } rows[] = {
-            {u"slower"_s, Circuit, slower, middle, 20},
-            {u"1 Hz to 10 Hz"_s, Circuit, {-3.0, 0.0005, 1000}, middle, 20},
-            {u"10 Hz to 1 Hz"_s, Circuit, slower, {0.0, 0.0, 1000}, 60},
-            {u"first lost in the turn"_s, Circuit, {-3.0, 0.0005, 100, 17000, 24000}, middle, 60},
-            {u"second lost in the turn"_s, Circuit, slower, {0.0, 0.0, 100, 17000, 24000}, 60},
-            {u"eight"_s, Eight, slower, middle, 20},
-            {u"lost at the crossing"_s, Eight, slower, {0.0, 0.0, 100, 6000, 9000}, 60},
-            {u"hairpins, lines crossing"_s, Hairpins, {3.0, 0.0005}, {-3.0}, 200},
-            {u"lost in a hairpin"_s, Hairpins, {-3.0, 0.0005, 100, 11000, 15000}, middle, 80},
-        };
-        for (const auto &row : rows) {
-            const std::unique_ptr<Lap> first = lapOn(row.road, row.first);
-            const std::unique_ptr<Lap> second = lapOn(row.road, row.second);
-            const LapGap gap(*first, *second);
-            for (std::size_t i = 0; i + 1 < gap.size(); ++i) {
-                const double time = elapsed(*first, i);
-                const double truth = time - row.second.timeAt(row.first.placeAt(time));
-                QVERIFY2(
-                    std::fabs(gap.gap(i) - truth) < row.tolerance,
-                    qPrintable(u"%1 at %2 ms: %3 ms"_s.arg(row.name).arg(time).arg(gap.gap(i))));
-            }
-            QCOMPARE(gap.gap(0), 0.0);
-            QCOMPARE(gap.gap(gap.size() - 1), double(first->lapTime() - second->lapTime()));
+        const Ride lost {0.0, 0.0, 100, 17000, 24000};
+        const auto row
+            = [](const char *name, const Road &road, const Ride &first, const Ride &second,
+                 double tolerance) { QTest::newRow(name) << road << first << second << tolerance; };
+        // A tolerance is what positions between samples cost, and little more.
+        row("slower", Circuit, slower, middle, 13);
+        row("far to the side", Circuit, {25.0}, {-9.0}, 110);
+        row("1 Hz to 10 Hz", Circuit, {-3.0, 0.0005, 1000}, middle, 6);
+        row("10 Hz to 1 Hz", Circuit, slower, {0.0, 0.0, 1000}, 38);
+        row("first lost in the turn", Circuit, {-3.0, 0.0005, 100, 17000, 24000}, middle, 13);
+        row("second lost in the turn", Circuit, slower, lost, 13);
+        row("lost in the turn, far outside", Circuit, {20.0, 0.0, 100, 17000, 24000}, middle, 95);
+        row("first stands", Circuit, {-3.0, 0.0, 100, 0, 0, 1e9, 480.0}, middle, 140);
+        row("second stands", Circuit, slower, {0.0, 0.0, 100, 0, 0, 1e9, 480.0}, 60);
+        row("eight", Eight, slower, middle, 3);
+        row("lost at the crossing", Eight, slower, {0.0, 0.0, 100, 6000, 9000}, 3);
+        row("hairpins, lines crossing", Hairpins, {3.0, 0.0005}, {-3.0}, 70);
+        row("lost in a hairpin", Hairpins, {-3.0, 0.0005, 100, 11000, 15000}, middle, 36);
+        row("beside the way back", ShortLegs, {11.0, 0.0, 100, 16300, 18000}, middle, 55);
+        // The third leg is nearer, the first one has the distance driven.
+        row("back beside another leg", ShortLegs, {13.0, 0.0, 100, 1000, 15500, 397.0}, middle, 20);
+    }
+    void samePlace()
+    {
+        QFETCH(const Road, road);
+        QFETCH(const Ride, first);
+        QFETCH(const Ride, second);
+        QFETCH(const double, tolerance);
+        const std::unique_ptr<Lap> lap = lapOn(road, first);
+        const std::unique_ptr<Lap> other = lapOn(road, second);
+        const LapGap gap(*lap, *other);
+        for (std::size_t i = 0; i + 1 < gap.size(); ++i) {
+            const double time = elapsed(*lap, i);
+            const double along = first.placeAt(time);
+            const double truth = time - second.timeAt(along);
+            // Where the second stands he is at all times at once.
+            if (std::fabs(along - second.stand) < 10.0)
+                continue;
+            QVERIFY2(std::fabs(gap.gap(i) - truth) < tolerance,
+                     qPrintable(u"%1 ms, not %2, at %3"_s.arg(gap.gap(i)).arg(truth).arg(time)));
+            QVERIFY(!(gap.secondTime(i) > gap.secondTime(i + 1)));
         }
-        // A wider line is longer all the same.
-        QVERIFY(lapOn(Circuit, {-3.0})->distance() > lapOn(Circuit, middle)->distance() + 15.0);
+        QCOMPARE(gap.gap(0), 0.0);
+        if (lap->endsAtLine())
+            QCOMPARE(gap.gap(gap.size() - 1), double(lap->lapTime() - other->lapTime()));
     }
 
     // The first lap of a recording starts somewhere, the last ends somewhere.
@@ -188,14 +275,17 @@ private Q_SLOTS:
 
         Points points = lapOn(Circuit, {2.0})->points();
         points.erase(points.begin(), points.begin() + 150);
-        Lap outLap;
-        outLap.setLapNumber(1);
-        outLap.setPoints(points);
-        outLap.setIsComplete(true);
-        outLap.setEndsAtLine(true);
-        const LapGap fromOutLap(outLap, *lap);
+        const auto outLap = lapOf(points, 1, true);
+        const LapGap fromOutLap(*outLap, *lap);
         for (std::size_t i = 0; i < fromOutLap.size(); ++i)
             QVERIFY(std::fabs(fromOutLap.gap(i) + 15000.0) < 20.0);
+        // Neither starts nor ends with the other.
+        points.erase(points.end() - 40, points.end());
+        const auto middle = lapOf(points, 1, false);
+        middle->setEndsAtLine(false);
+        const LapGap fromMiddle(*middle, *lap);
+        for (std::size_t i = 1; i + 1 < fromMiddle.size(); ++i)
+            QVERIFY(std::fabs(fromMiddle.gap(i) + 15000.0) < 20.0);
 
         const Lap none;
         QVERIFY(LapGap(none, *lap).isEmpty());

@@ -60,6 +60,48 @@ private Q_SLOTS:
         QCOMPARE(stampFromFloat(std::numeric_limits<float>::quiet_NaN()), 0U);
     }
 
+    // Which positions are good (.), missing (-) or nowhere to be ridden to (!).
+    void jumps_data()
+    {
+        QTest::addColumn<QString>("ride"); // metres east, at milliseconds
+        QTest::addColumn<QString>("verdicts");
+        QTest::newRow("500 km/h and 50 m") << u"0@0 188@1000"_s << u".."_s;
+        QTest::newRow("faster") << u"0@0 190@1000"_s << u".!"_s;
+        QTest::newRow("receiver's error") << u"0@0 49@0 -1@10"_s << u"..."_s;
+        QTest::newRow("greater error") << u"0@0 51@0"_s << u".!"_s;
+        QTest::newRow("all the way on") << u"0@0 180@1000 360@2000 540@3000"_s << u"...."_s;
+        QTest::newRow("glitch") << u"0@0 5000@100 20@200"_s << u".!."_s;
+        QTest::newRow("no position") << u"0@0 -@100 20@200"_s << u".-."_s;
+        QTest::newRow("stays for a second")
+            << u"0@0 5000@100 5000@600 5000@1099 5000@1100 5000@1200"_s << u".!!!.."_s;
+        QTest::newRow("stays elsewhere for a second")
+            << u"0@0 5000@100 9000@700 9000@1150 9000@1800"_s << u".!!!."_s;
+        QTest::newRow("never stays")
+            << u"0@0 5000@100 9000@1700 5000@3300 9000@4900"_s << u".!!!!"_s;
+        QTest::newRow("back in between") << u"0@0 5000@100 0@200 5000@1500"_s << u".!.!"_s;
+    }
+    void jumps()
+    {
+        QFETCH(const QString, ride);
+        QFETCH(const QString, verdicts);
+        Points points;
+        const QStringList spots = ride.split(u' ');
+        for (const QString &spot : spots) {
+            const bool isMissing = spot.startsWith(u"-@");
+            const QGeoCoordinate where = place(0, spot.section(u'@', 0, 0).toDouble());
+            points.emplace_back().dataTimeStamp = spot.section(u'@', 1).toUInt();
+            points.back().dataCoordX = isMissing ? NoFixCoordinate : where.longitude();
+            points.back().dataCoordY = isMissing ? NoFixCoordinate : where.latitude();
+        }
+        PositionJudge judge;
+        QString found;
+        for (const PointAcquisition &point : points)
+            found += u".-!"_s[static_cast<int>(judge.judge(point))];
+        QCOMPARE(found, verdicts);
+        QCOMPARE(gpsQuality(points).withoutPosition, verdicts.count(u'-'));
+        QCOMPARE(gpsQuality(points).jumps, verdicts.count(u'!'));
+    }
+
     // Readings in blocks of ten, to each of three samples: those of the first list and of the
     // second.
     void attachesReadings()
