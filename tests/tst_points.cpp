@@ -40,22 +40,32 @@ class TestPoints final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // A value, rounded and cut off.
-    void numbers()
+    void numbers_data()
     {
         constexpr qint32 Out = std::numeric_limits<qint32>::min();
-        const QList<std::tuple<double, qint32, qint32>> rows {
-            {10.5, 11, 10},         {-10.5, -11, -10},
-            {-0.75, -1, 0},         {2147483520, 2147483520, 2147483520},
-            {2147483648, Out, Out}, {NaN, Out, Out},
-            {-1e300, Out, Out}};
-        for (const auto &[value, rounded, truncated] : rows) {
-            PointAcquisition point;
-            point.dataSpeed = point.dataAngle = value;
-            QCOMPARE(point.roundedSpeed(), rounded);
-            QCOMPARE(point.roundedAngle(), rounded);
-            QCOMPARE(truncatedToInt(value), truncated);
-        }
+        QTest::addColumn<double>("value");
+        QTest::addColumn<qint32>("rounded");
+        QTest::addColumn<qint32>("truncated");
+        QTest::newRow("half") << 10.5 << 11 << 10;
+        QTest::newRow("half below zero") << -10.5 << -11 << -10;
+        QTest::newRow("above minus one") << -0.75 << -1 << 0;
+        QTest::newRow("largest") << 2147483520.0 << 2147483520 << 2147483520;
+        QTest::newRow("too large") << 2147483648.0 << Out << Out;
+        QTest::newRow("no number") << NaN << Out << Out;
+        QTest::newRow("too small") << -1e300 << Out << Out;
+    }
+    void numbers()
+    {
+        QFETCH(const double, value);
+        PointAcquisition point;
+        point.dataSpeed = point.dataAngle = value;
+        QTEST(point.roundedSpeed(), "rounded");
+        QTEST(point.roundedAngle(), "rounded");
+        QTEST(truncatedToInt(value), "truncated");
+    }
+
+    void floatStamps()
+    {
         QCOMPARE(stampFromFloat(4294967808.0F), 512U);
         QCOMPARE(stampFromFloat(std::numeric_limits<float>::quiet_NaN()), 0U);
     }
