@@ -10,6 +10,7 @@
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
 #include <library/informationwriter.h>
+#include <library/libraryfolder.h>
 #include <library/mapfolder.h>
 #include <library/sessiondisplay.h>
 #include <library/unsavedchanges.h>
@@ -329,6 +330,24 @@ private Q_SLOTS:
         QVERIFY(outfit.writer.write(*session).ok());
         QCOMPARE(openSession(path).session->notes(), u"mine"_s);
         QVERIFY(!outfit.library.refresh(path));
+    }
+
+    // What a link leads to is shown, and stays as it is.
+    void writesInTheLibraryOnly()
+    {
+        Outfit outfit({u"a.ra1"_s});
+        const QString other = outfit.root.filePath(u"else/b.ra1"_s);
+        putFile(other, fullSession().bytes());
+        QVERIFY(QFile::link(QFileInfo(other).path(), outfit.path(u"out"_s)));
+        outfit.library.load(outfit.path(u""_s));
+        outfit.writer.setLibrary(LibraryFolder(outfit.path(u""_s)));
+        for (const auto &[name, outcome] : {std::pair(u"a.ra1"_s, RewriteOutcome::Written),
+                                            {u"out/b.ra1"_s, RewriteOutcome::WriteFailed}}) {
+            Session *session = outfit.library.find(outfit.path(name));
+            session->setDriver(u"Bob"_s);
+            QCOMPARE(outfit.writer.write(*session).outcome, outcome);
+        }
+        QCOMPARE(contents(other), fullSession().bytes());
     }
 
     // A write-protected card must not complain at every selection. There is no room for the name

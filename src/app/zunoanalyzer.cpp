@@ -240,6 +240,7 @@ void ZunoAnalyzer::onFolderChanged()
 
 void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
 {
+    m_writer.setLibrary(LibraryFolder(folder, m_settings));
     m_library.load(folder);
     m_files->tree().setFolder(folder);
     if (!m_files->tree().isShown()) {

@@ -65,10 +65,19 @@ RewriteResult InformationWriter::write(Session &session, Cause cause)
     forget(session);
     const bool isEdited = cause == Cause::Edited || session.isUnsaved();
     session.setUnsaved(isEdited);
-    RewriteResult result
-        = rewriteSessionFile(session, isEdited ? Occasion::Edited : Occasion::FirstDisplay);
+    RewriteResult result;
+    if (isForeign(session.filePath()))
+        result = {RewriteOutcome::WriteFailed, tr("the file is not in your library")};
+    else
+        result = rewriteSessionFile(session, isEdited ? Occasion::Edited : Occasion::FirstDisplay);
     handle(session, result, cause);
     return result;
+}
+
+// A link in the library leads to it.
+bool InformationWriter::isForeign(const QString &path) const
+{
+    return !m_library.path().isEmpty() && QFileInfo::exists(path) && !m_library.holds(path);
 }
 
 void InformationWriter::handle(Session &session, const RewriteResult &result, Cause cause)

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <base/filestamp.h>
+#include <library/libraryfolder.h>
 #include <session/session.h>
 #include <session/sessionrewrite.h>
 
@@ -32,6 +33,9 @@ public:
     };
 
     explicit InformationWriter(QObject *parent = nullptr);
+
+    /// The library outside of which no file is written; until it is given, any file is.
+    void setLibrary(const LibraryFolder &library) { m_library = library; }
 
     /// Rewrites the information block of the session's file now.
     RewriteResult write(Session &session, Cause cause = Cause::Shown);
@@ -63,11 +67,13 @@ private:
         QDeadlineTimer due;
     };
 
+    [[nodiscard]] bool isForeign(const QString &path) const;
     void forget(const Session &session);
     void writeRested();
     void handle(Session &session, const RewriteResult &result, Cause cause);
     void tell(const QString &message, Cause cause);
 
+    LibraryFolder m_library;
     QList<QPointer<Session>> m_typed;
     QTimer m_typing;
     QList<Resting> m_resting;

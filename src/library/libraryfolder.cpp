@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <type_traits>
 #include <vector>
 
 #include <QDir>
@@ -13,6 +14,7 @@
 #include <QStringDecoder>
 
 #include <base/settings.h>
+#include <library/sessionname.h>
 
 namespace zuno {
 
@@ -53,6 +55,9 @@ std::vector<std::filesystem::path> unreadableEntries(const QString &folder)
     namespace fs = std::filesystem;
     std::error_code failed;
     std::vector<fs::path> found;
+    // Elsewhere every name is a text.
+    if constexpr (!std::is_same_v<fs::path::value_type, char>)
+        return found;
     for (fs::directory_iterator it(QFile::encodeName(folder).toStdString(), failed), end;
          !failed && it != end; it.increment(failed)) {
         if (!isText(it->path().filename().string()))
@@ -211,7 +216,7 @@ bool LibraryFolder::mayMakeIn(const QString &folder) const
 
 bool LibraryFolder::isLoggers(const QString &path)
 {
-    return QFileInfo(path).fileName().contains(u"ZUNO", Qt::CaseInsensitive);
+    return isLoggersName(QFileInfo(path).fileName());
 }
 
 bool LibraryFolder::isEntered(const QFileInfo &folder) const
