@@ -133,7 +133,7 @@ private Q_SLOTS:
     {
         Session session(u"ride.ra1"_s);
         const SessionsStatsTableModel model({&session});
-        const auto texts = [&model] {
+        const auto texts = [&model]() -> QString {
             return model.index(0, Column::Condition).data().toString()
                    + model.index(0, Column::Temperature).data().toString();
         };
