@@ -67,7 +67,7 @@ RewriteResult InformationWriter::write(Session &session, Cause cause)
     session.setUnsaved(isEdited);
     RewriteResult result;
     if (isForeign(session.filePath()))
-        result = {RewriteOutcome::WriteFailed, tr("the file is not in your library")};
+        result = {RewriteOutcome::WriteFailed, tr("the file is not in your library"), false, {}};
     else
         result = rewriteSessionFile(session, isEdited ? Occasion::Edited : Occasion::FirstDisplay);
     handle(session, result, cause);
