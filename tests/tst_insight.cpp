@@ -9,6 +9,7 @@
 #include <insight/consistency.h>
 #include <insight/recordingrate.h>
 #include <insight/sessioninsight.h>
+#include <insight/trackzones.h>
 #include <session/recording/smoothing.h>
 #include <session/session.h>
 #include <track/map.h>
@@ -411,6 +412,36 @@ private Q_SLOTS:
         QVERIFY(insight.circuit.corners.front().isRight);
         QVERIFY(std::fabs(insight.circuit.corners.front().middle - 378.5) < 3.0);
         QCOMPARE(flagsText(insight.laps[1]), QString());
+    }
+
+    // What charts and map show: zones that join, with the comparison's losses, the largest first.
+    void zones()
+    {
+        const Told told(lapsOf({{}, {30.0, 18.0}, {0.0, Slow, 44.0}}));
+        const CircuitCorners &circuit = told.insight.circuit;
+        const RiddenLap good = told.insight.laps[0].ridden();
+        const RiddenLap slow = told.insight.laps[1].ridden();
+        const TrackZones zones = trackZones(circuit, slow, &good);
+        QCOMPARE(zones.size(), circuit.units.size());
+        double sum = 0.0;
+        double end = 0.0;
+        for (const TrackZone &zone : zones) {
+            QVERIFY(zone.from == end && zone.to > zone.from);
+            end = zone.to;
+            sum += *zone.loss;
+        }
+        QVERIFY(std::fabs(end - slow.path.duration()) < 1e-6);
+        QVERIFY(std::fabs(sum - (slow.path.duration() - good.path.duration())) < 0.002);
+        const auto first = std::find_if(zones.begin(), zones.end(),
+                                        [](const TrackZone &zone) { return zone.label == u"1"; });
+        QCOMPARE(first->rank, 1);
+        QVERIFY(first->isRight && first->bendFrom > first->from && first->bendTo < first->to);
+        QVERIFY(first->middle > first->bendFrom && first->middle < first->bendTo);
+        // Earlier on the brakes, by the place; later in its own time on the gas.
+        QVERIFY(slow.path.placeAt(*first->acts.brakes)
+                < good.path.placeAt(*first->otherActs.brakes) - 15.0);
+        QVERIFY(*first->acts.gas > *first->otherActs.gas);
+        QVERIFY(!trackZones(circuit, slow, nullptr).front().loss.has_value());
     }
 
     void nothingToTell()
