@@ -248,7 +248,8 @@ private Q_SLOTS:
         QVERIFY(table.show());
         const QSignalSpy validity(&table.view, &LapsView::validityChanged);
         const QSignalSpy refused(&table.view, &LapsView::refused);
-        const QSignalSpy asked(&table.selection, &LapSelection::comparisonRequested);
+        const QSignalSpy chosen(&table.view, &LapsView::referenceChosen);
+        const QSignalSpy menu(&table.view, &LapsView::referenceMenuWanted);
         const auto press = [&table](Qt::Key key) { QTest::keyClick(&table.table, key); };
         press(Qt::Key_V);
         QCOMPARE(table.session->invalidLaps(), QList<quint8> {3});
@@ -256,36 +257,57 @@ private Q_SLOTS:
         press(Qt::Key_V);
         QVERIFY(table.session->laps()[2]->isBest());
         QCOMPARE(validity.count(), 2);
-        QCOMPARE(table.menu(), u"Invalidate lap|Compare this lap with...|(Export lap)"_s);
+        const QString first = u"Invalidate lap|Compare this lap with...|Reselect first lap|"
+                              "Draw besides|(Export lap)"_s;
+        QCOMPARE(table.menu(), first);
         press(Qt::Key_C);
+        QCOMPARE(chosen[0][0].value<SessionLap>().lap, table.session->laps()[2].get());
+        table.selection.setReference(table.session.get(), 2);
         press(Qt::Key_C); // A lap is not compared to itself, and the rider is told.
         QCOMPARE(refused.count(), 1);
-        QCOMPARE(table.selection.firstLap(), table.session->laps()[2].get());
-        press(Qt::Key_R);
-        QVERIFY(table.selection.firstLap() == nullptr);
-        press(Qt::Key_C);
         press(Qt::Key_Up);
-        QCOMPARE(table.menu(),
-                 u"Invalidate lap|Compare to this lap|Reselect first lap|(Export lap)"_s);
-        press(Qt::Key_C);
-        QCOMPARE(asked.count(), 1);
-        QCOMPARE(asked[0][0].value<SessionLap>().lap, table.session->laps()[2].get());
-        QCOMPARE(asked[0][1].value<SessionLap>().lap, table.session->laps()[1].get());
-        QVERIFY(table.selection.firstLap() == nullptr);
-        const auto other = outing();
-        const MapPointer heath = circuit(u"/Heath.map"_s);
-        other->setMap(heath.get());
-        table.selection.setFirstLap(other.get(), 1);
-        press(Qt::Key_C); // Nor to one of another circuit.
-        QVERIFY(refused.count() == 2 && asked.count() == 1);
-        QVERIFY(refused[1][0].toString().contains(u"Heath"));
+        QVERIFY(table.menu().contains(u"|Compare to this lap|"));
         press(Qt::Key_R);
+        QCOMPARE(menu.count(), 1);
+        press(Qt::Key_O);
+        QVERIFY(table.menu().contains(u"|Draw no longer besides|"));
+        QVERIFY(table.selection.others().isEmpty()); // It is the selected one.
         table.selection.setCurrentLap(0);
         QVERIFY(table.table.selectionModel()->isRowSelected(0));
         table.display(nullptr);
         QCOMPARE(table.table.model()->rowCount(), 0);
         press(Qt::Key_V);
         QCOMPARE(validity.count(), 2);
+    }
+
+    // The selected lap, the reference and four more; what is to be drawn is told once.
+    void drawnLaps()
+    {
+        const MapPointer map = circuit();
+        const MapPointer heath = circuit(u"/Heath.map"_s);
+        const auto session = outing();
+        const auto other = outing();
+        session->setMap(map.get());
+        other->setMap(heath.get());
+        LapSelection selection;
+        const QSignalSpy shown(&selection, &LapSelection::shownChanged);
+        connect(&selection, &LapSelection::sessionChanged, &selection,
+                [&] { selection.setReference(session.get(), 1); });
+        selection.setSession(session.get());
+        QCOMPARE(shown.count(), 1);
+        QCOMPARE(selection.compared().lap, session->laps()[1].get());
+        for (int lap = 0; lap < 4; ++lap)
+            QVERIFY(selection.toggleOther(session.get(), lap));
+        QVERIFY(!selection.toggleOther(session.get(), 4));
+        QCOMPARE(selection.others().size(), 2); // Without the two that are compared.
+        selection.setCurrentLap(4);
+        QCOMPARE(selection.others().size(), 3);
+        QVERIFY(selection.toggleOther(session.get(), 0));
+        QCOMPARE(selection.others().size(), 2);
+        selection.setCurrentLap(1); // With itself a lap is not compared.
+        QVERIFY(!selection.compared() && selection.reference());
+        selection.setSession(other.get()); // Nor with one of another circuit.
+        QVERIFY(!selection.compared() && selection.reference() && selection.others().isEmpty());
     }
 
     // Named by index, a lap of a session that was cut anew must not turn into another one.
@@ -297,17 +319,17 @@ private Q_SLOTS:
         session->setMap(map.get());
         LapSelection selection;
         selection.setSession(session.get());
-        selection.setFirstLap(session.get(), 1);
-        QCOMPARE(selection.firstLap(), session->laps()[1].get());
+        selection.setReference(session.get(), 1);
+        QCOMPARE(selection.reference().lap, session->laps()[1].get());
         session->setMap(heath.get());
-        QVERIFY(selection.firstLap() == nullptr && selection.currentLap() == nullptr);
-        selection.setFirstLap(session.get(), 1);
+        QVERIFY(selection.reference().lap == nullptr && selection.currentLap() == nullptr);
+        selection.setReference(session.get(), 1);
         // The first lap outlives the display of its session, but not the session.
         const auto other = outing();
         selection.setSession(other.get());
-        QVERIFY(selection.firstLap() != nullptr);
+        QVERIFY(selection.reference().lap != nullptr);
         session.reset();
-        QVERIFY(selection.firstLap() == nullptr);
+        QVERIFY(selection.reference().lap == nullptr);
     }
 };
 

@@ -16,6 +16,7 @@
 #include <app/aboutwidget.h>
 #include <app/configurationwidget.h>
 #include <app/help.h>
+#include <base/signedtext.h>
 #include <library/exportdialogs.h>
 #include <library/libraryfolder.h>
 #include <library/librarypane.h>
@@ -166,8 +167,11 @@ void ZunoAnalyzer::connectParts()
     });
     connect(&m_laps->table(), &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_laps->table(), &LapsView::refused, this, &ZunoAnalyzer::tell);
-    connect(&m_selection, &LapSelection::firstLapChanged, &m_display,
-            [this] { m_display.setCompared(m_selection.firstSession()); });
+    connect(&m_laps->table(), &LapsView::referenceChosen, &m_selection, [this] {
+        m_selection.setReference(m_selection.session(), m_selection.currentIndex());
+    });
+    connect(&m_selection, &LapSelection::referenceChanged, &m_display,
+            [this] { m_display.setCompared(m_selection.referenceSession()); });
     auto *exports = new ExportDialogs(this);
     connect(tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
     connect(tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
@@ -176,14 +180,13 @@ void ZunoAnalyzer::connectParts()
     m_import = new SessionImport(m_library, m_settings, this);
     connect(m_import, &SessionImport::finished, this,
             [this](const ImportResult &result) { result.showIn(*statusBar()); });
-    connect(&m_selection, &LapSelection::comparisonRequested, this, &ZunoAnalyzer::showComparison);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::reloadMaps);
     m_mapMaker = new MapMaker({m_library, m_maps.library(), m_display, m_settings}, this);
     connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::reloadMaps);
     connect(m_laps, &LapsPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
     connect(m_map, &MapPane::newMapRequested, m_mapMaker, &MapMaker::newMap);
     connect(&m_map->view(), &MapViewController::mapReady, this, &ZunoAnalyzer::onMapReady);
-    connect(&m_selection, &LapSelection::currentLapChanged, this, &ZunoAnalyzer::showLapOnMap);
+    connect(&m_selection, &LapSelection::shownChanged, this, &ZunoAnalyzer::showLapOnMap);
     connectViews();
 }
 
@@ -194,7 +197,6 @@ void ZunoAnalyzer::connectViews()
     const LapsView *table = &m_laps->table();
     const MapViewController *map = &m_map->view();
     const ChartState *state = &m_charts->state();
-    connect(&m_selection, &LapSelection::comparisonRequested, map, &MapViewController::drawTwoLaps);
     connect(table, &LapsView::sectorChosen, state, &ChartState::showSector);
     connect(map, &MapViewController::samplePicked, state, &ChartState::pinSample);
     connect(state, &ChartState::stretchShown, map, &MapViewController::showStretch);
@@ -324,10 +326,16 @@ void ZunoAnalyzer::onMapReady()
 
 void ZunoAnalyzer::showLapOnMap()
 {
-    if (const SessionLap lap = m_selection.current())
-        m_map->view().drawLap(lap);
-    else
+    const SessionLap lap = m_selection.current();
+    const SessionLap reference = m_selection.compared();
+    if (!lap) {
         m_map->view().clearLaps();
+    } else if (reference) {
+        m_map->view().drawTwoLaps(lap, reference);
+        showComparison(lap, reference);
+    } else {
+        m_map->view().drawLap(lap);
+    }
 }
 
 void ZunoAnalyzer::onAddNewFiles(const QModelIndex &parent, int first, int last)
@@ -547,15 +555,12 @@ QString ZunoAnalyzer::emptyState() const
     return SessionSummary::laplessText(*m_display.session(), m_settings.mapsFolder());
 }
 
-void ZunoAnalyzer::showComparison(const SessionLap &first, const SessionLap &second)
+void ZunoAnalyzer::showComparison(const SessionLap &lap, const SessionLap &reference)
 {
-    const double seconds
-        = (static_cast<double>(second->lapTime()) - static_cast<double>(first->lapTime())) / 1000.0;
     tell(tr("Lap %1 (%2) against lap %3 (%4): %5 s")
-             .arg(QString::number(second->lapNumber()), second->timeText(),
-                  QString::number(first->lapNumber()), first->timeText(),
-                  (seconds > 0 ? QStringLiteral("+") : QString())
-                      + QLocale().toString(seconds, 'f', 3)));
+             .arg(QString::number(lap->lapNumber()), lap->timeText(),
+                  QString::number(reference->lapNumber()), reference->timeText(),
+                  signedText((lap->lapTime() - reference->lapTime()) / 1000.0, 3)));
 }
 
 void ZunoAnalyzer::onValidityChanged(Session *session)

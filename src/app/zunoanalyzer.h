@@ -108,7 +108,7 @@ private:
     void showLapOnMap();
     [[nodiscard]] QString emptyState() const;
     void onFileChanged(const QString &path);
-    void showComparison(const SessionLap &first, const SessionLap &second);
+    void showComparison(const SessionLap &lap, const SessionLap &reference);
     void onValidityChanged(Session *session);
 
     std::unique_ptr<Ui::ZunoAnalyzer> m_ui;

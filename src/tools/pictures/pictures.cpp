@@ -91,7 +91,6 @@ void takeComparison(Stage &stage, const Take &take)
     stage.selectLap(3);
     stage.press(Qt::Key_C);
     stage.selectLap(9);
-    stage.press(Qt::Key_C);
     stage.object<LapCharts>().state().pin(CursorPlace);
     stage.settle();
     take(QStringLiteral("comparison"), partPicture(stage, "bottomWidget"));

@@ -37,7 +37,6 @@ void compareLaps(Stage &stage)
 void compareWithOther(Stage &stage)
 {
     stage.selectLap(4);
-    stage.press(Qt::Key_C);
 }
 
 void showInformation(Stage &stage)

@@ -137,6 +137,12 @@ void ChartState::lead(double place)
         pinAndShow(nearestSample(m_first->places(m_axis), place));
 }
 
+void ChartState::pinTime(double seconds)
+{
+    if (m_first != nullptr)
+        pinAndShow(nearestSample(m_first->places(AxisKind::Time), seconds));
+}
+
 void ChartState::pinSample(int index)
 {
     if (m_first != nullptr && index >= 0 && static_cast<std::size_t>(index) < m_first->size())
@@ -221,14 +227,20 @@ void ChartState::showSector(int sector)
     const auto &sectors = m_first->sectors();
     const auto found = std::find_if(sectors.begin(), sectors.end(),
                                     [=](const SectorStretch &s) { return s.sector == sector; });
-    if (found == sectors.end())
+    if (found != sectors.end())
+        showTimes(found->time);
+}
+
+void ChartState::showTimes(const AxisRange &seconds)
+{
+    if (m_first == nullptr)
         return;
-    showRange({m_first->converted(found->time.from, AxisKind::Time, m_axis),
-               m_first->converted(found->time.to, AxisKind::Time, m_axis)});
+    showRange({m_first->converted(seconds.from, AxisKind::Time, m_axis),
+               m_first->converted(seconds.to, AxisKind::Time, m_axis)});
     const std::vector<double> &times = m_first->places(AxisKind::Time);
     const Points &points = m_first->points();
-    const auto from = static_cast<std::ptrdiff_t>(nearestSample(times, found->time.from));
-    const auto to = static_cast<std::ptrdiff_t>(nearestSample(times, found->time.to));
+    const auto from = static_cast<std::ptrdiff_t>(nearestSample(times, seconds.from));
+    const auto to = static_cast<std::ptrdiff_t>(nearestSample(times, seconds.to));
     m_isSectorShown = true;
     Q_EMIT stretchShown(Points(points.begin() + from, points.begin() + to + 1));
 }

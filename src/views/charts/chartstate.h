@@ -81,11 +81,15 @@ public:
     /// Shows a sector of the first lap (counts from 0) and says so; nothing for one without a
     /// time.
     void showSector(int sector);
+    /// Shows a piece of the first lap, seconds since its start, and says so.
+    void showTimes(const AxisRange &seconds);
 
 public Q_SLOTS:
     /// Pins the cursor to a sample of the first lap, as from the map; nothing for one that it has
     /// not got.
     void pinSample(int index);
+    /// Pins the cursor to the sample next to a moment of the first lap, seconds since its start.
+    void pinTime(double seconds);
 
 Q_SIGNALS:
     /// Other laps are shown, or the axis is another; visible stretch and cursor may be others too.
@@ -93,7 +97,7 @@ Q_SIGNALS:
     void visibleChanged();
     void selectedChanged();
     void cursorChanged();
-    /// The samples of a sector that was zoomed to, and afterwards those of the whole lap.
+    /// The samples of a sector or piece that was zoomed to, and afterwards those of the whole lap.
     void stretchShown(const zuno::Points &points);
 
 private:

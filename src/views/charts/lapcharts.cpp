@@ -48,7 +48,7 @@ LapCharts::LapCharts(LapSelection &selection, const Settings &settings, QWidget 
     createCharts();
     readChoices();
     connectParts();
-    showCurrentLap();
+    showSelection();
     showContent();
 }
 
@@ -82,8 +82,7 @@ void LapCharts::connectParts()
             [this](bool checked) { setAxis(checked ? AxisKind::Distance : AxisKind::Time); });
     connect(m_ui->cb_compareTime, &QCheckBox::toggled, this,
             [this](bool checked) { setAxis(checked ? AxisKind::Time : AxisKind::Distance); });
-    connect(&m_selection, &LapSelection::currentLapChanged, this, &LapCharts::showCurrentLap);
-    connect(&m_selection, &LapSelection::comparisonRequested, &m_state, &ChartState::showLaps);
+    connect(&m_selection, &LapSelection::shownChanged, this, &LapCharts::showSelection);
     connect(&m_state, &ChartState::contentChanged, this, &LapCharts::showContent);
     connect(&m_state, &ChartState::cursorChanged, this, [this] {
         showCursor();
@@ -124,9 +123,12 @@ void LapCharts::setAxis(AxisKind axis)
     m_state.setAxis(axis);
 }
 
-void LapCharts::showCurrentLap()
+void LapCharts::showSelection()
 {
-    m_state.showLap(m_selection.current());
+    if (const SessionLap reference = m_selection.compared())
+        m_state.showLaps(m_selection.current(), reference);
+    else
+        m_state.showLap(m_selection.current());
 }
 
 bool LapCharts::isShown(std::size_t channel) const

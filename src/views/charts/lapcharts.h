@@ -56,7 +56,7 @@ private:
     void readChoices();
     void storeChoices() const;
     void setAxis(AxisKind axis);
-    void showCurrentLap();
+    void showSelection();
     void showContent();
     void showAvailability();
     void showCharts();

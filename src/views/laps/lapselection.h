@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 
@@ -11,8 +12,8 @@
 
 namespace zuno {
 
-/// What the rider looks at: the displayed lap and the laps chosen for comparison. Table, map and
-/// charts listen to it and know nothing of each other.
+/// What the rider looks at: the selected lap, the reference that it is always compared with, and
+/// some more laps. Tables, map and charts listen to it and know nothing of each other.
 ///
 /// Laps are named by session and index, so that a session that is cut anew or goes away leaves
 /// nothing dangling: a lap that is no more is nullptr.
@@ -21,10 +22,13 @@ class LapSelection : public QObject
     Q_OBJECT
 
 public:
+    /// How many laps are drawn besides the selected one and the reference.
+    static constexpr qsizetype MostOthers = 4;
+
     using QObject::QObject;
 
-    /// Displays laps of @p session (nullptr for none), its best lap first. A first lap for
-    /// comparison stays chosen, so that laps of two sessions can be compared.
+    /// Selects a lap of @p session (nullptr for none), its best one first. The reference stays, so
+    /// that laps of two sessions can be compared.
     void setSession(Session *session);
     [[nodiscard]] Session *session() const { return m_current.session.data(); }
 
@@ -34,20 +38,36 @@ public:
     [[nodiscard]] SessionLap current() const { return m_current.lap(); }
     [[nodiscard]] const Lap *currentLap() const { return current().lap; }
 
-    void setFirstLap(Session *session, int index);
-    void clearFirstLap();
-    [[nodiscard]] SessionLap first() const { return m_first.lap(); }
-    [[nodiscard]] const Lap *firstLap() const { return first().lap; }
-    [[nodiscard]] Session *firstSession() const { return m_first.session.data(); }
+    void setReference(Session *session, int index);
+    void clearReference() { setReference(nullptr, -1); }
+    /// On whatever circuit it was ridden.
+    [[nodiscard]] SessionLap reference() const { return m_reference.lap(); }
+    [[nodiscard]] Session *referenceSession() const { return m_reference.session.data(); }
+    /// The reference, where the selected lap can be compared with it: another lap of the same
+    /// circuit.
+    [[nodiscard]] SessionLap compared() const;
+
+    /// The other laps that are drawn: of the selected lap's circuit, and neither it nor the
+    /// reference.
+    [[nodiscard]] QList<SessionLap> others() const;
+    [[nodiscard]] bool isOther(const Session *session, int index) const;
+    /// Draws a lap besides, or no longer. False when there are MostOthers already.
+    bool toggleOther(Session *session, int index);
+    void removeOther(const SessionLap &lap);
+    void clearOthers();
 
     /// Lets go of a session that is about to be removed.
     void forget(const Session *session);
 
 Q_SIGNALS:
+    /// Sent before currentLapChanged() when it is a lap of another session, or of the same one cut
+    /// anew.
+    void sessionChanged();
     void currentLapChanged();
-    void firstLapChanged();
-    /// Two laps were chosen to be compared.
-    void comparisonRequested(const zuno::SessionLap &first, const zuno::SessionLap &second);
+    void referenceChanged();
+    void othersChanged();
+    /// Sent once after all of the above: other laps are to be drawn.
+    void shownChanged();
 
 private:
     struct Choice
@@ -60,8 +80,13 @@ private:
         [[nodiscard]] SessionLap lap() const;
     };
 
+    void change(const QList<void (LapSelection::*)()> &tell);
+
     Choice m_current;
-    Choice m_first;
+    Choice m_reference;
+    QList<Choice> m_others;
+    // Changes that are being told.
+    int m_changes = 0;
 };
 
 } // namespace zuno

@@ -27,7 +27,7 @@ LapsPane::LapsPane(LapSelection &selection, const Settings &settings, QWidget *p
     connect(m_table, &LapsView::validityChanged, this, &LapsPane::showFigures);
     connect(m_ui->pb_newMap, &QPushButton::clicked, this, &LapsPane::newMapRequested);
     connect(m_ui->pb_chooseFolder, &QPushButton::clicked, this, &LapsPane::folderWanted);
-    connect(&selection, &LapSelection::firstLapChanged, this, &LapsPane::showFirstLap);
+    connect(&selection, &LapSelection::referenceChanged, this, &LapsPane::showFirstLap);
     showFirstLap();
 }
 
@@ -115,7 +115,7 @@ void LapsPane::fillSections(const Session &session, int sectors)
 
 void LapsPane::showFirstLap()
 {
-    const SessionLap lap = m_selection.first();
+    const SessionLap lap = m_selection.reference();
     m_ui->lb_firstLapSelected->setVisible(static_cast<bool>(lap));
     if (lap)
         m_ui->lb_firstLapSelected->setText(SessionSummary::firstLapText(lap));

@@ -35,6 +35,7 @@ LapsView::LapsView(QTableView &table, LapSelection &selection, const Settings &s
     , m_validity(makeAction(Qt::Key_V, &LapsView::toggleValidity))
     , m_compare(makeAction(Qt::Key_C, &LapsView::compare))
     , m_reselect(makeAction(Qt::Key_R, &LapsView::reselect))
+    , m_other(makeAction(Qt::Key_O, &LapsView::toggleOther))
     , m_export(makeAction(QKeySequence(Qt::CTRL | Qt::Key_E), &LapsView::exportLap))
 {
     m_table.setModel(m_model);
@@ -61,7 +62,7 @@ void LapsView::connectSelection()
                     m_selection.setCurrentLap(current.row());
             });
     connect(&m_selection, &LapSelection::currentLapChanged, this, &LapsView::selectCurrentRow);
-    connect(&m_selection, &LapSelection::firstLapChanged, this, &LapsView::updateActions);
+    connect(&m_selection, &LapSelection::shownChanged, this, &LapsView::updateActions);
     const auto chooseSector = [this](const QModelIndex &cell) {
         const int sector = LapsTableModel::sectionOf(cell.column());
         if (sector >= 0)
@@ -116,27 +117,21 @@ void LapsView::selectCurrentRow()
     updateActions();
 }
 
-// A first lap is chosen, and the current one may be compared to it.
-bool LapsView::isSecondLap() const
-{
-    const SessionLap first = m_selection.first();
-    const SessionLap lap = m_selection.current();
-    return first && lap && first != lap && first.mapName() == lap.mapName();
-}
-
 void LapsView::updateActions()
 {
     const Lap *lap = m_selection.currentLap();
-    const bool hasFirst = m_selection.firstLap() != nullptr;
     const bool isValid = lap != nullptr && lap->isValid();
     m_validity->setText(isValid ? tr("Invalidate lap") : tr("Validate lap"));
     m_validity->setIcon(QIcon(isValid ? QStringLiteral(":/Resources/invalidate.png")
                                       : QStringLiteral(":/Resources/check.png")));
     m_validity->setEnabled(lap != nullptr);
-    m_compare->setText(hasFirst ? tr("Compare to this lap") : tr("Compare this lap with..."));
+    m_compare->setText(m_selection.compared() ? tr("Compare to this lap")
+                                              : tr("Compare this lap with..."));
     // Also where it does nothing but say why.
     m_compare->setEnabled(lap != nullptr);
-    m_reselect->setEnabled(hasFirst);
+    const bool isOther = m_selection.isOther(m_selection.session(), m_selection.currentIndex());
+    m_other->setText(isOther ? tr("Draw no longer besides") : tr("Draw besides"));
+    m_other->setEnabled(lap != nullptr);
     m_export->setEnabled(lap != nullptr
                          && isSignalConnected(QMetaMethod::fromSignal(&LapsView::exportRequested)));
 }
@@ -145,11 +140,9 @@ void LapsView::fillMenu(QMenu &menu)
 {
     updateActions();
     menu.addAction(m_validity);
-    const bool hasFirst = m_selection.firstLap() != nullptr;
-    if (!hasFirst || isSecondLap())
-        menu.addAction(m_compare);
-    if (hasFirst)
-        menu.addAction(m_reselect);
+    menu.addAction(m_compare);
+    menu.addAction(m_reselect);
+    menu.addAction(m_other);
     menu.addAction(m_export);
 }
 
@@ -179,24 +172,20 @@ void LapsView::compare()
     const SessionLap lap = m_selection.current();
     if (!lap)
         return;
-    const SessionLap first = m_selection.first();
-    if (!first) {
-        m_selection.setFirstLap(m_selection.session(), m_selection.currentIndex());
-    } else if (isSecondLap()) {
-        Q_EMIT m_selection.comparisonRequested(first, lap);
-        m_selection.clearFirstLap();
-    } else if (first == lap) {
+    if (lap == m_selection.reference())
         Q_EMIT refused(tr("This is the first lap itself; choose another one to compare it with."));
-    } else {
-        Q_EMIT refused(tr("Only laps of the same map are compared; the first lap was ridden on "
-                          "\"%1\".")
-                           .arg(first.map()->displayName()));
-    }
+    Q_EMIT referenceChosen(lap);
 }
 
 void LapsView::reselect()
 {
-    m_selection.clearFirstLap();
+    Q_EMIT referenceMenuWanted();
+}
+
+void LapsView::toggleOther()
+{
+    if (!m_selection.toggleOther(m_selection.session(), m_selection.currentIndex()))
+        Q_EMIT refused(tr("Six laps are drawn at most; take one away first."));
 }
 
 void LapsView::exportLap()

@@ -38,6 +38,9 @@ public:
 Q_SIGNALS:
     /// The rider threw a lap out or took it back.
     void validityChanged(zuno::Session *session);
+    /// The rider wants every lap to be compared with this one, or to choose another one for that.
+    void referenceChosen(const zuno::SessionLap &lap);
+    void referenceMenuWanted();
     /// Why a lap is not compared, in plain words.
     void refused(const QString &reason);
     void exportRequested(const zuno::SessionLap &lap);
@@ -48,11 +51,11 @@ private:
     void connectSelection();
     void selectCurrentRow();
     QAction *makeAction(const QKeySequence &shortcut, void (LapsView::*run)());
-    [[nodiscard]] bool isSecondLap() const;
     void updateActions();
     void toggleValidity();
     void compare();
     void reselect();
+    void toggleOther();
     void exportLap();
 
     QTableView &m_table;
@@ -62,6 +65,7 @@ private:
     QAction *m_validity;
     QAction *m_compare;
     QAction *m_reselect;
+    QAction *m_other;
     QAction *m_export;
 };
 
