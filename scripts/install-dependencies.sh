@@ -21,7 +21,7 @@ translations=(qt6-base-dev-tools qt6-l10n-tools)
 # What makes the manual, and what its test reads it with.
 manual=(weasyprint python3-markdown poppler-utils)
 # The virtual display, the tools that find and photograph a window on it, and letters to draw.
-gui=(qt6-charts-dev qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools libjs-leaflet
+gui=(qt6-webchannel-dev qt6-webengine-dev qt6-webengine-dev-tools libjs-leaflet
     qt6-tools-dev "${translations[@]}" qt6-translations-l10n
     libssl-dev openssl
     libgl-dev libgl1-mesa-dri libxkbcommon-dev xvfb x11-utils imagemagick fonts-dejavu-core

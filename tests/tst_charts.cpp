@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <cmath>
+#include <map>
 #include <memory>
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtMath>
 
 #include <base/settings.h>
 #include <session/session.h>
@@ -231,13 +233,75 @@ private Q_SLOTS:
         state.showLap({&session, lap.get()});
         const ChartContent content = contentOf(channels()[0], state);
         const Curve &curve = content.curves.front();
-        const auto pieces = unbroken(curve.places, curve.values);
+        const auto pieces = CurveLines(curve).lines({{0, 100}, 0, 100}, {{0, 100}, 0, 100});
         QCOMPARE(pieces.size(), std::size_t {2});
         QCOMPARE(pieces[1].first().toPoint(), QPoint(80, 18));
         // There is time for them, so they have their place under the cursor.
         state.hover(62);
         QCOMPARE(qRound(state.cursorPlace()), 60);
         QVERIFY(std::isnan(valuesAtCursor(channels()[0], state).first));
+    }
+
+    void pixels_data()
+    {
+        QTest::addColumn<int>("samples");
+        QTest::addColumn<double>("from");
+        QTest::addColumn<double>("to");
+        QTest::newRow("a minute") << 600 << 0.0 << 600.0;
+        QTest::newRow("eight hours") << 288000 << 0.0 << 288000.0;
+        QTest::newRow("a part of eight hours") << 288000 << 70000.5 << 171000.0;
+        QTest::newRow("some seconds of eight hours") << 288000 << 70000.5 << 70030.5;
+        QTest::newRow("standing in the box for most of it") << 50000 << 0.0 << 600.0;
+    }
+
+    // Each column of pixels reaches as far up and down as its samples, and the number of points
+    // depends on the pixels.
+    void pixels()
+    {
+        QFETCH(int, samples);
+        QFETCH(double, from);
+        QFETCH(double, to);
+        constexpr int Width = 500;
+        Curve curve;
+        const bool stands = to < samples && from == 0;
+        for (int i = 0; i < samples; ++i) {
+            curve.places.push_back(stands ? std::min(i, 300) + std::max(0, i - samples + 300) : i);
+            curve.values.push_back((i * 7919) % 1000);
+            curve.lows.push_back(curve.values.back() - 1 - (i % 3));
+            curve.highs.push_back(curve.values.back() + 1 + (i % 5));
+        }
+        const PixelScale horizontal {{from, to}, 0, Width};
+        const PixelScale vertical {{0, 1024}, 0, 1024};
+        const CurveLines drawn(curve);
+        const auto ranges = [](const QPolygonF &polygon) {
+            std::map<int, AxisRange> columns;
+            for (const QPointF &point : polygon) {
+                const AxisRange value {point.y(), point.y()};
+                const auto [at, isNew] = columns.try_emplace(qFloor(point.x()), value);
+                at->second = at->second.united(value);
+            }
+            return columns;
+        };
+        QPolygonF line;
+        QPolygonF band;
+        for (std::size_t i = 0; i < curve.places.size(); ++i) {
+            const double x = horizontal.pixelOf(curve.places[i]);
+            line << QPointF(x, curve.values[i]);
+            band << QPointF(x, curve.lows[i]) << QPointF(x, curve.highs[i]);
+        }
+        const auto lines = drawn.lines(horizontal, vertical);
+        const auto bands = drawn.bands(horizontal, vertical);
+        QCOMPARE(lines.size(), std::size_t {1});
+        QCOMPARE(bands.size(), std::size_t {1});
+        QVERIFY2(lines[0].size() <= 4 * (Width + 3), qPrintable(QString::number(lines[0].size())));
+        for (const auto &[exact, shown] : {std::pair(ranges(line), ranges(lines[0])),
+                                           std::pair(ranges(band), ranges(bands[0]))}) {
+            for (int x = 0; x < Width; ++x) {
+                QCOMPARE(shown.contains(x), exact.contains(x));
+                if (exact.contains(x))
+                    QCOMPARE(shown.at(x), exact.at(x));
+            }
+        }
     }
 };
 

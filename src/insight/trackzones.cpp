@@ -44,9 +44,8 @@ TrackZone zoneOf(std::size_t unit, const CircuitCorners &circuit, const RiddenLa
     zone.middle = lap.path.timeAt(corner.middle);
     // Into a chicane somebody brakes for its first corner, and goes on the gas after its last.
     const auto acts = [&](const RiddenLap &ridden) {
-        return ZoneActs {
-            actsIn(ridden, part.firstCorner, circuit.corners[part.firstCorner]).brakes,
-            actsIn(ridden, last, circuit.corners[last]).gas};
+        return ZoneActs {actsIn(ridden, part.firstCorner, circuit.corners[part.firstCorner]).brakes,
+                         actsIn(ridden, last, circuit.corners[last]).gas};
     };
     zone.acts = acts(lap);
     if (reference != nullptr)
@@ -61,9 +60,8 @@ void rank(TrackZones &zones)
         if (zone.loss.value_or(0.0) >= NoiseLoss)
             losses.push_back(&zone);
     }
-    std::stable_sort(losses.begin(), losses.end(), [](const TrackZone *a, const TrackZone *b) {
-        return *a->loss > *b->loss;
-    });
+    std::stable_sort(losses.begin(), losses.end(),
+                     [](const TrackZone *a, const TrackZone *b) { return *a->loss > *b->loss; });
     for (int i = 0; i < std::min(MostRanked, static_cast<int>(losses.size())); ++i)
         losses[static_cast<std::size_t>(i)]->rank = i + 1;
 }

@@ -33,6 +33,11 @@ Values valuesOf(const Channel &channel, const LapTrack &track)
 {
     Values read;
     const bool hasRange = channel.readRange != nullptr;
+    read.values.reserve(track.size());
+    if (hasRange) {
+        read.lows.reserve(track.size());
+        read.highs.reserve(track.size());
+    }
     for (std::size_t i = 0; i < track.size(); ++i) {
         read.values.push_back(valueOf(channel, track, i));
         if (hasRange) {
@@ -143,23 +148,6 @@ CursorValues valuesAtCursor(const Channel &channel, const ChartState &state)
     const std::array around {valueOf(channel, second, before), valueOf(channel, second, after)};
     values.second = valueAtPosition(around, position - std::floor(position));
     return values;
-}
-
-std::vector<QList<QPointF>> unbroken(const std::vector<double> &places,
-                                     const std::vector<double> &values)
-{
-    std::vector<QList<QPointF>> pieces;
-    QList<QPointF> piece;
-    for (std::size_t i = 0; i <= values.size(); ++i) {
-        if (i < values.size() && std::isfinite(values[i])) {
-            piece.append({places[i], values[i]});
-            continue;
-        }
-        if (piece.size() > 1)
-            pieces.push_back(std::move(piece));
-        piece = {};
-    }
-    return pieces;
 }
 
 } // namespace zuno

@@ -6,8 +6,6 @@
 #include <vector>
 
 #include <QColor>
-#include <QList>
-#include <QPointF>
 #include <QString>
 
 #include <views/charts/channel.h>
@@ -59,9 +57,5 @@ struct CursorValues
     double second;
 };
 [[nodiscard]] CursorValues valuesAtCursor(const Channel &channel, const ChartState &state);
-
-/// The unbroken pieces of a line; places and values of equal number. A lone value is no line.
-[[nodiscard]] std::vector<QList<QPointF>> unbroken(const std::vector<double> &places,
-                                                   const std::vector<double> &values);
 
 } // namespace zuno

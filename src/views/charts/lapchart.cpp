@@ -6,15 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QAreaSeries>
-#include <QChart>
-#include <QGraphicsLayout>
-#include <QGraphicsScene>
-#include <QLineSeries>
 #include <QLocale>
 #include <QPaintEvent>
 #include <QPainter>
-#include <QValueAxis>
 
 #include <views/charts/chartstate.h>
 
@@ -49,41 +43,19 @@ constexpr int BandAlpha = 0x38;
 } // namespace
 
 LapChart::LapChart(ChartState &state, QWidget *parent)
-    : QChartView(parent)
+    : QAbstractScrollArea(parent)
     , m_state(state)
     , m_input(state)
-    , m_horizontal(new QValueAxis(this))
-    , m_vertical(new QValueAxis(this))
 {
-    setUpChart();
-    setRenderHint(QPainter::Antialiasing);
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    setFont(small);
+    setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setMouseTracking(true);
     viewport()->setCursor(Qt::CrossCursor);
-    connect(scene(), &QGraphicsScene::changed, this, [this] {
-        m_picture = {};
-        viewport()->update();
-    });
-}
-
-void LapChart::setUpChart()
-{
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.9);
-    setFont(small);
-    QChart *drawn = chart();
-    drawn->legend()->hide();
-    drawn->setBackgroundVisible(false);
-    drawn->setMargins({});
-    drawn->layout()->setContentsMargins(0, 0, 0, 0);
-    drawn->addAxis(m_horizontal, Qt::AlignBottom);
-    drawn->addAxis(m_vertical, Qt::AlignLeft);
-    for (QValueAxis *axis : {m_horizontal, m_vertical}) {
-        // Grid and numbers are drawn into the picture instead.
-        axis->setVisible(false);
-    }
 }
 
 QSize LapChart::sizeHint() const
@@ -99,10 +71,10 @@ QSize LapChart::minimumSizeHint() const
 void LapChart::setContent(ChartContent content)
 {
     m_content = std::move(content);
-    chart()->removeAllSeries();
-    // Before there are lines: each change of an axis computes all lines anew.
+    m_lines.clear();
+    for (const Curve &curve : m_content.curves)
+        m_lines.emplace_back(curve);
     showVisible();
-    addSeries();
 }
 
 void LapChart::setAxisLabelled(bool labelled)
@@ -117,48 +89,6 @@ void LapChart::setSectorsNamed(bool named)
     layOut();
 }
 
-void LapChart::addSeries()
-{
-    for (const Curve &curve : m_content.curves)
-        addBand(curve);
-    for (const Curve &curve : m_content.curves) {
-        for (const QList<QPointF> &piece : unbroken(curve.places, curve.values))
-            addLine(curve.colour, piece, LineWidth);
-    }
-}
-
-void LapChart::addLine(const QColor &colour, const QList<QPointF> &points, double width)
-{
-    auto *line = new QLineSeries;
-    line->replace(points);
-    line->setPen(QPen(colour, width));
-    chart()->addSeries(line);
-    line->attachAxis(m_horizontal);
-    line->attachAxis(m_vertical);
-}
-
-void LapChart::addBand(const Curve &curve)
-{
-    const auto lows = unbroken(curve.places, curve.lows);
-    const auto highs = unbroken(curve.places, curve.highs);
-    QColor colour = curve.colour;
-    colour.setAlpha(BandAlpha);
-    for (std::size_t i = 0; i < std::min(lows.size(), highs.size()); ++i) {
-        auto *low = new QLineSeries;
-        auto *high = new QLineSeries;
-        low->replace(lows[i]);
-        high->replace(highs[i]);
-        auto *band = new QAreaSeries(high, low);
-        low->setParent(band);
-        high->setParent(band);
-        band->setPen(Qt::NoPen);
-        band->setBrush(colour);
-        chart()->addSeries(band);
-        band->attachAxis(m_horizontal);
-        band->attachAxis(m_vertical);
-    }
-}
-
 void LapChart::showVisible()
 {
     setTicks();
@@ -168,19 +98,15 @@ void LapChart::showVisible()
 
 void LapChart::setTicks()
 {
-    const QRectF plot = chart()->plotArea();
     const double line = fontMetrics().height();
     const auto intervals = [line](double pixels, double spacing) {
         return std::max(1, static_cast<int>(pixels / (line * spacing)));
     };
-    const AxisRange values = m_content.range.widened(ValueMargin);
-    m_valueStep = roundStep(values.span(), intervals(plot.height(), VerticalSpacing));
-    m_vertical->setRange(values.from, values.to);
+    m_values = m_content.range.widened(ValueMargin);
+    m_valueStep = roundStep(m_values.span(), intervals(m_plot.height(), VerticalSpacing));
     const AxisRange visible = m_state.visible();
-    if (!(visible.span() > 0))
-        return;
-    m_step = roundStep(visible.span(), intervals(plot.width(), HorizontalSpacing));
-    m_horizontal->setRange(visible.from, visible.to);
+    if (visible.span() > 0)
+        m_step = roundStep(visible.span(), intervals(m_plot.width(), HorizontalSpacing));
 }
 
 void LapChart::layOut()
@@ -190,20 +116,18 @@ void LapChart::layOut()
     const int top = line + Gap;
     const int bottom = m_isAxisLabelled ? line + (2 * Gap) : Gap;
     const QRectF plot = QRectF(viewport()->rect()).adjusted(left, top, -RightMargin, -bottom);
-    chart()->setPlotArea(plot.isValid() ? plot : QRectF(left, top, 1, 1));
+    m_plot = plot.isValid() ? plot : QRectF(left, top, 1, 1);
     showVisible();
 }
 
 PixelScale LapChart::horizontalScale() const
 {
-    const QRectF plot = chart()->plotArea();
-    return {m_state.visible(), plot.left(), plot.width()};
+    return {m_state.visible(), m_plot.left(), m_plot.width()};
 }
 
 PixelScale LapChart::verticalScale() const
 {
-    const QRectF plot = chart()->plotArea();
-    return {{m_vertical->min(), m_vertical->max()}, plot.bottom(), -plot.height()};
+    return {m_values, m_plot.bottom(), -m_plot.height()};
 }
 
 void LapChart::drawPicture()
@@ -214,7 +138,7 @@ void LapChart::drawPicture()
     QPainter painter(&m_picture);
     painter.setFont(font());
     drawGrid(painter);
-    render(&painter, QRectF(viewport()->rect()), viewport()->rect());
+    drawCurves(painter);
     drawNumbers(painter);
     drawSectors(painter);
     drawTitle(painter);
@@ -222,7 +146,7 @@ void LapChart::drawPicture()
 
 void LapChart::drawGrid(QPainter &painter) const
 {
-    const QRectF plot = chart()->plotArea();
+    const QRectF &plot = m_plot;
     const PixelScale vertical = verticalScale();
     for (const double value : ticksIn(vertical.range, m_valueStep)) {
         const double y = std::round(vertical.pixelOf(value));
@@ -237,9 +161,35 @@ void LapChart::drawGrid(QPainter &painter) const
     }
 }
 
+void LapChart::drawCurves(QPainter &painter) const
+{
+    const PixelScale horizontal = horizontalScale();
+    const PixelScale vertical = verticalScale();
+    if (!(horizontal.range.span() > 0))
+        return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(m_plot);
+    painter.setPen(Qt::NoPen);
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        QColor colour = m_content.curves[i].colour;
+        colour.setAlpha(BandAlpha);
+        painter.setBrush(colour);
+        for (const QPolygonF &band : m_lines[i].bands(horizontal, vertical))
+            painter.drawPolygon(band);
+    }
+    painter.setBrush(Qt::NoBrush);
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        painter.setPen(QPen(m_content.curves[i].colour, LineWidth));
+        for (const QPolygonF &line : m_lines[i].lines(horizontal, vertical))
+            painter.drawPolyline(line);
+    }
+    painter.restore();
+}
+
 void LapChart::drawNumbers(QPainter &painter) const
 {
-    const QRectF plot = chart()->plotArea();
+    const QRectF &plot = m_plot;
     const double line = fontMetrics().height();
     const QLocale locale;
     painter.setPen(palette().color(QPalette::Text));
@@ -266,7 +216,7 @@ void LapChart::drawNumbers(QPainter &painter) const
 
 QRectF LapChart::titleBox() const
 {
-    const QRectF plot = chart()->plotArea();
+    const QRectF &plot = m_plot;
     return {plot.left(), 0.0,
             static_cast<double>(fontMetrics().horizontalAdvance(m_content.title)) + Gap,
             plot.top()};
@@ -283,7 +233,7 @@ void LapChart::drawSectors(QPainter &painter) const
     const LapTrack *lap = m_state.first();
     if (lap == nullptr)
         return;
-    const QRectF plot = chart()->plotArea();
+    const QRectF &plot = m_plot;
     const PixelScale scale = horizontalScale();
     const auto pixelOf = [&](double seconds) {
         return std::round(scale.pixelOf(lap->converted(seconds, AxisKind::Time, m_state.axis())));
@@ -317,7 +267,7 @@ void LapChart::drawSectorName(QPainter &painter, int sector, const QRectF &room)
 
 void LapChart::drawOverlay(QPainter &painter) const
 {
-    const QRectF plot = chart()->plotArea();
+    const QRectF &plot = m_plot;
     const PixelScale horizontal = horizontalScale();
     if (const auto &selected = m_state.selected()) {
         const double from = horizontal.pixelOf(selected->from);
@@ -374,20 +324,21 @@ void LapChart::paintEvent(QPaintEvent *event)
 
 void LapChart::resizeEvent(QResizeEvent *event)
 {
-    QChartView::resizeEvent(event);
+    QAbstractScrollArea::resizeEvent(event);
     layOut();
 }
 
 void LapChart::changeEvent(QEvent *event)
 {
-    QChartView::changeEvent(event);
+    QAbstractScrollArea::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
         layOut();
 }
 
 bool LapChart::viewportEvent(QEvent *event)
 {
-    return m_input.handleMouse(*event, horizontalScale()) || QChartView::viewportEvent(event);
+    return m_input.handleMouse(*event, horizontalScale())
+           || QAbstractScrollArea::viewportEvent(event);
 }
 
 void LapChart::keyPressEvent(QKeyEvent *event)
@@ -397,7 +348,7 @@ void LapChart::keyPressEvent(QKeyEvent *event)
 
 void LapChart::leaveEvent(QEvent *event)
 {
-    QChartView::leaveEvent(event);
+    QAbstractScrollArea::leaveEvent(event);
     m_state.endHover();
 }
 

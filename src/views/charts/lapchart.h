@@ -3,16 +3,16 @@
 
 #pragma once
 
-#include <QChartView>
+#include <vector>
+
+#include <QAbstractScrollArea>
 #include <QPixmap>
+#include <QRectF>
 
 #include <views/charts/chartaxis.h>
 #include <views/charts/chartcontent.h>
 #include <views/charts/chartinput.h>
-
-class QAreaSeries;
-class QLineSeries;
-class QValueAxis;
+#include <views/charts/curvelines.h>
 
 namespace zuno {
 
@@ -21,12 +21,13 @@ class ChartState;
 /// Draws one channel of the laps, and leads the state's cursor and visible stretch by mouse and
 /// keys (ChartInput).
 ///
-/// Qt Charts draws the curves. Axes and grid are drawn here: its own write "-0.0", cut numbers at
-/// the edges, and leave their grid where it was when the plot gets another place.
+/// All of it is drawn here. Qt Charts, which drew the curves before, strokes the path of each line
+/// anew for every axis that it is attached to and again for the mouse, and knows no pixels: another
+/// lap took three times as long, and one of eight hours a hundred times.
 ///
 /// The chart is drawn once into a picture; a move of the cursor puts the picture back in two narrow
 /// strips and draws the cursor over it, whatever the length of the laps.
-class LapChart final : public QChartView
+class LapChart final : public QAbstractScrollArea
 {
     Q_OBJECT
 
@@ -64,14 +65,11 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
-    void setUpChart();
-    void addSeries();
-    void addLine(const QColor &colour, const QList<QPointF> &points, double width);
-    void addBand(const Curve &curve);
     void setTicks();
     [[nodiscard]] PixelScale verticalScale() const;
     void drawPicture();
     void drawGrid(QPainter &painter) const;
+    void drawCurves(QPainter &painter) const;
     void drawNumbers(QPainter &painter) const;
     void drawSectors(QPainter &painter) const;
     void drawSectorName(QPainter &painter, int sector, const QRectF &room) const;
@@ -83,8 +81,11 @@ private:
     ChartState &m_state;
     ChartInput m_input;
     ChartContent m_content;
-    QValueAxis *m_horizontal;
-    QValueAxis *m_vertical;
+    /// Of the content's curves.
+    std::vector<CurveLines> m_lines;
+    QRectF m_plot {0, 0, 1, 1};
+    /// The values from the lower to the upper edge of the plot.
+    AxisRange m_values;
     QPixmap m_picture;
     /// Between two numbers of the axes.
     double m_step = 1.0;
