@@ -5,10 +5,11 @@
 #include <array>
 #include <cstdlib>
 
-#include <QApplication>
 #include <QCommandLineParser>
+#include <QHashSeed>
 #include <QScreen>
 
+#include <app/application.h>
 #include <app/darkstyle.h>
 #include <app/ending.h>
 #include <app/logfile.h>
@@ -68,12 +69,18 @@ int main(int argc, char *argv[])
         return EXIT_SUCCESS;
     }
     zuno::startLog();
-    const QApplication application(argc, argv);
+    // With a seed Qt hashes short texts in a way that slows all numbers down (processorstate.h),
+    // also between the events. The seed is there against names that were chosen to fall into one
+    // place of a table: here that takes as many files in the rider's own library, which whoever
+    // puts them there could fill with anything else. What comes over the network is signed, and
+    // few.
+    QHashSeed::setDeterministicGlobalSeed();
+    const zuno::Application application(argc, argv);
     // By this name a desktop finds the window's icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("com.example.ZunoAnalyzer"));
     const Arguments arguments = readArguments();
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
-    QApplication::setStyle(new zuno::DarkStyle);
+    zuno::Application::setStyle(new zuno::DarkStyle);
     zuno::ZunoAnalyzer window(arguments.language);
     const zuno::Ending ending;
     QObject::connect(&ending, &zuno::Ending::imminent, &window, &zuno::ZunoAnalyzer::commit);
@@ -89,5 +96,5 @@ int main(int argc, char *argv[])
         QMetaObject::invokeMethod(
             &window, [&window, file = arguments.file] { window.openFile(file); },
             Qt::QueuedConnection);
-    return QApplication::exec();
+    return zuno::Application::exec();
 }

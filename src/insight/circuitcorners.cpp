@@ -3,6 +3,7 @@
 
 #include <insight/circuitcorners.h>
 
+#include <base/processorstate.h>
 #include <insight/modelspeed.h>
 
 namespace zuno {
@@ -16,6 +17,7 @@ constexpr double MostModelTime = 1.5;
 
 CircuitCorners findCorners(const Map &map, const CornerEdits &edits, CircuitRing::Way way)
 {
+    clearVectorRegisters();
     CircuitCorners circuit;
     circuit.ring = CircuitRing(map, way);
     if (circuit.ring.isEmpty())

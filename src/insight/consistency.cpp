@@ -8,6 +8,8 @@
 #include <numbers>
 #include <numeric>
 
+#include <base/processorstate.h>
+
 namespace zuno {
 
 namespace {
@@ -176,6 +178,7 @@ std::optional<Trend> trendOf(std::span<const double> values)
 
 Consistency consistencyOf(const SessionInsight &insight)
 {
+    clearVectorRegisters();
     Consistency consistency;
     if (insight.used.empty())
         return consistency;

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 #include <insight/recordingrate.h>
 
 namespace zuno {
@@ -174,6 +175,7 @@ LapFigures allFigures(const LapOnOutline &path, const CircuitCorners &circuit,
 SessionInsight sessionInsight(CircuitCorners circuit, std::span<const PointAcquisition> samples,
                               const LapList &laps)
 {
+    clearVectorRegisters();
     SessionInsight insight;
     insight.circuit = std::move(circuit);
     insight.rate = recordingRate(samples);
@@ -196,6 +198,7 @@ SessionInsight sessionInsight(CircuitCorners circuit, std::span<const PointAcqui
 SessionInsight insightOf(const Map &map, const CornerEdits &edits,
                          std::span<const PointAcquisition> samples, const LapList &laps)
 {
+    clearVectorRegisters();
     const Lap *best = quickest(laps);
     const CircuitRing::Way way
         = best != nullptr ? wayAround(map, *best) : CircuitRing::Way::AsDrawn;

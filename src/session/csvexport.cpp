@@ -8,6 +8,7 @@
 
 #include <QLocale>
 
+#include <base/processorstate.h>
 #include <session/laps/lap.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
@@ -95,6 +96,7 @@ private:
 
 QByteArray sessionCsv(const Session &session, const QLocale &locale)
 {
+    clearVectorRegisters();
     CsvWriter csv(locale);
     csv.table(session.wholeSamples());
     return csv.bytes();

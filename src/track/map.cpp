@@ -7,6 +7,8 @@
 
 #include <QFileInfo>
 
+#include <base/processorstate.h>
+
 namespace zuno {
 
 namespace {
@@ -64,6 +66,7 @@ void Map::addNamedPoint(const QString &name, const QGeoCoordinate &coordinate)
 
 void Map::computeGeometry()
 {
+    clearVectorRegisters();
     m_length = 0.0;
     m_startDirection = {};
     m_timingDirections.clear();

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 #include <maps/check/gatecrossing.h>
 #include <maps/check/passcheck.h>
 #include <maps/detection/mapdetection.h>
@@ -331,6 +332,7 @@ private:
 
 MapCheck checkMap(std::span<const PointAcquisition> samples, const MapDraft &draft)
 {
+    clearVectorRegisters();
     if (!draft.start.isValid()) {
         MapCheck check;
         check.length = draft.toMap()->length();

@@ -9,6 +9,7 @@
 #include <limits>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 #include <maps/detection/outlinefollower.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
@@ -128,6 +129,7 @@ void preferComplete(Session &session, const QList<const Map *> &candidates)
 
 QList<const Map *> findCandidates(const Session &session, const QList<const Map *> &maps)
 {
+    clearVectorRegisters();
     const QList<const Map *> near = nearCandidates(firstPosition(session.samples()), maps);
     return near.isEmpty() ? followedCandidates(session.wholeSamples(), maps) : near;
 }

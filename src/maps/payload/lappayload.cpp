@@ -6,6 +6,7 @@
 #include <optional>
 
 #include <base/jsonwriter.h>
+#include <base/processorstate.h>
 #include <session/laps/lap.h>
 #include <session/session.h>
 #include <track/map.h>
@@ -125,6 +126,7 @@ QByteArray pointPayload(const PointAcquisition &point)
 
 QByteArray lapPayload(const Lap &lap, const Map *map)
 {
+    clearVectorRegisters();
     return payload({lap.points(), lap.maxSpeedPoints(), lap.minSpeedPoints(), map, lap.accelMax(),
                     lap.decelMax(), lap.isComplete()});
 }

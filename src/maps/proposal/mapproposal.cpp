@@ -8,6 +8,7 @@
 #include <optional>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 #include <maps/proposal/circuit.h>
 #include <maps/proposal/gatechoice.h>
 #include <maps/proposal/lapoutline.h>
@@ -181,6 +182,7 @@ MapProposal proposalAt(std::span<const PointAcquisition> samples, const Circuit 
 
 MapProposal proposeMap(std::span<const PointAcquisition> samples)
 {
+    clearVectorRegisters();
     MapProposal best;
     const RidePath ride(samples);
     if (ride.positionCount() < LeastPositions) {

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 #include <session/laps/sessionmarks.h>
 #include <session/recording/trace.h>
 #include <track/cuttingrules.h>
@@ -198,6 +199,7 @@ LapResults::LapResults()
 LapResults cutIntoLaps(std::span<const PointAcquisition> samples, const Map &map,
                        const QList<quint8> &invalid)
 {
+    clearVectorRegisters();
     if (!map.isUsable())
         return {};
     LapResults results = LapCutter(samples, map, invalid).cut();

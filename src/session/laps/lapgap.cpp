@@ -9,6 +9,7 @@
 #include <optional>
 #include <utility>
 
+#include <base/processorstate.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
 #include <track/lappath.h>
@@ -174,6 +175,7 @@ std::vector<double> elapsedTimes(const Points &points)
 
 Matches matchLaps(const Lap &first, const Lap &second)
 {
+    clearVectorRegisters();
     const Points &points = second.points();
     const auto located = std::find_if(points.begin(), points.end(), [](const auto &point) {
         return positionOf(point).isValid();

@@ -8,6 +8,7 @@
 #include <numbers>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 #include <session/recording/trace.h>
 
 namespace zuno {
@@ -81,6 +82,7 @@ bool hasSlips(std::span<const PointAcquisition> samples)
 
 void markMisplaced(std::span<PointAcquisition> samples)
 {
+    clearVectorRegisters();
     if (!hasSlips(samples))
         return;
     const std::size_t end = samples.size();

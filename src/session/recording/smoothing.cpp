@@ -3,6 +3,7 @@
 
 #include <session/recording/smoothing.h>
 
+#include <base/processorstate.h>
 #include <filter/ckalmanfilter.h>
 
 namespace zuno {
@@ -41,6 +42,7 @@ CKalmanFilter makeFilter()
 
 void smoothSamples(Points &samples)
 {
+    clearVectorRegisters();
     CKalmanFilter filter = makeFilter();
     CMatrix measurement(2, 1);
     for (PointAcquisition &sample : samples) {

@@ -4,6 +4,7 @@
 #include <session/recording/trace.h>
 
 #include <base/numbers.h>
+#include <base/processorstate.h>
 
 namespace zuno {
 
@@ -15,6 +16,7 @@ QGeoCoordinate positionOf(const PointAcquisition &point)
 
 Trace::Trace(std::span<const PointAcquisition> points)
 {
+    clearVectorRegisters();
     m_positions.reserve(points.size());
     for (const PointAcquisition &point : points)
         m_positions.push_back(positionOf(point));
