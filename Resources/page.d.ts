@@ -66,6 +66,8 @@ interface PageOptions {
 
 /** What the program puts into the page before its scripts run. */
 interface PageSettings {
+    /** What the page may load, as a content security policy. */
+    policy: string;
     /** Where the map service's library is, with the key; empty without a key. */
     service: string;
     texts: Record<string, string>;

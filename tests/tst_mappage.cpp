@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QMainWindow>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -11,12 +12,14 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
 #include <base/settings.h>
-#include <maps/page/jsconnector.h>
 #include <maps/page/mapviewcontroller.h>
+#include <maps/page/mapwebpage.h>
 #include <maps/page/pagesettings.h>
 
 namespace zuno::test {
@@ -43,22 +46,24 @@ public:
             });
         });
     }
+
+    [[nodiscard]] QString address() const
+    {
+        return QStringLiteral("http://127.0.0.1:%1/").arg(serverPort());
+    }
 };
 
-/// Leads requests for the map service to another place and keeps what was asked for.
+/// Keeps what the page asked for besides the program's own resources, allowed or not.
 class Interceptor final : public QWebEngineUrlRequestInterceptor
 {
 public:
     void interceptRequest(QWebEngineUrlRequestInfo &info) override
     {
         const QUrl url = info.requestUrl();
-        if (url.scheme() == u"qrc" || url.host() == u"127.0.0.1")
-            return;
-        asked << url.toString();
-        info.redirect(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(port)));
+        if (url.scheme() != u"qrc")
+            asked << url.toString();
     }
 
-    quint16 port = 1;
     QStringList asked;
 };
 
@@ -137,14 +142,23 @@ private Q_SLOTS:
     void picksSamples();
     void drawsWhatCameEarly();
     void releasesWhatItDrew();
-    void staysOnItsPage();
+    void policy_data();
+    void policy();
+    void isClosed_data();
+    void isClosed();
+    void guardsWithoutPolicy();
+    void refusesPermissions();
+    void hasOneObject();
+    void opensLinksOutside();
     void editsDraft();
     void ignoresWhatCannotBe();
     void dragsOnBuiltInMap();
 
 private:
     /// Loads the page anew, with that script in the map service's place, and waits for it.
-    void load(const std::optional<QByteArray> &script);
+    void load(const std::optional<QByteArray> &script, const QByteArray &key = "a-key");
+    /// Loads that page again, with a script that runs before its own.
+    void loadAgain(const QString &script);
     QVariant run(const QString &script);
     QByteArray text(const QString &script) { return run(script).toString().toUtf8(); }
     /// Runs an expression over the stand-in's shapes and gives its values, joined.
@@ -162,12 +176,12 @@ void TestMapPage::initTestCase()
     QWebEngineProfile::defaultProfile()->setUrlRequestInterceptor(&m_interceptor);
 }
 
-void TestMapPage::load(const std::optional<QByteArray> &script)
+void TestMapPage::load(const std::optional<QByteArray> &script, const QByteArray &key)
 {
-    qputenv("ZUNO_MAP_KEY", "a-key");
+    qputenv("ZUNO_MAP_KEY", key);
     m_interceptor.asked.clear();
     m_service = std::make_unique<Service>(script);
-    m_interceptor.port = m_service->serverPort();
+    qputenv("ZUNO_MAP_SERVICE", m_service->address().toUtf8());
     m_window = std::make_unique<QMainWindow>();
     auto *content = new QWidget;
     content->setLayout(new QVBoxLayout);
@@ -177,6 +191,18 @@ void TestMapPage::load(const std::optional<QByteArray> &script)
     m_view = new MapViewController(m_window.get());
     QSignalSpy ready(m_view, &MapViewController::mapReady);
     m_view->init(m_window.get(), content->layout());
+    QVERIFY(ready.wait(20000));
+}
+
+void TestMapPage::loadAgain(const QString &script)
+{
+    QWebEngineScript first;
+    first.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    first.setWorldId(QWebEngineScript::MainWorld);
+    first.setSourceCode(script);
+    m_view->page()->scripts().insert(first);
+    QSignalSpy ready(m_view, &MapViewController::mapReady);
+    m_view->view()->reload();
     QVERIFY(ready.wait(20000));
 }
 
@@ -197,6 +223,7 @@ QByteArray TestMapPage::shapes(const char *what, const char *condition)
 void TestMapPage::serviceAddress()
 {
     qunsetenv("ZUNO_MAP_KEY");
+    qunsetenv("ZUNO_MAP_SERVICE");
     QCOMPARE(mapServiceAddress(), QString());
     QCOMPARE(qstrlen(ZUNO_MAP_KEY_PLACEHOLDER), 39U);
     qputenv("ZUNO_MAP_KEY", "a&b=c");
@@ -348,7 +375,7 @@ void TestMapPage::options()
     const QTemporaryDir root;
     const Settings settings(root.path());
     settings.setValues({{Setting::ShowPartielsPoints, false}, {Setting::ShowLocalMinMax, true}});
-    QSignalSpy sent(m_view->page(), &JSConnector::setOptions);
+    QSignalSpy sent(&m_view->page()->connector(), &JSConnector::setOptions);
     m_view->setOptions(settings.path(SettingsFile::Analyzer));
     QCOMPARE(sent.value(0).value(0).toString().toUtf8(),
              R"({"minMax":"true","landmarks":"false","compareGradient":"true"})");
@@ -374,7 +401,7 @@ void TestMapPage::picksSamples()
 void TestMapPage::drawsWhatCameEarly()
 {
     load(standIn());
-    Q_EMIT m_view->page()->drawTwoLaps(lap(), lap(1));
+    Q_EMIT m_view->page()->connector().drawTwoLaps(lap(), lap(1));
     QTRY_VERIFY(run(QStringLiteral("secondLap !== null")).toBool());
     QCOMPARE(shapes("s.path.length"), QByteArray());
     m_view->centerMap(nullptr);
@@ -386,8 +413,7 @@ void TestMapPage::drawsWhatCameEarly()
 
 void TestMapPage::releasesWhatItDrew()
 {
-    qputenv("ZUNO_MAP_KEY", "");
-    load({});
+    load({}, {});
     m_view->initOnlineMap({}, -1);
     const auto layers = [this] {
         return text(QStringLiteral("Object.keys(map.leaflet._layers).length + ' '"
@@ -400,24 +426,174 @@ void TestMapPage::releasesWhatItDrew()
     QCOMPARE(layers(), before);
 }
 
-void TestMapPage::staysOnItsPage()
+void TestMapPage::policy_data()
 {
-    const QUrl page = m_view->page()->url();
+    QTest::addColumn<QString>("service");
+    QTest::addColumn<QString>("url");
+    QTest::addColumn<bool>("allowed");
+
+    const QString none;
+    const auto service = QStringLiteral("https://maps.googleapis.com/maps/api/js?key=1");
+    const auto test = QStringLiteral("http://localhost:8080/js");
+    const auto row = [](const QString &from, const char *url, bool allowed) {
+        QTest::addRow("%s for %s", url, qPrintable(from))
+            << from << QString::fromLatin1(url) << allowed;
+    };
+    row(none, "qrc:/Resources/script.js", true);
+    row(none, "https://maps.googleapis.com/maps/api/js", false);
+    row(none, "file:///etc/passwd", false);
+    row(service, "https://maps.googleapis.com/maps/api/js", true);
+    row(service, "https://khms0.googleapis.com/kh?v=1", true);
+    row(service, "https://maps.gstatic.com/a.png", true);
+    row(service, "https://maps.gstatic.com:444/a.png", false);
+    row(service, "http://maps.googleapis.com/maps/api/js", false);
+    row(service, "https://evilgoogleapis.com/", false);
+    row(service, "https://www.google.com.example.org/", false);
+    row(service, "https://www.google.com@example.org/", false);
+    row(service, "ws://maps.googleapis.com/", false);
+    row(service, "file://maps.googleapis.com/etc/passwd", false);
+    row(test, "http://localhost:8080/other", true);
+    row(test, "http://localhost:8081/js", false);
+    row(test, "http://127.0.0.1:8080/js", false);
+    // Its key would go through the network for everybody to read.
+    row(QStringLiteral("http://example.org/js"), "http://example.org/js", false);
+    row(QStringLiteral("https://example.org/js"), "https://example.org/js", true);
+}
+
+void TestMapPage::policy()
+{
+    QFETCH(const QString, service);
+    QFETCH(const QString, url);
+    QFETCH(const bool, allowed);
+    QCOMPARE(PagePolicy(QUrl(service)).allows(QUrl(url)), allowed);
+}
+
+void TestMapPage::isClosed_data()
+{
+    QTest::addColumn<bool>("hasKey");
+    QTest::newRow("without a key") << false;
+    QTest::newRow("with one") << true;
+}
+
+// What a hostile script would try, with another server on this computer and with a rider's file.
+void TestMapPage::isClosed()
+{
+    QFETCH(const bool, hasKey);
+    Service elsewhere {QByteArray("ran = true")};
+    QSignalSpy reached(&elsewhere, &QTcpServer::newConnection);
+    const QTemporaryDir folder;
+    QFile secret(folder.filePath(QStringLiteral("ride.js")));
+    QVERIFY(secret.open(QIODevice::WriteOnly) && secret.write("ran = true") > 0);
+    secret.close();
+
+    load(standIn(), hasKey ? "a-key" : "");
     m_interceptor.asked.clear();
-    run(QStringLiteral("location.href = 'https://www.example.com/'"));
-    run(QStringLiteral("const frame = document.createElement('iframe');"
-                       "frame.src = 'https://www.example.com/'; document.body.append(frame)"));
+    const QUrl page = m_view->page()->url();
+    QSignalSpy downloads(m_view->page()->profile(), &QWebEngineProfile::downloadRequested);
+    for (const QString &place : {elsewhere.address(), QStringLiteral("https://www.example.com/"),
+                                 QUrl::fromLocalFile(secret.fileName()).toString()}) {
+        run(QStringLiteral("ran = false; where = '%1'").arg(place));
+        for (const char *attack :
+             {"fetch(where).then(() => ran = true, () => 0)", "navigator.sendBeacon(where, 'x')",
+              "new Image().src = where", "new WebSocket(where.replace(/^[a-z]*/, 'ws'))",
+              "const request = new XMLHttpRequest(); request.open('GET', where); request.send()",
+              "location.href = where", "location.replace(where)", "if (open(where)) ran = true",
+              "if (open()) ran = true", "new Worker(where)", "import(where)"})
+            run(QStringLiteral("try { %1 } catch { } 0").arg(QString::fromLatin1(attack)));
+        // An attribute without a value gets the place.
+        for (const char *element :
+             {"script src", "iframe src", "img src", "object data", "embed src", "video src",
+              "link rel=stylesheet href", "link rel=prefetch href",
+              "link rel=preload as=script href", "a href", "a target=_blank href",
+              "a download href", "form action", "base href"})
+            run(QStringLiteral("{ const [kind, ...words] = '%1'.split(' ');"
+                               "const element = document.createElement(kind);"
+                               "for (const [name, value] of words.map((word) => word.split('=')))"
+                               "element.setAttribute(name, value ?? where);"
+                               "document.body.append(element);"
+                               "(element.submit ?? element.click).call(element); } 0")
+                    .arg(QString::fromLatin1(element)));
+    }
+    if (!hasKey)
+        run(QStringLiteral("try { eval('ran = true') } catch { } 0"));
+    QTest::qWait(1000);
+    QVERIFY(reached.isEmpty());
+    QVERIFY(downloads.isEmpty());
+    QCOMPARE(m_interceptor.asked.filter(QRegularExpression(QStringLiteral("^(http|file)"))),
+             QStringList());
+    QCOMPARE(run(QStringLiteral("ran")).toBool(), false);
+    QCOMPARE(m_view->page()->url(), page);
+}
+
+// Also when the page's own policy were gone.
+void TestMapPage::guardsWithoutPolicy()
+{
+    Service elsewhere {QByteArray()};
+    QSignalSpy reached(&elsewhere, &QTcpServer::newConnection);
+    load(standIn());
+    loadAgain(QStringLiteral("zunoPage.policy = 'img-src *'"));
+    run(QStringLiteral("outcome = ''; const image = new Image();"
+                       "image.onload = image.onerror = (event) => outcome = event.type;"
+                       "image.src = '%1'; 0")
+            .arg(elsewhere.address()));
+    QTRY_COMPARE(text(QStringLiteral("outcome")), QByteArray("error"));
+    QVERIFY(m_interceptor.asked.contains(elsewhere.address()));
+    QVERIFY(reached.isEmpty());
+}
+
+void TestMapPage::refusesPermissions()
+{
+    load(standIn());
+    const auto outcome = [this](const char *wish) {
+        run(QStringLiteral("outcome = ''; %1; 0").arg(QString::fromLatin1(wish)));
+        [this] { QTRY_VERIFY(text(QStringLiteral("outcome")) != ""); }();
+        return text(QStringLiteral("outcome"));
+    };
+    QCOMPARE(outcome("navigator.geolocation.getCurrentPosition(() => outcome = 'given',"
+                     "(error) => outcome = `refused ${error.code}`)"),
+             "refused 1");
+    QCOMPARE(outcome("Notification.requestPermission().then((answer) => outcome = answer)"),
+             "denied");
+    QCOMPARE(outcome("alert('?'); outcome = `${confirm('?')} ${prompt('?')}`"), "false null");
+}
+
+// Whatever runs in the page finds these names on the channel and no others.
+void TestMapPage::hasOneObject()
+{
+    QCOMPARE(text(QStringLiteral(
+                 "outcome = ''; new QWebChannel(qt.webChannelTransport, (channel) => {"
+                 "outcome = Object.keys(channel.objects).join() + ': ' +"
+                 "Object.entries(channel.objects.jsConnector)"
+                 ".filter(([name, value]) => typeof value === 'function' && !name.includes('('))"
+                 ".map(([name]) => name).sort().join(); }); ''")),
+             QByteArray());
+    QTRY_COMPARE(text(QStringLiteral("outcome")),
+                 QByteArray("jsConnector: connected,deleteLater,propertyUpdate,signalEmitted,"
+                            "textFromJs,unwrapProperties,unwrapQObject"));
+    // The one that is inherited does nothing to what is not the page's own.
+    run(QStringLiteral("connector.deleteLater(); 0"));
+    QSignalSpy picked(m_view, &MapViewController::samplePicked);
+    run(QStringLiteral("tell({ event: 'picked', index: 3 }); 0"));
+    QTRY_COMPARE(picked.size(), 1);
+}
+
+// A link of the service that the rider clicks; a script cannot do so.
+void TestMapPage::opensLinksOutside()
+{
+    load(standIn());
     QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "browse");
-    for (const char *target : {"", "_blank"})
-        run(QStringLiteral("const %1link = document.createElement('a');"
-                           "%1link.href = 'https://www.example.org/%1'; %1link.target = '%1';"
-                           "document.body.append(%1link); %1link.click()")
-                .arg(QString::fromLatin1(target)));
-    QTRY_COMPARE(m_browsed, (QStringList {QStringLiteral("https://www.example.org/"),
-                                          QStringLiteral("https://www.example.org/_blank")}));
+    const QUrl page = m_view->page()->url();
+    for (const char *address : {"https://www.example.org/", "https://www.google.com/terms"}) {
+        run(QStringLiteral("document.body.innerHTML = '<a id=link target=_blank href=\"%1\">"
+                           "<div id=map></div></a>'; document.getElementById('link').click(); 0")
+                .arg(QString::fromLatin1(address)));
+        QTRY_VERIFY(
+            run(QStringLiteral("document.elementFromPoint(100, 100).id === 'map'")).toBool());
+        QTest::mouseClick(m_view->view()->focusProxy(), Qt::LeftButton, {}, {100, 100});
+    }
+    QTRY_COMPARE(m_browsed, QStringList {QStringLiteral("https://www.google.com/terms")});
     QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
     QCOMPARE(m_view->page()->url(), page);
-    QCOMPARE(m_interceptor.asked, QStringList());
 }
 
 void TestMapPage::editsDraft()
@@ -426,7 +602,7 @@ void TestMapPage::editsDraft()
     m_view->initOnlineMap({}, -1);
     run(call("drawOneLap", {lap()}));
     m_view->editPath(stretch());
-    QSignalSpy sent(m_view->page(), &JSConnector::editDraft);
+    QSignalSpy sent(&m_view->page()->connector(), &JSConnector::editDraft);
     m_view->editDraft(draft(), 0, {1});
     m_view->editDraft(draft(), 0, {1});
     QVERIFY(!sent.value(1).value(0).toString().contains(u"outline"));
@@ -465,7 +641,7 @@ void TestMapPage::ignoresWhatCannotBe()
           R"("pointSelected","point":-1)", R"("gateResized","metres":0)",
           R"("gateResized","metres":5)", R"("trackClicked","lat":46,"lng":6)",
           R"("trackClicked","lat":46,"lng":6,"metresPerPixel":2)"})
-        m_view->page()->textFromJs(u"{\"event\":" + QString::fromUtf8(message) + u'}');
+        m_view->page()->connector().textFromJs(u"{\"event\":" + QString::fromUtf8(message) + u'}');
     for (const QSignalSpy *spy : {&moved, &selected, &resized, &clicked})
         QCOMPARE(spy->size(), 1);
     m_view->endEditing();
@@ -474,14 +650,12 @@ void TestMapPage::ignoresWhatCannotBe()
 
 void TestMapPage::dragsOnBuiltInMap()
 {
-    qputenv("ZUNO_MAP_KEY", "");
-    load({});
+    load({}, {});
     m_view->editPath(stretch());
     m_view->editDraft(draft());
     // A page that is loaded again has everything again.
-    QSignalSpy ready(m_view, &MapViewController::mapReady);
-    m_view->view()->reload();
-    QVERIFY(ready.wait(20000));
+    loadAgain(QStringLiteral("refused = 0; document.addEventListener('securitypolicyviolation',"
+                             "() => ++refused)"));
     QTRY_COMPARE(run(QStringLiteral("signs.length + edited.outline.length")).toInt(), 6);
     QSignalSpy moved(m_view, &MapViewController::pointMoved);
     const QString sign = QStringLiteral("map.leaflet.latLngToContainerPoint([46, 6.01]).");
@@ -496,6 +670,8 @@ void TestMapPage::dragsOnBuiltInMap()
     QTest::mouseRelease(surface, Qt::LeftButton, {}, from + QPoint(-50, 50));
     QTRY_VERIFY(moved.last()[2].toBool());
     QTRY_COMPARE(run(QStringLiteral("signs[1].marker.marker.getLatLng().lng")).toDouble(), 6.01);
+    // The page itself does nothing that it may not do.
+    QCOMPARE(run(QStringLiteral("refused")).toInt(), 0);
 }
 
 } // namespace zuno::test

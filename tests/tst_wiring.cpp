@@ -16,7 +16,7 @@
 
 #include <library/exportdialogs.h>
 #include <maps/editor/mapeditor.h>
-#include <maps/page/jsconnector.h>
+#include <maps/page/mapwebpage.h>
 #include <session/csvexport.h>
 #include <session/sessionfile.h>
 #include <track/mapfile.h>
@@ -58,7 +58,7 @@ struct Paddock
         (void)window->open();
         window->select(home.path(AtValmora));
         charts = window->main.findChild<LapCharts *>();
-        page = qobject_cast<JSConnector *>(window->main.findChild<QWebEngineView *>()->page());
+        page = qobject_cast<MapWebPage *>(window->main.findChild<QWebEngineView *>()->page());
     }
     [[nodiscard]] QTableView &table() const { return window->part<QTableView>("tw_tours"); }
     [[nodiscard]] ChartState &state() const { return charts->state(); }
@@ -73,7 +73,7 @@ struct Paddock
     Home home {{AtValmora, LauraAgain, AtHaidemoor}, {u"Valmora.map"_s, u"Haidemoor.map"_s}};
     std::unique_ptr<Window> window;
     LapCharts *charts = nullptr;
-    JSConnector *page = nullptr;
+    MapWebPage *page = nullptr;
 };
 
 } // namespace
@@ -117,7 +117,7 @@ private Q_SLOTS:
     {
         const Paddock paddock;
         paddock.choose(4);
-        const QSignalSpy sent(paddock.page, &JSConnector::drawTwoLaps);
+        const QSignalSpy sent(&paddock.page->connector(), &JSConnector::drawTwoLaps);
         paddock.table().selectRow(2);
         QCOMPARE(sent.count(), 1);
         QVERIFY(sent[0][0] != sent[0][1]);
@@ -133,7 +133,7 @@ private Q_SLOTS:
     void comparedSession()
     {
         const Paddock paddock;
-        const QSignalSpy sent(paddock.page, &JSConnector::drawTwoLaps);
+        const QSignalSpy sent(&paddock.page->connector(), &JSConnector::drawTwoLaps);
         const Session *before
             = paddock.window->main.findSessionByPath(paddock.home.path(AtValmora));
         paddock.choose(2);
@@ -151,7 +151,7 @@ private Q_SLOTS:
     void cursor()
     {
         const Paddock paddock;
-        QSignalSpy moved(paddock.page, &JSConnector::drawCursor);
+        QSignalSpy moved(&paddock.page->connector(), &JSConnector::drawCursor);
         Q_EMIT paddock.page->samplePicked(50);
         QCOMPARE(paddock.state().cursor(), 50U);
         const quint32 stamp = paddock.state().first()->points()[50].dataTimeStamp;
@@ -180,7 +180,7 @@ private Q_SLOTS:
     void settings()
     {
         const Paddock paddock;
-        const QSignalSpy sent(paddock.page, &JSConnector::setOptions);
+        const QSignalSpy sent(&paddock.page->connector(), &JSConnector::setOptions);
         QVERIFY(!paddock.table().isColumnHidden(MaxSpeed));
         onDialog([](QWidget &dialog) {
             child<QCheckBox>(dialog, "cb_maxSpeed").click();
@@ -216,7 +216,7 @@ private Q_SLOTS:
     {
         const Paddock paddock;
         auto *view = paddock.window->main.findChild<QWebEngineView *>();
-        QTRY_VERIFY(paddock.page->isConnected() && !paddock.page->isLoading());
+        QTRY_VERIFY(paddock.page->connector().isConnected() && !paddock.page->isLoading());
         QSignalSpy started(view, &QWebEngineView::loadStarted);
         Q_EMIT paddock.page->renderProcessTerminated(QWebEnginePage::CrashedTerminationStatus, 1);
         QTRY_VERIFY(!started.isEmpty());

@@ -12,8 +12,7 @@
 #include <QWebEngineView>
 
 #include <base/settings.h>
-#include <maps/page/jsconnector.h>
-#include <maps/page/pagesettings.h>
+#include <maps/page/mapwebpage.h>
 #include <maps/payload/lappayload.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
@@ -67,16 +66,16 @@ void MapViewController::init(QWidget *window, QLayout *layout)
     // Files that are dropped are for the window.
     m_view->setAcceptDrops(false);
     layout->addWidget(m_view);
-    m_page = new JSConnector(m_view);
-    connect(m_page, &JSConnector::loadFinished, this, &MapViewController::onPageConnected);
-    connect(m_page, &JSConnector::drawn, this, &MapViewController::lapDrawn);
-    connect(m_page, &JSConnector::samplePicked, this, &MapViewController::samplePicked);
+    m_page = new MapWebPage(m_view);
+    connect(&m_page->connector(), &JSConnector::loadFinished, this,
+            &MapViewController::onPageConnected);
+    connect(m_page, &MapWebPage::drawn, this, &MapViewController::lapDrawn);
+    connect(m_page, &MapWebPage::samplePicked, this, &MapViewController::samplePicked);
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::restart);
     connectEditing();
-    injectPageSettings(*m_page);
     m_view->setPage(m_page);
     m_page->setBackgroundColor(QColor(0x14, 0x18, 0x1d));
-    m_view->load(QUrl(QStringLiteral("qrc:/Resources/map.html")));
+    m_page->start();
     m_view->show();
 }
 
@@ -117,31 +116,31 @@ void MapViewController::centerMap(const Map *map)
 void MapViewController::drawLap(const SessionLap &lap)
 {
     if (m_view != nullptr && lap)
-        Q_EMIT m_page->drawOneLap(payloadOf(lap));
+        Q_EMIT m_page->connector().drawOneLap(payloadOf(lap));
 }
 
 void MapViewController::drawTwoLaps(const SessionLap &first, const SessionLap &second)
 {
     if (m_view != nullptr && first && second)
-        Q_EMIT m_page->drawTwoLaps(payloadOf(first), payloadOf(second));
+        Q_EMIT m_page->connector().drawTwoLaps(payloadOf(first), payloadOf(second));
 }
 
 void MapViewController::clearLaps()
 {
     if (m_view != nullptr)
-        Q_EMIT m_page->drawOneLap(QString::fromUtf8(emptyLapPayload()));
+        Q_EMIT m_page->connector().drawOneLap(QString::fromUtf8(emptyLapPayload()));
 }
 
 void MapViewController::drawCursor(const QString &text)
 {
     if (m_view != nullptr)
-        Q_EMIT m_page->drawCursor(text);
+        Q_EMIT m_page->connector().drawCursor(text);
 }
 
 void MapViewController::drawSecondCursor(const QString &text)
 {
     if (m_view != nullptr)
-        Q_EMIT m_page->drawSecondCursor(text);
+        Q_EMIT m_page->connector().drawSecondCursor(text);
 }
 
 void MapViewController::showStretch(const Points &points)
@@ -175,7 +174,7 @@ void MapViewController::setOptions(const QString &settingsPath)
     };
     const PageOptions options {text(Setting::ShowLocalMinMax), text(Setting::ShowPartielsPoints),
                                text(Setting::UseGradientCompare)};
-    Q_EMIT m_page->setOptions(QString::fromUtf8(optionsPayload(options)));
+    Q_EMIT m_page->connector().setOptions(QString::fromUtf8(optionsPayload(options)));
 }
 
 void MapViewController::editPath(std::span<const PointAcquisition> samples)
@@ -205,25 +204,25 @@ void MapViewController::endEditing()
 {
     m_editing.reset();
     if (m_view != nullptr)
-        Q_EMIT m_page->endEditing();
+        Q_EMIT m_page->connector().endEditing();
 }
 
 void MapViewController::sendPath()
 {
-    if (!m_editing || m_view == nullptr || !m_page->isConnected())
+    if (!m_editing || m_view == nullptr || !m_page->connector().isConnected())
         return;
     if (!m_isReady) {
         m_isReady = true;
         run(*m_page, QStringLiteral("initMap"), textOf(m_editing->centre));
     }
-    Q_EMIT m_page->editPath(m_editing->path);
+    Q_EMIT m_page->connector().editPath(m_editing->path);
 }
 
 void MapViewController::sendDraft(OutlineForm outline)
 {
-    if (!m_editing || !m_editing->draft || m_view == nullptr || !m_page->isConnected())
+    if (!m_editing || !m_editing->draft || m_view == nullptr || !m_page->connector().isConnected())
         return;
-    Q_EMIT m_page->editDraft(QString::fromUtf8(
+    Q_EMIT m_page->connector().editDraft(QString::fromUtf8(
         draftPayload(*m_editing->draft, m_editing->selected, m_editing->warned, outline)));
 }
 
@@ -238,20 +237,20 @@ bool MapViewController::isKnownPoint(int point) const
 
 void MapViewController::connectEditing()
 {
-    connect(m_page, &JSConnector::pointMoved, this,
+    connect(m_page, &MapWebPage::pointMoved, this,
             [this](int point, const QGeoCoordinate &place, bool done) {
                 if (isKnownPoint(point))
                     Q_EMIT pointMoved(point, place, done);
             });
-    connect(m_page, &JSConnector::pointSelected, this, [this](int point) {
+    connect(m_page, &MapWebPage::pointSelected, this, [this](int point) {
         if (isKnownPoint(point))
             Q_EMIT pointSelected(point);
     });
-    connect(m_page, &JSConnector::gateResized, this, [this](double metres, bool done) {
+    connect(m_page, &MapWebPage::gateResized, this, [this](double metres, bool done) {
         if (m_editing)
             Q_EMIT gateResized(metres, done);
     });
-    connect(m_page, &JSConnector::trackClicked, this,
+    connect(m_page, &MapWebPage::trackClicked, this,
             [this](const QGeoCoordinate &place, double metresPerPixel) {
                 if (m_editing)
                     Q_EMIT trackClicked(place, metresPerPixel);

@@ -20,8 +20,8 @@ class QWidget;
 
 namespace zuno {
 
-class JSConnector;
 class Map;
+class MapWebPage;
 class Session;
 struct SessionLap;
 
@@ -80,7 +80,7 @@ public:
 
     /// The view and its page; nullptr before init().
     [[nodiscard]] QWebEngineView *view() const { return m_view; }
-    [[nodiscard]] JSConnector *page() const { return m_page; }
+    [[nodiscard]] MapWebPage *page() const { return m_page; }
 
 Q_SIGNALS:
     /// The page listens, for the first time or after it had to be loaded again.
@@ -120,7 +120,7 @@ private:
     [[nodiscard]] bool isKnownPoint(int point) const;
 
     QWebEngineView *m_view = nullptr;
-    JSConnector *m_page = nullptr;
+    MapWebPage *m_page = nullptr;
     std::optional<Editing> m_editing;
     bool m_isReady = false;
     int m_restarts = 0;

@@ -12,6 +12,8 @@
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 
+#include <maps/page/pagepolicy.h>
+
 namespace zuno {
 
 namespace {
@@ -57,9 +59,10 @@ QString mapServiceAddress()
     return address.toString(QUrl::FullyEncoded);
 }
 
-void injectPageSettings(QWebEnginePage &page)
+void injectPageSettings(QWebEnginePage &page, const PagePolicy &policy)
 {
     const QJsonObject settings {
+        {QStringLiteral("policy"), policy.text()},
         {QStringLiteral("service"), mapServiceAddress()},
         {QStringLiteral("texts"), MapPage::texts()},
     };
