@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QUrl>
 
 namespace zuno {
 
@@ -125,6 +126,14 @@ QString textWithCommas(const QString &path, const QString &key)
             text = unescaped(line.mid(equals + 1).trimmed().toString());
     }
     return text;
+}
+
+// A slash would make a group of its own.
+QString keyIn(SettingsGroup group, const QString &name)
+{
+    const QString folder = group == SettingsGroup::LapReasons ? QStringLiteral("LapReasons/")
+                                                              : QStringLiteral("References/");
+    return folder + QString::fromLatin1(QUrl::toPercentEncoding(name));
 }
 
 } // namespace
@@ -283,6 +292,10 @@ void Settings::renameMapChoices(const QString &from, const QString &to) const
         for (const QString &session : sessions)
             settings.setValue(session, to);
     });
+    if (const QStringList reference = kept(SettingsGroup::References, from); !reference.isEmpty()) {
+        keep(SettingsGroup::References, to, reference);
+        keep(SettingsGroup::References, from, {});
+    }
 }
 
 void Settings::removeMapChoices(const QString &mapName) const
@@ -291,6 +304,25 @@ void Settings::removeMapChoices(const QString &mapName) const
     change(SettingsFile::Analyzer, [&](QSettings &settings) {
         for (const QString &session : sessions)
             settings.remove(session);
+        settings.remove(keyIn(SettingsGroup::References, mapName));
+    });
+}
+
+QStringList Settings::kept(SettingsGroup group, const QString &name) const
+{
+    const QSettings settings(path(SettingsFile::Analyzer), QSettings::IniFormat);
+    return settings.value(keyIn(group, name)).toStringList();
+}
+
+void Settings::keep(SettingsGroup group, const QString &name, const QStringList &texts) const
+{
+    if (kept(group, name) == texts)
+        return;
+    change(SettingsFile::Analyzer, [&](QSettings &settings) {
+        if (texts.isEmpty())
+            settings.remove(keyIn(group, name));
+        else
+            settings.setValue(keyIn(group, name), texts);
     });
 }
 

@@ -53,6 +53,9 @@ enum class Setting {
     CheckForUpdates,
 };
 
+/// Groups of the analyzer's file that hold lists of texts by names which only the program knows.
+enum class SettingsGroup { LapReasons, References };
+
 /// The program's settings. Each read and each write opens the file anew, since other programs of
 /// the rider's set write to the same files.
 class Settings
@@ -101,6 +104,12 @@ public:
     void renameMapChoices(const QString &from, const QString &to) const;
     /// Forgets every stored choice of a map.
     void removeMapChoices(const QString &mapName) const;
+
+    /// What is kept in a group by a name; nothing when nothing is. A map's reference goes by the
+    /// map's name and follows it as the choices do.
+    [[nodiscard]] QStringList kept(SettingsGroup group, const QString &name) const;
+    /// Keeps texts in place of what was there; none forgets it.
+    void keep(SettingsGroup group, const QString &name, const QStringList &texts) const;
 
 private:
     void change(SettingsFile file, const std::function<void(QSettings &)> &make) const;
