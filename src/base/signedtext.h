@@ -7,8 +7,8 @@
 
 namespace zuno {
 
-/// A difference with its sign and so many decimals, as the rider's language writes numbers: "+0.67",
-/// U+2212 for minus, and no sign where nothing but zeros would stand.
+/// A difference with its sign and so many decimals, as the rider's language writes numbers:
+/// "+0.67", U+2212 for minus, and no sign where nothing but zeros would stand.
 [[nodiscard]] QString signedText(double value, int decimals);
 
 } // namespace zuno

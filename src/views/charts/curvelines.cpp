@@ -17,6 +17,9 @@ constexpr std::size_t BlockSize = 8;
 // Up to so many samples of a column are drawn as they are.
 constexpr std::size_t FewSamples = 4;
 
+// The time that Qt takes to fill a polygon grows with the square of its corners.
+constexpr qsizetype BandPart = 8;
+
 // Samples that fall into one column of pixels: from first to the one before end.
 struct Column
 {
@@ -85,11 +88,13 @@ private:
     std::vector<QPolygonF> m_all;
 };
 
-QPolygonF joined(QPolygonF top, const QPolygonF &bottom)
+// A part of what lies between two lines.
+QPolygonF between(const QPolygonF &top, const QPolygonF &bottom, qsizetype first, qsizetype last)
 {
-    for (auto point = bottom.crbegin(); point != bottom.crend(); ++point)
-        top.append(*point);
-    return top;
+    QPolygonF part = top.mid(first, last - first + 1);
+    for (qsizetype i = last; i >= first; --i)
+        part.append(bottom[i]);
+    return part;
 }
 
 } // namespace
@@ -203,10 +208,15 @@ std::vector<QPolygonF> CurveLines::bands(const PixelScale &horizontal,
         add(column.first, lows.low, highs.high);
         add(column.end - 1, lows.low, highs.high);
     });
-    std::vector<QPolygonF> polygons = tops.take();
+    const std::vector<QPolygonF> above = tops.take();
     const std::vector<QPolygonF> below = bottoms.take();
-    for (std::size_t i = 0; i < polygons.size(); ++i)
-        polygons[i] = joined(std::move(polygons[i]), below[i]);
+    std::vector<QPolygonF> polygons;
+    for (std::size_t i = 0; i < above.size(); ++i) {
+        for (qsizetype first = 0; first + 1 < above[i].size(); first += BandPart) {
+            const qsizetype last = std::min(first + BandPart, above[i].size() - 1);
+            polygons.push_back(between(above[i], below[i], first, last));
+        }
+    }
     return polygons;
 }
 

@@ -55,8 +55,8 @@ public:
     /// lone value is no line.
     [[nodiscard]] std::vector<QPolygonF> lines(const PixelScale &horizontal,
                                                const PixelScale &vertical) const;
-    /// What lies between the lowest and the highest values, in pieces that can be filled; none for
-    /// a curve without.
+    /// What lies between the lowest and the highest values, in small polygons side by side; none
+    /// for a curve without.
     [[nodiscard]] std::vector<QPolygonF> bands(const PixelScale &horizontal,
                                                const PixelScale &vertical) const;
 
