@@ -124,6 +124,6 @@ int run()
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    QApplication::setStyle(new zuno::DarkStyle);
+    zuno::DarkStyle::install();
     return zuno::run();
 }

@@ -50,9 +50,18 @@ ico() { # ico TARGET SOURCE:SIZE...
     icotool --create --output="$target" "${pictures[@]}"
 }
 
+# The same drawing for light grounds: signs that are pale on dark ones are dark there. What stands
+# on a ground of its own (a tick in its box, a symbol of a message) stays as it is.
+light() { # light SOURCE
+    sed -e 's/#d5dfe8/#33414d/g; s/#e8eff5/#33414d/g; s/#8ea2b3/#4c5a66/g; s/#b8c6d2/#4c5a66/g' \
+        -e 's/#1f8ad8/#0b62c4/g; s/#7f7f7f/#8a949d/g' "$1" >"$scratch/light.svg"
+}
+
 for source in darkstyle/svg/*.svg; do
     name=${source##*/}
     png "$source" "darkstyle/${name%.svg}"
+    light "$source"
+    png "$scratch/light.svg" "darkstyle/light/${name%.svg}"
 done
 
 for source in Resources/svg/*.svg; do

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include <app/darkstyle.h>
+#include <theme/themes.h>
 
 using namespace zuno;
 using namespace Qt::StringLiterals;
@@ -21,9 +22,34 @@ private Q_SLOTS:
     void sheetIsReadWithoutWarnings()
     {
         QTest::failOnWarning(QRegularExpression(u".*"_s));
-        QApplication::setStyle(new DarkStyle);
+        DarkStyle::install();
         QPushButton(u"Ok"_s).grab();
         QVERIFY(!qApp->styleSheet().isEmpty());
+        QVERIFY(!qApp->styleSheet().section(u"*/"_s, 1).contains(u'@'));
+    }
+
+    // A window that is open takes the other colours at once, and whoever hears of it finds them.
+    void themeChanges()
+    {
+        QTest::failOnWarning(QRegularExpression(u".*"_s));
+        QWidget window;
+        QPushButton button(u"Ok"_s, &window);
+        const auto ground = [&window] { return window.grab().toImage().pixelColor(290, 90); };
+        window.resize(300, 100);
+        QCOMPARE(ground(), Theme(Theme::Kind::Dark).colour(Colour::Window));
+        QColor heard;
+        connect(&Themes::instance(), &Themes::changed, &window,
+                [&] { heard = window.palette().color(QPalette::Window); });
+        Themes::instance().choose(ThemeChoice::Light);
+        QCOMPARE(heard, Theme(Theme::Kind::Light).colour(Colour::Window));
+        QCOMPARE(ground(), heard);
+        button.grab();
+        Themes::instance().choose(ThemeChoice::AsDesktop);
+        QCOMPARE(ground(), Theme(Theme::Kind::Dark).colour(Colour::Window));
+        Themes::instance().setDesktop(Theme::Kind::Light);
+        QCOMPARE(ground(), heard);
+        Themes::instance().choose(ThemeChoice::Dark);
+        QCOMPARE(ground(), Theme(Theme::Kind::Dark).colour(Colour::Window));
     }
 
     // On a screen of a higher density Qt takes those with a factor in their names by itself.
@@ -32,7 +58,8 @@ private Q_SLOTS:
         QStringList paths;
         for (const auto &found :
              QRegularExpression(uR"(url\(([^)]*)\))"_s).globalMatch(qApp->styleSheet()))
-            paths.append(found.captured(1));
+            paths += {found.captured(1),
+                      QString(found.captured(1)).replace(u"style/"_s, u"style/light/"_s)};
         QVERIFY(!paths.isEmpty());
         const QString names = u"split_v split_h compute rename cross export database databaseGreen "
                               "invalidate check compare Logo_blanc_Norvale_2020"_s;

@@ -5,7 +5,6 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QColor>
 #include <QComboBox>
 #include <QFile>
 #include <QIcon>
@@ -15,21 +14,25 @@
 #include <QStyleOption>
 #include <QStyledItemDelegate>
 
+#include <theme/themes.h>
+
 namespace zuno {
 
 namespace {
 
-constexpr QColor ground(25, 35, 45);
-constexpr QColor highlight(20, 100, 161);
-constexpr QColor disabledText(127, 127, 127);
-constexpr QColor disabledHighlight(80, 80, 80);
-// What the style sheet draws around a widget with the keyboard focus.
-constexpr QColor focus(255, 180, 84);
 constexpr int rowAir = 6;
 
-// Filled edges are as wide on every side at every scale, which a pen's are not.
+// The folder of the theme's pictures.
+QString pictures()
+{
+    return theme().isDark() ? QStringLiteral(":/darkstyle/") : QStringLiteral(":/darkstyle/light/");
+}
+
+// What the style sheet draws around a widget with the keyboard focus, in a view's own cell. Filled
+// edges are as wide on every side at every scale, which a pen's are not.
 void drawFocusFrame(const QRect &frame, QPainter &painter)
 {
+    const QColor focus = theme().colour(Colour::Focus);
     painter.fillRect(frame.x(), frame.y(), frame.width(), 1, focus);
     painter.fillRect(frame.x(), frame.bottom(), frame.width(), 1, focus);
     painter.fillRect(frame.x(), frame.y(), 1, frame.height(), focus);
@@ -44,13 +47,19 @@ void drawSortArrow(const QStyleOptionHeader &header, QPainter &painter)
         return;
     }
     const bool up = header.sortIndicator == QStyleOptionHeader::SortUp;
-    const QIcon arrow(up ? QStringLiteral(":/darkstyle/arrow-up.png")
-                         : QStringLiteral(":/darkstyle/arrow-down.png"));
+    const QIcon arrow(pictures()
+                      + (up ? QStringLiteral("arrow-up.png") : QStringLiteral("arrow-down.png")));
     arrow.paint(&painter, header.rect, Qt::AlignCenter,
                 header.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled);
 }
 
 } // namespace
+
+void DarkStyle::install()
+{
+    QApplication::setStyle(new DarkStyle);
+    Themes::instance().setStyler([] { QApplication::setStyle(new DarkStyle); });
+}
 
 DarkStyle::DarkStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
@@ -79,26 +88,7 @@ QSize DarkStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
 
 void DarkStyle::polish(QPalette &palette)
 {
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::WindowText, Qt::white);
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, disabledText);
-    palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::AlternateBase, QColor(51, 65, 76));
-    palette.setColor(QPalette::ToolTipBase, Qt::white);
-    palette.setColor(QPalette::ToolTipText, QColor(53, 53, 53));
-    palette.setColor(QPalette::Text, Qt::white);
-    palette.setColor(QPalette::Disabled, QPalette::Text, disabledText);
-    palette.setColor(QPalette::Dark, QColor(35, 35, 35));
-    palette.setColor(QPalette::Shadow, QColor(20, 20, 20));
-    palette.setColor(QPalette::Button, QColor(53, 53, 53));
-    palette.setColor(QPalette::ButtonText, Qt::white);
-    palette.setColor(QPalette::Disabled, QPalette::ButtonText, disabledText);
-    palette.setColor(QPalette::BrightText, Qt::red);
-    palette.setColor(QPalette::Link, QColor(42, 130, 218));
-    palette.setColor(QPalette::Highlight, highlight);
-    palette.setColor(QPalette::Disabled, QPalette::Highlight, disabledHighlight);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, disabledText);
+    theme().fill(palette);
 }
 
 void DarkStyle::polish(QApplication *application)
@@ -108,7 +98,8 @@ void DarkStyle::polish(QApplication *application)
     if (!file.open(QFile::ReadOnly | QFile::Text)) {
         return;
     }
-    const QString sheet = QString::fromUtf8(file.readAll());
+    QString sheet = theme().filled(QString::fromUtf8(file.readAll()));
+    sheet.replace(QStringLiteral(":/darkstyle/"), pictures());
     // Qt answers a style sheet by laying a style over this one and polishing again through it.
     if (application->styleSheet() != sheet) {
         application->setStyleSheet(sheet);

@@ -7,13 +7,16 @@
 
 namespace zuno {
 
-/// The dark theme: Fusion's shapes, a palette of its own, and a style sheet from the resources that
-/// draws the widgets to go with it. Without the resource the palette alone makes the theme.
+/// The program's look, dark or light as Themes says: Fusion's shapes, a palette of its own, and a
+/// style sheet from the resources that draws the widgets to go with it, both in the theme's
+/// colours. Without the resource the palette alone makes the theme.
 class DarkStyle final : public QProxyStyle
 {
     Q_OBJECT
 public:
     DarkStyle();
+    /// Makes it the application's style, and again whenever the theme changes.
+    static void install();
 
     /// Draws the frame around the current cell of a view and the arrow of a sorted column, which
     /// Fusion makes too faint to be seen on a dark ground.

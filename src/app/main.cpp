@@ -16,6 +16,7 @@
 #include <app/update/updateapp.h>
 #include <app/zunoanalyzer.h>
 #include <base/settings.h>
+#include <theme/themes.h>
 
 namespace {
 
@@ -80,11 +81,13 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("com.example.ZunoAnalyzer"));
     const Arguments arguments = readArguments();
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
-    zuno::Application::setStyle(new zuno::DarkStyle);
+    const zuno::Settings settings(zuno::Settings::defaultRoot());
+    zuno::Themes::instance().choose(
+        zuno::Themes::choiceOf(settings.value(zuno::Setting::Theme).toString()));
+    zuno::DarkStyle::install();
     zuno::ZunoAnalyzer window(arguments.language);
     const zuno::Ending ending;
     QObject::connect(&ending, &zuno::Ending::imminent, &window, &zuno::ZunoAnalyzer::commit);
-    const zuno::Settings settings(zuno::Settings::defaultRoot());
     zuno::UpdateApp updates(
         zuno::UpdateSetup::configured(settings, QCoreApplication::applicationDirPath()), &window);
     QObject::connect(&updates, &zuno::UpdateApp::failed, &window, &zuno::ZunoAnalyzer::tell);

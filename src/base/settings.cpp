@@ -73,6 +73,10 @@ constexpr std::array Table {
     Entry {Setting::LastFileSelected, Analyzer, u"lastFileSelected", Text, nullptr},
     Entry {Setting::V1400, Analyzer, u"v1400", Bool, u"false"},
     Entry {Setting::CheckForUpdates, Analyzer, u"checkForUpdates", Bool, u"true"},
+    Entry {Setting::Theme, Analyzer, u"theme", Text, u"desktop"},
+    Entry {Setting::SpeedUnit, Analyzer, u"speedUnit", Text, u"km/h"},
+    Entry {Setting::DistanceUnit, Analyzer, u"distanceUnit", Text, u"m"},
+    Entry {Setting::TemperatureUnit, Analyzer, u"temperatureUnit", Text, u"C"},
 };
 
 const Entry &entryOf(Setting setting)

@@ -51,6 +51,10 @@ enum class Setting {
     LastFileSelected,
     V1400,
     CheckForUpdates,
+    Theme,
+    SpeedUnit,
+    DistanceUnit,
+    TemperatureUnit,
 };
 
 /// Groups of the analyzer's file that hold lists of texts by names which only the program knows.

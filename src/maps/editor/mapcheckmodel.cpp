@@ -3,9 +3,8 @@
 
 #include <maps/editor/mapcheckmodel.h>
 
-#include <QColor>
-
 #include <base/laptimes.h>
+#include <theme/themes.h>
 
 namespace zuno {
 
@@ -89,9 +88,9 @@ QString MapCheckModel::text(int row, int column) const
 QVariant MapCheckModel::background(int row, int column) const
 {
     if (column <= LapTime && row == m_check.bestLap)
-        return QColor(Qt::darkGreen);
+        return theme().colour(Colour::BestLap);
     if (column >= FirstSector && m_bestSectors[column - FirstSector] == row)
-        return QColor(Qt::darkMagenta);
+        return theme().colour(Colour::BestSection);
     return {};
 }
 

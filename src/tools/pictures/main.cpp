@@ -116,7 +116,7 @@ int main(int argc, char *argv[])
     QApplication::setCursorFlashTime(0);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
-    QApplication::setStyle(new zuno::DarkStyle);
+    zuno::DarkStyle::install();
     const zuno::StageHome home;
     zuno::Stage stage(arguments.language, home.path());
     const bool isGood = arguments.isManual ? takeManual(stage, arguments.folder)
