@@ -4,10 +4,12 @@
 #include <memory>
 
 #include <QDir>
+#include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <base/settings.h>
+#include <base/units.h>
 
 #include "builders.h"
 
@@ -101,6 +103,52 @@ private Q_SLOTS:
             settings().removeMapChoice(session);
             QCOMPARE(content(SettingsFile::Analyzer), before);
         }
+    }
+
+    void units_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<QString>("speed");
+        QTest::addColumn<QString>("difference");
+        QTest::addColumn<QString>("distance");
+        QTest::addColumn<QString>("temperature");
+        const QByteArray other = "speedUnit=mph\ndistanceUnit=ft\ntemperatureUnit=F\n";
+        QTest::newRow("as ever") << QByteArray() << u"160,9 km/h"_s << u"\u22120,2 km/h"_s
+                                 << u"1609 m"_s << u"20 °C"_s;
+        QTest::newRow("other") << other << u"100,0 mph"_s << u"\u22120,1 mph"_s << u"5280 ft"_s
+                               << u"68 °F"_s;
+        QTest::newRow("one of them")
+            << QByteArray("speedUnit=mph\ndistanceUnit=mile\n") << u"100,0 mph"_s
+            << u"\u22120,1 mph"_s << u"1609 m"_s << u"20 °C"_s;
+    }
+
+    void units()
+    {
+        QFETCH(const QByteArray, stored);
+        write(SettingsFile::Analyzer, stored);
+        QLocale german(QLocale::German);
+        german.setNumberOptions(QLocale::OmitGroupSeparator);
+        QLocale::setDefault(german);
+        const Units units = Units::of(settings());
+        QTEST(units.speedText(160.9344, 1), "speed");
+        QTEST(units.speedText(-0.2, 1, true), "difference");
+        QTEST(units.distanceText(1609.344), "distance");
+        QTEST(units.temperatureText(20), "temperature");
+        QCOMPARE(units.celsius(units.temperature(37)), 37.0);
+        Units().store(settings());
+        QCOMPARE(Units::of(settings()), Units());
+        units.store(settings());
+        QCOMPARE(Units::of(settings()), units);
+        QLocale::setDefault(QLocale::c());
+    }
+
+    // What is written as zero has no sign.
+    void signs()
+    {
+        QCOMPARE(shownNumber(-0.04, 1), u"0.0"_s);
+        QCOMPARE(shownNumber(-0.04, 1, true), u"0.0"_s);
+        QCOMPARE(shownNumber(0.06, 1, true), u"+0.1"_s);
+        QCOMPARE(shownNumber(-7.5, 0), u"-8"_s);
     }
 
 private:
