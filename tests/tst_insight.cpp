@@ -7,9 +7,11 @@
 #include <QTest>
 
 #include <insight/consistency.h>
+#include <insight/losscards.h>
 #include <insight/recordingrate.h>
 #include <insight/sessioninsight.h>
 #include <insight/trackzones.h>
+#include <session/laps/lapgap.h>
 #include <session/recording/smoothing.h>
 #include <session/session.h>
 #include <track/map.h>
@@ -151,6 +153,67 @@ private Q_SLOTS:
         const double time = lap.timeAt(1414.0) - lap.timeAt(300.0);
         QVERIFY(std::fabs(time - (other.timeAt(1414.0) - other.timeAt(300.0))) < 0.015);
         QVERIFY(lap.roughness() < 0.5);
+    }
+
+    // The gap by place agrees with the times at places once the receivers' errors are out of it.
+    void gapKnowsOffsets()
+    {
+        std::vector<LapPlan> laps = lapsOf({{}, {10.0, 19.0}});
+        laps[1].offset = {0.0, 4.0};
+        const Told told(laps);
+        const LapOnOutline &one = told.insight.laps[0].path;
+        const LapOnOutline &other = told.insight.laps[1].path;
+        const auto error = [&](const LapGap &gap) {
+            double largest = 0.0;
+            for (std::size_t i = 0; i < gap.size(); ++i) {
+                const double place = one.placeAt(gap.secondTime(i) / 1000.0 + gap.gap(i) / 1000.0);
+                if (place < 50.0 || place > track().length() - 50.0)
+                    continue;
+                const double wanted = one.timeAt(place) - other.timeAt(place);
+                largest = std::max(largest, std::fabs((gap.gap(i) / 1000.0) - wanted));
+            }
+            return largest;
+        };
+        const Lap &first = *told.session->laps()[1];
+        const Lap &second = *told.session->laps()[2];
+        QVERIFY(error(LapGap(first, second, shiftBetween(one, other))) < 0.02);
+        QVERIFY(error(LapGap(first, second)) > 0.05);
+    }
+
+    // Cards of a lap against one of another session say all that a rider sees of a unit.
+    void cards()
+    {
+        const Told here(lapsOf({{20.0, 18.0}, {}, {0.0, Slow, 38.0}}));
+        const Told there(lapsOf({{}, {}}));
+        const CircuitCorners &circuit = here.insight.circuit;
+        const RiddenLap reference = there.insight.laps[1].ridden();
+        for (const InsightLap &lap : here.insight.laps) {
+            const LossCards cards = lossCards(lap.ridden(), reference, circuit);
+            qint32 sum = 0;
+            double place = 0.0;
+            for (const LossCard &card : cards.units) {
+                QVERIFY(card.from == place && card.to > place);
+                place = card.to;
+                const double more
+                    = card.lap.to - card.lap.from - (card.reference.to - card.reference.from);
+                QVERIFY(std::fabs((card.loss / 1000.0) - more) < 0.002);
+                QVERIFY(!card.causes.isEmpty() || !card.isWorthTelling());
+                sum += card.loss;
+            }
+            QVERIFY(std::fabs(place - circuit.ring.length()) < 1e-9);
+            QCOMPARE(cards.total, sum);
+            QCOMPARE(sum, qRound(1000.0 * lap.path.duration())
+                              - qRound(1000.0 * reference.path.duration()));
+        }
+        const LossCards slow = lossCards(here.insight.laps[0].ridden(), reference, circuit);
+        QVERIFY(!slow.largest().empty());
+        const LossCard &card = slow.units[slow.largest().front()];
+        QCOMPARE(card.label, u"1"_s);
+        QVERIFY(std::fabs(card.lapSpeeds->lowest - (3.6 * 18.0)) < 0.3);
+        QVERIFY(std::fabs(card.referenceSpeeds->lowest - (3.6 * Slow)) < 0.3);
+        QVERIFY(card.causes.front().contains(u"slower"_s) || card.causes.front().contains(u"m "_s));
+        // A lap against itself has lost nothing.
+        QVERIFY(lossCards(reference, reference, circuit).largest().empty());
     }
 
     void placesAreThoseRidden()

@@ -118,7 +118,7 @@ std::optional<LapComparison> comparisonReported(const Told &told, const Wish &wi
     comparison.lap = lap->number;
     comparison.against = against->number;
     comparison.otherFile = wish.otherFile;
-    comparison.losses = lossesAgainst(lap->ridden(), against->ridden(), told.insight.circuit);
+    comparison.losses = lossCards(lap->ridden(), against->ridden(), told.insight.circuit);
     return comparison;
 }
 

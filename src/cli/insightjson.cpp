@@ -174,8 +174,45 @@ void writeInsight(JsonWriter &json, const SessionInsight &insight)
     writeConsistency(json, insight);
 }
 
-void writeComparison(JsonWriter &json, const LapComparison &comparison,
-                     const CircuitCorners &circuit)
+void writeSpeeds(JsonWriter &json, QByteArrayView name, const std::optional<UnitSpeeds> &speeds)
+{
+    json.key(name);
+    if (!speeds) {
+        json.null();
+        return;
+    }
+    json.beginObject();
+    json.member("entrySpeed", cli::rounded(speeds->entry, 1));
+    json.member("lowestSpeed", cli::rounded(speeds->lowest, 1));
+    json.member("exitSpeed", cli::rounded(speeds->exit, 1));
+    json.endObject();
+}
+
+double seconds(qint32 milliseconds)
+{
+    return cli::rounded(static_cast<double>(milliseconds) / 1000.0, Milli);
+}
+
+void writeCard(JsonWriter &json, const LossCard &card)
+{
+    json.beginObject();
+    json.member("unit", card.label);
+    json.member("from", cli::rounded(card.from, 1));
+    json.member("to", cli::rounded(card.to, 1));
+    json.member("loss", seconds(card.loss));
+    json.member("bySpeed", cli::rounded(card.bySpeed, Milli));
+    json.member("confirmed", card.isConfirmed);
+    writeSpeeds(json, "speeds", card.lapSpeeds);
+    writeSpeeds(json, "againstSpeeds", card.referenceSpeeds);
+    json.key("words");
+    json.beginArray();
+    for (const QString &text : card.causes)
+        json.value(text);
+    json.endArray();
+    json.endObject();
+}
+
+void writeComparison(JsonWriter &json, const LapComparison &comparison)
 {
     json.member("lap", comparison.lap);
     json.member("against", comparison.against);
@@ -183,21 +220,10 @@ void writeComparison(JsonWriter &json, const LapComparison &comparison,
         json.member("againstFile", comparison.otherFile);
     json.key("losses");
     json.beginArray();
-    for (const UnitLoss &loss : comparison.losses) {
-        json.beginObject();
-        json.member("unit", circuit.unitLabel(loss.unit));
-        json.member("loss", cli::rounded(loss.loss, Milli));
-        json.member("bySpeed", cli::rounded(loss.bySpeed, Milli));
-        json.member("confirmed", loss.isConfirmed());
-        json.key("words");
-        json.beginArray();
-        for (const QString &text : causeTexts(loss, circuit))
-            json.value(text);
-        json.endArray();
-        json.endObject();
-    }
+    for (const LossCard &card : comparison.losses.units)
+        writeCard(json, card);
     json.endArray();
-    json.member("sum", cli::rounded(comparison.sum(), Milli));
+    json.member("sum", seconds(comparison.losses.total));
 }
 
 } // namespace
@@ -210,7 +236,7 @@ QByteArray insightJson(const QString &map, const SessionInsight &insight,
     json.member("map", map.isEmpty() ? std::optional<QString>() : map);
     writeInsight(json, insight);
     if (comparison && insight.lack == InsightLack::None)
-        writeComparison(json, *comparison, insight.circuit);
+        writeComparison(json, *comparison);
     json.endObject();
     return json.text() + '\n';
 }

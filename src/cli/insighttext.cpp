@@ -67,17 +67,21 @@ QByteArray listText(const SessionInsight &insight)
     return "Where the usual lap loses:\n" + text.toLocal8Bit();
 }
 
-QByteArray comparisonText(const LapComparison &comparison, const CircuitCorners &circuit)
+QString seconds(qint32 milliseconds)
+{
+    return signedSeconds(static_cast<double>(milliseconds) / 1000.0);
+}
+
+QByteArray comparisonText(const LapComparison &comparison)
 {
     TextTable table({QStringLiteral("Unit"), QStringLiteral("Loss"), QStringLiteral("By speed")});
     QString why;
-    for (const UnitLoss &loss : comparison.losses) {
-        const QString label = circuit.unitLabel(loss.unit);
-        table.add({label, signedSeconds(loss.loss), signedSeconds(loss.bySpeed)});
-        if (loss.loss > 0.0 && loss.isConfirmed())
-            why += label + u": " + causeTexts(loss, circuit).join(QStringLiteral("; ")) + u'\n';
+    for (const LossCard &card : comparison.losses.units) {
+        table.add({card.label, seconds(card.loss), signedSeconds(card.bySpeed)});
+        if (!card.causes.isEmpty())
+            why += card.label + u": " + card.causes.join(QStringLiteral("; ")) + u'\n';
     }
-    table.add({QStringLiteral("Lap"), signedSeconds(comparison.sum()), QString()});
+    table.add({QStringLiteral("Lap"), seconds(comparison.losses.total), QString()});
     const QString head
         = QStringLiteral("Lap %1 against lap %2%3:\n")
               .arg(comparison.lap)
@@ -87,14 +91,6 @@ QByteArray comparisonText(const LapComparison &comparison, const CircuitCorners 
 }
 
 } // namespace
-
-double LapComparison::sum() const
-{
-    double whole = 0.0;
-    for (const UnitLoss &loss : losses)
-        whole += loss.loss;
-    return whole;
-}
 
 QString lackText(InsightLack lack)
 {
@@ -111,15 +107,6 @@ QString lackText(InsightLack lack)
         return QStringLiteral("the receiver measured about once a second");
     }
     return {};
-}
-
-QStringList causeTexts(const UnitLoss &loss, const CircuitCorners &circuit)
-{
-    const bool isOne = circuit.units[loss.unit].cornerCount == 1;
-    QStringList texts;
-    for (const Cause &cause : loss.causes)
-        texts.append(causeText(cause, isOne ? QString() : circuit.corners[cause.corner].label()));
-    return texts;
 }
 
 QByteArray cornersText(const CircuitCorners &circuit)
@@ -147,7 +134,7 @@ QByteArray insightText(const QString &map, const SessionInsight &insight,
     if (insight.lack != InsightLack::None)
         return "Nothing can be told: " + lackText(insight.lack).toLocal8Bit() + ".\n";
     if (comparison)
-        return comparisonText(*comparison, insight.circuit);
+        return comparisonText(*comparison);
     TextList list;
     list.add(QStringLiteral("Map"), map);
     list.add(QStringLiteral("Corners"), QString::number(insight.circuit.corners.size()));

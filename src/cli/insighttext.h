@@ -6,8 +6,9 @@
 #include <optional>
 
 #include <QByteArray>
-#include <QStringList>
+#include <QString>
 
+#include <insight/losscards.h>
 #include <insight/sessioninsight.h>
 
 namespace zuno::cli {
@@ -19,16 +20,11 @@ struct LapComparison
     int against = 0;
     /// Where the other lap was ridden; empty when in the same session.
     QString otherFile;
-    std::vector<UnitLoss> losses;
-
-    /// Seconds.
-    [[nodiscard]] double sum() const;
+    LossCards losses;
 };
 
 /// Why a session tells nothing, for people.
 [[nodiscard]] QString lackText(InsightLack lack);
-/// The causes as sentences, with the corner where the unit has several.
-[[nodiscard]] QStringList causeTexts(const UnitLoss &loss, const CircuitCorners &circuit);
 
 /// The corners of a circuit as a table.
 [[nodiscard]] QByteArray cornersText(const CircuitCorners &circuit);

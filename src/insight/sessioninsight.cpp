@@ -163,6 +163,13 @@ LapOnOutline putOnOutline(const CircuitRing &ring, std::span<const PointAcquisit
             LapSpan {lap.points().front().dataTimeStamp, lap.points().back().dataTimeStamp}};
 }
 
+PlaneVector shiftBetween(const LapOnOutline &first, const LapOnOutline &second)
+{
+    if (!first.offset() || !second.offset())
+        return {};
+    return *first.offset() - *second.offset();
+}
+
 LapFigures allFigures(const LapOnOutline &path, const CircuitCorners &circuit,
                       const FigureValidity &validity)
 {

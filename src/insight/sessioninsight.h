@@ -67,6 +67,10 @@ struct SessionInsight
 [[nodiscard]] LapOnOutline putOnOutline(const CircuitRing &ring,
                                         std::span<const PointAcquisition> samples, const Lap &lap);
 
+/// Metres, east and north, by which the second lap's positions have to be shifted to lie as far
+/// beside the track as the first one's (LapGap); none where the error of either is not known.
+[[nodiscard]] PlaneVector shiftBetween(const LapOnOutline &first, const LapOnOutline &second);
+
 /// The figures of each corner in a lap.
 [[nodiscard]] LapFigures allFigures(const LapOnOutline &path, const CircuitCorners &circuit,
                                     const FigureValidity &validity);

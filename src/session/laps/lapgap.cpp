@@ -173,7 +173,15 @@ std::vector<double> elapsedTimes(const Points &points)
     return times;
 }
 
-Matches matchLaps(const Lap &first, const Lap &second)
+// Where the second rider went if his receiver had stood as far beside it as the first one's.
+LapPath shifted(LapPath path, PlaneVector shift)
+{
+    for (PathNode &node : path)
+        node.place = node.place + shift;
+    return path;
+}
+
+Matches matchLaps(const Lap &first, const Lap &second, PlaneVector shift)
 {
     clearVectorRegisters();
     const Points &points = second.points();
@@ -188,7 +196,7 @@ Matches matchLaps(const Lap &first, const Lap &second)
     // From the end at which both are known to be at the same place.
     const Walk walk = !startTogether && endTogether ? Walk::Backwards : Walk::Forwards;
     const LapPath path = lapPath(first.points(), origin, walk);
-    const LapPath other = refined(lapPath(points, origin, walk));
+    const LapPath other = refined(shifted(lapPath(points, origin, walk), shift));
     Matcher matcher(path, other);
     Matches matches = matcher.matches(startTogether || endTogether);
 
@@ -225,12 +233,12 @@ double indexOf(const std::vector<double> &values, double x)
 
 } // namespace
 
-LapGap::LapGap(const Lap &first, const Lap &second)
+LapGap::LapGap(const Lap &first, const Lap &second, PlaneVector shift)
     : m_firstElapsed(elapsedTimes(first.points()))
     , m_secondElapsed(elapsedTimes(second.points()))
     , m_secondTimes(m_firstElapsed.size(), NotThere)
 {
-    const Matches matches = matchLaps(first, second);
+    const Matches matches = matchLaps(first, second, shift);
     std::size_t k = 0;
     for (std::size_t i = 0; i < m_firstElapsed.size(); ++i) {
         const double time = m_firstElapsed[i];

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+#include <base/plane.h>
+
 namespace zuno {
 
 class Lap;
@@ -32,8 +34,10 @@ class LapGap
 public:
     /// Of no laps.
     LapGap() = default;
-    /// @p first is compared with @p second.
-    LapGap(const Lap &first, const Lap &second);
+    /// @p first is compared with @p second, whose positions are taken @p shift metres (east, north)
+    /// from where they are: receivers stand metres beside where they were, one lap otherwise than
+    /// the next, and a metre makes and unmakes a tenth of a second in a hairpin.
+    LapGap(const Lap &first, const Lap &second, PlaneVector shift = {});
 
     /// The number of points of the first lap.
     [[nodiscard]] std::size_t size() const { return m_secondTimes.size(); }
