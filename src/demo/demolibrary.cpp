@@ -60,6 +60,7 @@ struct DemoSession
     QStringView notes;
     int invalidLap = 0; ///< as the program counts, the out lap being lap 1; 0: none
     int special = Plain; ///< of Special
+    Habit habit = {};
 };
 
 constexpr QStringView ByLaura = u"ZUNO Laura (00.1B.DC.0F.52.A1)";
@@ -78,21 +79,57 @@ constexpr DemoSession FixedDemo[] = {
      u"Season opening", u"Damp patches under the trees until ten o'clock."},
     {ByLauraInSpring, u"2026-05-23T10:30:08Z", 1, Laura, 4, 0.9, u"Mixte", 19, u"Slick medium",
      u"Heath track days", u"Drying line, still wet before the last corner."},
-    {ByLauraInSpring, u"2026-05-23T15:11:54Z", 1, Laura, 6, 1, u"Dry", 38, u"Slick medium",
-     u"Heath track days", u"Rear spring one step harder, holds the line better.", 0, Suspension},
+    {ByLauraInSpring,
+     u"2026-05-23T15:11:54Z",
+     1,
+     Laura,
+     6,
+     1,
+     u"Dry",
+     38,
+     u"Slick medium",
+     u"Heath track days",
+     u"Rear spring one step harder, holds the line better.",
+     0,
+     Suspension,
+     {Habit::Kind::LateOnGas, 3079, 250, 55}},
     {ByJonas, u"2026-05-24T09:18:20Z", 1, Jonas, 5, 0.72, u"Wet", 13, u"Rain", u"Heath track days",
      u"Rain all morning. Position lost for some seconds in lap 4.", 0, LostFix},
     {Imported, u"2026-05-24T14:33:41Z", 1, Pieter, 5, 1, u"Dry", 99, u"Slick soft",
      u"Heath track days", u"Received from Pieter for comparison."},
     {ByJonas, u"2026-06-06T08:15:00Z", OnTheHillRoad, Jonas, 0, 1, u"Dry", 18,
      u"Sport 120/70 180/55", u"Ride in the hills", u"No circuit, only the way home."},
-    {Imported, u"2026-07-11T10:02:33Z", 2, Pieter, 9, 1, u"Dry", 19, u"Slick soft",
-     u"Winter escape", u"Long run on one set of tyres.", 0, NoCircuitName},
+    {Imported,
+     u"2026-07-11T10:02:33Z",
+     2,
+     Pieter,
+     9,
+     1,
+     u"Dry",
+     19,
+     u"Slick soft",
+     u"Winter escape",
+     u"Long run on one set of tyres.",
+     0,
+     NoCircuitName,
+     {Habit::Kind::SlowInCorner, 1791, 70, 10}},
     {Imported, u"2026-07-11T13:45:10Z", 2, Pieter, 6, 0.98, u"", 20, u"", u"", u"", 0, NoBlock},
     {ByLaura, u"2026-07-12T09:27:05Z", 2, Laura, 8, 1, u"Dry", 20, u"", u"", u"", 0,
      Suspension | NeverOpened},
-    {ByLaura, u"2026-07-12T15:50:26Z", 2, Laura, 7, 1.02, u"Dry", 26, u"Slick soft",
-     u"Winter escape", u"Best feeling of the trip. Braking point at the first corner 10 m later."},
+    {ByLaura,
+     u"2026-07-12T15:50:26Z",
+     2,
+     Laura,
+     7,
+     1.02,
+     u"Dry",
+     26,
+     u"Slick soft",
+     u"Winter escape",
+     u"Best feeling of the trip. Braking point at the first corner 10 m later.",
+     0,
+     Plain,
+     {Habit::Kind::BrakesEarly, 425, 420, 10}},
 };
 
 [[nodiscard]] const QList<Rider> &riders()
@@ -185,8 +222,12 @@ constexpr DemoSession FixedDemo[] = {
 [[nodiscard]] Ride ride(const DemoSession &session, quint64 seed)
 {
     const Machine &machine = riders()[session.rider].machine;
-    const Outing outing {session.laps, session.grip, (session.special & Suspension) != 0,
-                         session.special & LostFix ? 3 : 0, seed};
+    const Outing outing {session.laps,
+                         session.grip,
+                         (session.special & Suspension) != 0,
+                         session.special & LostFix ? 3 : 0,
+                         seed,
+                         session.habit};
     if (session.circuit != OnTheHillRoad)
         return rideCircuit(circuits()[session.circuit], machine, outing);
     // On the road nobody rides as on a track: half the lean, soft brakes, and the law.

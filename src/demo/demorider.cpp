@@ -115,6 +115,51 @@ struct Motion
     return speed;
 }
 
+/// The least speed of the metres from \a first to \a last.
+[[nodiscard]] double slowest(const std::vector<double> &speed, double first, double last)
+{
+    const auto limit = static_cast<double>(speed.size() - 1);
+    const auto from = static_cast<std::ptrdiff_t>(std::clamp(first, 0.0, limit));
+    const auto to = static_cast<std::ptrdiff_t>(std::clamp(last, 0.0, limit));
+    return *std::min_element(speed.begin() + from, speed.begin() + to + 1);
+}
+
+/// The speed \a beyond metres from the middle of the habit's corner, at metre \a i of the way.
+[[nodiscard]] double habitualSpeed(const std::vector<double> &speed, double i, double beyond,
+                                   const Habit &habit)
+{
+    const double usual = slowest(speed, i, i);
+    const double part = beyond / habit.reach;
+    switch (habit.kind) {
+    case Habit::Kind::None:
+        break;
+    case Habit::Kind::BrakesEarly:
+        return part > -1 && part <= 0 ? slowest(speed, i, i + habit.amount) : usual;
+    case Habit::Kind::LateOnGas:
+        return part >= 0 && part < 1 ? slowest(speed, i - habit.amount, i) : usual;
+    case Habit::Kind::SlowInCorner: {
+        const double bump = std::max(0.0, 1 - part * part);
+        return usual - habit.amount / 3.6 * bump * bump;
+    }
+    }
+    return usual;
+}
+
+/// The planned speed with the rider's habit in every other full lap.
+[[nodiscard]] std::vector<double> withHabit(const std::vector<double> &speed, const Way &way,
+                                            const Outing &outing)
+{
+    std::vector<double> habitual = speed;
+    for (int lap = 1; lap <= outing.laps && outing.habit.kind != Habit::Kind::None; lap += 2) {
+        const double middle = lap * way.path.length() + outing.habit.place - way.begin;
+        for (double beyond = -outing.habit.reach; beyond <= outing.habit.reach; ++beyond) {
+            const double i = std::floor(middle + beyond);
+            habitual[static_cast<std::size_t>(i)] = habitualSpeed(speed, i, beyond, outing.habit);
+        }
+    }
+    return habitual;
+}
+
 /// A hand on the throttle or brake takes a moment: running mean over 0.7 s. It keeps the sum and so
 /// the distance.
 [[nodiscard]] std::vector<double> softened(const std::vector<double> &speed)
@@ -310,7 +355,7 @@ Ride rideCircuit(const Circuit &circuit, const Machine &machine, const Outing &o
     wish.cap
         = [&](double station) { return inPit(station) > 0.05 ? PitLaneSpeed : machine.topSpeed; };
     const Way way = planWay(path, box, (outing.laps + 2) * lapLength, wish);
-    const Motion motion = moveAlong(way, planSpeed(way, machine));
+    const Motion motion = moveAlong(way, withHabit(planSpeed(way, machine), way, outing));
 
     Ride ride;
     ride.samples = record(way, motion, circuit.origin, outing.seed + 4);

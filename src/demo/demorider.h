@@ -34,6 +34,23 @@ struct Machine
     double topSpeed = 80; ///< m/s
 };
 
+/// What a rider does wrong in one corner, in every other lap, the first one included: so what he
+/// loses there is known, and he has ridden it better more than once.
+struct Habit
+{
+    enum class Kind {
+        None,
+        BrakesEarly, ///< amount: metres
+        SlowInCorner, ///< amount: km/h
+        LateOnGas, ///< amount: metres
+    };
+
+    Kind kind = Kind::None;
+    double place = 0; ///< metres after the line: the middle of the corner
+    double reach = 0; ///< metres before or after it that he rides otherwise at most
+    double amount = 0;
+};
+
 /// How a machine is ridden on one outing.
 struct Outing
 {
@@ -42,6 +59,7 @@ struct Outing
     bool suspension = false; ///< with suspension readings
     int lapWithoutFix = 0; ///< a full lap (1 .. laps) without a fix for 8 s; 0: none
     quint64 seed = 0;
+    Habit habit = {};
 };
 
 /// A recorded outing.
