@@ -383,7 +383,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("corners");
         QTest::addColumn<bool>("braking");
         QTest::addColumn<bool>("lean");
-        QTest::newRow("10 Hz") << 1 << 10.0 << true << true << true;
+        QTest::newRow("10 Hz without lean") << 1 << 10.0 << true << true << false;
         QTest::newRow("5 Hz") << 2 << 5.0 << true << true << true;
         QTest::newRow("2 Hz") << 5 << 2.0 << true << true << false;
         QTest::newRow("1 Hz") << 10 << 1.0 << false << false << false;
@@ -401,12 +401,18 @@ private Q_SLOTS:
             point.dataSpeed = std::lerp(speedAt(from), speedAt(from + every),
                                         static_cast<double>(i - from) / every);
         }
+        const bool hasLean = every != 1;
+        points.back().dataAngle = hasLean ? -3.0 : 0.0;
         smoothSamples(points);
         const double found = recordingRate(points);
         QVERIFY(std::fabs(found - rate) < 0.15 * rate);
         QTEST(carriesCorners(found), "corners");
-        QTEST(figureValidity(found).brakingPoint, "braking");
-        QTEST(figureValidity(found).lean, "lean");
+        // Speeds that nobody measured say nothing.
+        for (PointAcquisition &point : points)
+            point.rawSpeed = 0.0F;
+        QVERIFY(!carriesCorners(recordingRate(points)));
+        QTEST(figureValidity(found, points).brakingPoint, "braking");
+        QTEST(figureValidity(found, points).lean, "lean");
     }
 
     void trends_data()

@@ -104,7 +104,7 @@ QString lackText(InsightLack lack)
     case InsightLack::OutlineOff:
         return QStringLiteral("the outline of the circuit is too rough for its corners");
     case InsightLack::RateTooLow:
-        return QStringLiteral("the receiver measured about once a second");
+        return QStringLiteral("the receiver measured speeds about once a second, or none");
     }
     return {};
 }

@@ -59,12 +59,16 @@ bool carriesCorners(double rate)
     return rate >= CornerRate;
 }
 
-FigureValidity figureValidity(double rate)
+FigureValidity figureValidity(double rate, std::span<const PointAcquisition> samples)
 {
     FigureValidity validity;
     validity.brakingPoint = rate >= BrakingRate;
     validity.maximumDeceleration = rate >= FullRate;
-    validity.lean = rate >= FullRate;
+    // Without a sensor it is 0 all the time.
+    const bool hasLean = std::any_of(samples.begin(), samples.end(), [](const auto &point) {
+        return point.dataAngle != 0.0 && std::isfinite(point.dataAngle);
+    });
+    validity.lean = hasLean && rate >= FullRate;
     return validity;
 }
 

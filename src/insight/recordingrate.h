@@ -17,7 +17,7 @@ namespace zuno {
 /// Whether laps on the outline can be made of it at all: more than one measurement a second.
 [[nodiscard]] bool carriesCorners(double rate);
 /// The figures that recordings of a rate carry: braking points from 2 Hz on, decelerations and lean
-/// from 5 Hz on.
-[[nodiscard]] FigureValidity figureValidity(double rate);
+/// from 5 Hz on, and lean only where @p samples have any.
+[[nodiscard]] FigureValidity figureValidity(double rate, std::span<const PointAcquisition> samples);
 
 } // namespace zuno

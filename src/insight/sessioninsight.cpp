@@ -191,7 +191,7 @@ SessionInsight sessionInsight(CircuitCorners circuit, std::span<const PointAcqui
         insight.circuit = {};
         return insight;
     }
-    const FigureValidity validity = figureValidity(insight.rate);
+    const FigureValidity validity = figureValidity(insight.rate, samples);
     for (const auto &lap : laps) {
         if (lap->isComplete())
             insight.laps.push_back(insightLap(*lap, insight.circuit, samples, validity));
