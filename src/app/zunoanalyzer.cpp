@@ -38,6 +38,7 @@
 #include <views/laps/lapspane.h>
 #include <views/laps/lapsview.h>
 #include <views/laps/sessionsummary.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -398,9 +399,10 @@ void ZunoAnalyzer::openFile(const QString &path)
         return;
     }
     // Displaying a file writes to it, so only files of the library are displayed.
-    const auto answer = QMessageBox::question(
-        this, windowTitle(),
-        tr("\"%1\" is not in your library. Do you want to import it?").arg(name));
+    const auto answer
+        = MessageBox::run(QMessageBox::Question, this, windowTitle(),
+                          tr("\"%1\" is not in your library. Do you want to import it?").arg(name),
+                          QMessageBox::Yes | QMessageBox::No);
     if (answer != QMessageBox::Yes)
         return;
     connect(

@@ -26,6 +26,7 @@
 #include <library/deletion.h>
 #include <library/sessionname.h>
 #include <track/map.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -56,6 +57,7 @@ QString askForName(QWidget *parent, const QString &title, const QString &label,
         edit->setValidator(new QRegularExpressionValidator(allowed, edit));
         edit->setToolTip(LibraryTree::tr("Do not use [^\\/`~@#$%^&*:?\"<>|] characters"));
     }
+    showPlainTexts(dialog);
     accepted = dialog.exec() == QDialog::Accepted;
     return dialog.textValue();
 }
@@ -500,10 +502,7 @@ void LibraryTree::remove(const Deletion &deletion)
 
 bool LibraryTree::ask(const QString &question)
 {
-    QMessageBox box(QMessageBox::Warning, tr("Delete"), question, QMessageBox::NoButton,
-                    m_view.window());
-    // Names of files are no markup.
-    box.setTextFormat(Qt::PlainText);
+    MessageBox box(QMessageBox::Warning, tr("Delete"), question, m_view.window());
     const QPushButton *yes = box.addButton(tr("Yes"), QMessageBox::YesRole);
     box.setDefaultButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
     box.exec();

@@ -13,6 +13,7 @@
 #include <base/wholefile.h>
 #include <library/informationwriter.h>
 #include <session/sessionrewrite.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -112,12 +113,11 @@ UnsavedChanges::Answer UnsavedChanges::ask(QWidget *window, const QStringList &n
     QString list = names.mid(0, MostNames).join(u'\n');
     if (names.size() > MostNames)
         list += QStringLiteral("\n...");
-    QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
-                    tr("What you have said about these sessions could not be written into their "
-                       "files:\n\n%1")
-                        .arg(list),
-                    QMessageBox::NoButton, window);
-    box.setTextFormat(Qt::PlainText);
+    MessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
+                   tr("What you have said about these sessions could not be written into their "
+                      "files:\n\n%1")
+                       .arg(list),
+                   window);
     const QPushButton *again = box.addButton(tr("Try again"), QMessageBox::AcceptRole);
     const QPushButton *elsewhere = box.addButton(tr("Save elsewhere..."), QMessageBox::ActionRole);
     const QPushButton *discard
@@ -142,10 +142,9 @@ void UnsavedChanges::saveElsewhere(QWidget *window)
     const QStringList failed = saveTo(folder);
     if (failed.isEmpty())
         return;
-    QMessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
-                    tr("These could not be saved there, either:\n\n%1").arg(failed.join(u'\n')),
-                    QMessageBox::Ok, window);
-    box.setTextFormat(Qt::PlainText);
+    MessageBox box(QMessageBox::Warning, tr("Unsaved changes"),
+                   tr("These could not be saved there, either:\n\n%1").arg(failed.join(u'\n')),
+                   window, QMessageBox::Ok);
     box.exec();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <stats/checkablecombobox.h>
+#include <widgets/plaintexts.h>
 
 #include <algorithm>
 
@@ -62,11 +63,6 @@ bool isOwnKey(int key)
 {
     return isToggleKey(key) || key == Qt::Key_Return || key == Qt::Key_Enter
            || key == Qt::Key_Escape;
-}
-
-QString toolTipOf(const QString &plain)
-{
-    return plain.isEmpty() ? QString() : Qt::convertFromPlainText(plain, Qt::WhiteSpaceNormal);
 }
 
 } // namespace
@@ -174,7 +170,7 @@ void CheckableComboBox::showState()
     QStringList texts;
     for (const int row : rows)
         texts.append(m_entries->item(row)->text());
-    setToolTip(isAllChecked() ? QString() : toolTipOf(texts.join(QStringLiteral(", "))));
+    setToolTip(isAllChecked() ? QString() : plainToolTip(texts.join(QStringLiteral(", "))));
     update();
 }
 

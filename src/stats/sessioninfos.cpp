@@ -17,6 +17,7 @@
 #include <stats/informationnotice.h>
 #include <track/map.h>
 #include <widgets/makerlinks.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -220,13 +221,14 @@ void SessionInfos::fillLabels()
                                                    : QString());
     m_ui->lb_bestLap->setText(session != nullptr ? session->bestLapText() : QString());
     m_ui->lb_idealTime_2->setText(session != nullptr ? session->idealTimeText() : QString());
-    m_ui->lb_idealTime_2->setToolTip(session != nullptr ? missingSectionText(*session) : QString());
+    m_ui->lb_idealTime_2->setToolTip(session != nullptr ? plainToolTip(missingSectionText(*session))
+                                                        : QString());
 }
 
 void SessionInfos::showHint(const QString &hint)
 {
     m_ui->lb_hint->setText(hint);
-    m_ui->lb_hint->setToolTip(hint);
+    m_ui->lb_hint->setToolTip(plainToolTip(hint));
     m_hintTime.start();
 }
 

@@ -19,6 +19,7 @@
 #include <session/session.h>
 #include <stats/sessionfilter.h>
 #include <stats/sessionsstatstablemodel.h>
+#include <widgets/plaintexts.h>
 
 #include "ui_sessionsstats.h"
 
@@ -86,10 +87,8 @@ public:
         const QString text = index.data().toString();
         const int needed = QStyledItemDelegate::sizeHint(option, index).width();
         const bool isWhole = needed <= option.rect.width() && !text.contains(u'\n');
-        QToolTip::showText(event->globalPos(),
-                           isWhole ? QString()
-                                   : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal),
-                           view, option.rect);
+        QToolTip::showText(event->globalPos(), isWhole ? QString() : plainToolTip(text), view,
+                           option.rect);
         return true;
     }
 };

@@ -21,6 +21,7 @@
 #include <app/update/updatesignature.h>
 #include <base/settings.h>
 #include <widgets/downloadinprogress.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -132,12 +133,9 @@ void UpdateApp::consider()
 /// With the title of updates; the texts are shown as they stand.
 QMessageBox *UpdateApp::newBox(const QString &text, const QString &details)
 {
-    auto *box = new QMessageBox(QMessageBox::Information, tr("ZUNO Analyzer update"), text,
-                                QMessageBox::NoButton, m_window);
+    auto *box
+        = new MessageBox(QMessageBox::Information, tr("ZUNO Analyzer update"), text, m_window);
     box->setInformativeText(details);
-    // The box passes its own text format on to its main text only.
-    for (QLabel *label : box->findChildren<QLabel *>())
-        label->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
     return box;
 }

@@ -13,6 +13,7 @@
 #include <QTextOption>
 
 #include <session/session.h>
+#include <widgets/plaintexts.h>
 
 #include "ui_mapswidget.h"
 
@@ -77,9 +78,8 @@ MapsWidget::MapsWidget(const QList<const Map *> &maps, Session *session, QWidget
     // Both ends of a name tell maps apart: the folder and the circuit.
     m_ui->cb_otherMap->view()->setTextElideMode(Qt::ElideMiddle);
     // A name that is too long for the box is whole in its tool tip.
-    connect(m_ui->cb_otherMap, &QComboBox::currentTextChanged, this, [this](const QString &name) {
-        m_ui->cb_otherMap->setToolTip(name.isEmpty() ? QString() : Qt::convertFromPlainText(name));
-    });
+    connect(m_ui->cb_otherMap, &QComboBox::currentTextChanged, this,
+            [this](const QString &name) { m_ui->cb_otherMap->setToolTip(plainToolTip(name)); });
     connect(m_ui->cb_otherMap, &QComboBox::textActivated, this, &MapsWidget::chooseMap);
     connect(m_ui->pb_autoDetectMap, &QPushButton::clicked, this, &MapsWidget::autoFindMap);
     connect(m_ui->pb_ok, &QPushButton::clicked, this, &QDialog::accept);

@@ -17,6 +17,7 @@
 #include <maps/page/mapviewcontroller.h>
 #include <track/map.h>
 #include <track/mapname.h>
+#include <widgets/plaintexts.h>
 
 #include "ui_mapeditor.h"
 
@@ -197,10 +198,10 @@ void MapEditor::chooseOutline(int index)
 
 void MapEditor::tellFull()
 {
-    QMessageBox::information(this, windowTitle(),
-                             tr("A map has room for %1 timing points. Remove one of them to add "
-                                "another.")
-                                 .arg(QLocale().toString(MaximumSectors)));
+    MessageBox::run(QMessageBox::Information, this, windowTitle(),
+                    tr("A map has room for %1 timing points. Remove one of them to add "
+                       "another.")
+                        .arg(QLocale().toString(MaximumSectors)));
 }
 
 void MapEditor::showEdit()
@@ -294,9 +295,9 @@ void MapEditor::save()
 void MapEditor::reject()
 {
     if (isChanged()) {
-        QMessageBox box(QMessageBox::Question, windowTitle(),
-                        tr("The map has been changed. Do you want to save it?"),
-                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+        MessageBox box(QMessageBox::Question, windowTitle(),
+                       tr("The map has been changed. Do you want to save it?"), this,
+                       QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
         box.button(QMessageBox::Save)->setEnabled(m_ui->pb_save->isEnabled());
         const int answer = box.exec();
         if (answer == QMessageBox::Save)

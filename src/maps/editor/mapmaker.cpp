@@ -20,6 +20,7 @@
 #include <session/sessionfile.h>
 #include <track/mapfile.h>
 #include <track/mapname.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -98,14 +99,14 @@ QString MapMaker::path(const QString &name) const
 
 void MapMaker::tell(const QString &problem) const
 {
-    QMessageBox::warning(owner(), tr("Maps"), problem);
+    MessageBox::run(QMessageBox::Warning, owner(), tr("Maps"), problem);
 }
 
 // The careful answer is the one that the enter key gives.
 bool MapMaker::ask(const QString &question) const
 {
-    return QMessageBox::question(owner(), tr("Maps"), question, QMessageBox::Yes | QMessageBox::No,
-                                 QMessageBox::No)
+    return MessageBox::run(QMessageBox::Question, owner(), tr("Maps"), question,
+                           QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
            == QMessageBox::Yes;
 }
 
@@ -159,7 +160,8 @@ void MapMaker::newMap()
     const QString file = session->fileName();
     MapProposal proposal = proposeMap(session->wholeSamples());
     if (proposal.reason != NoProposal::None) {
-        QMessageBox::information(owner(), tr("New map"), describe(proposal.reason));
+        MessageBox::run(QMessageBox::Information, owner(), tr("New map"),
+                        describe(proposal.reason));
         return;
     }
     const QStringList taken = filesBelow(path({}));
@@ -232,14 +234,15 @@ QString MapMaker::askName(const QString &name) const
     // Maps from elsewhere may have another ending, or none.
     const QString file = name.section(u'/', -1);
     const QString ending = file.mid(nameOfMap(name).size());
-    QString typed = nameOfMap(name);
-    bool isAccepted = true;
+    QInputDialog dialog(owner());
+    dialog.setWindowTitle(tr("Rename map"));
+    dialog.setLabelText(tr("Name :"));
+    dialog.setTextValue(nameOfMap(name));
+    showPlainTexts(dialog);
     while (true) {
-        typed = QInputDialog::getText(owner(), tr("Rename map"), tr("Name :"), QLineEdit::Normal,
-                                      typed, &isAccepted)
-                    .trimmed();
-        if (!isAccepted)
+        if (dialog.exec() != QDialog::Accepted)
             return {};
+        const QString typed = dialog.textValue().trimmed();
         QString renamed = name.left(name.size() - file.size()) + typed + ending;
         const QString known = sameMap(renamed, filesBelow(path({})));
         const MapNameFault fault = faultOfMapName(typed);

@@ -12,9 +12,11 @@
 #include <QTemporaryFile>
 
 #include <app/darkstyle.h>
+#include <tools/pictures/markupnames.h>
 #include <tools/pictures/pictures.h>
 #include <tools/pictures/stage.h>
 #include <tools/pictures/windows.h>
+#include <tools/textfit/guessedtexts.h>
 #include <tools/textfit/textfit.h>
 
 namespace {
@@ -31,6 +33,7 @@ struct Arguments
     QString language;
     QString folder;
     bool isManual = false;
+    bool hasMarkup = false;
 };
 
 Arguments readArguments(const QCoreApplication &application)
@@ -43,16 +46,20 @@ Arguments readArguments(const QCoreApplication &application)
     const QCommandLineOption windows(
         QStringLiteral("windows"),
         QStringLiteral("Look at every window; fail when a text of it is cut off."));
+    const QCommandLineOption markup(
+        QStringLiteral("markup"),
+        QStringLiteral("With --windows: put markup into all names, and fail when it is taken for "
+                       "such. Then texts may be cut off."));
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({language, manual, windows});
+    parser.addOptions({language, manual, windows, markup});
     parser.addPositionalArgument(
         QStringLiteral("folder"),
         QStringLiteral("Where the pictures go; with --windows not needed."),
         QStringLiteral("[folder]"));
     parser.process(application);
     Arguments arguments {parser.value(language), parser.positionalArguments().value(0),
-                         parser.isSet(manual)};
+                         parser.isSet(manual), parser.isSet(markup)};
     if (parser.isSet(manual) == parser.isSet(windows)
         || (arguments.isManual && arguments.folder.isEmpty()))
         parser.showHelp(EXIT_FAILURE);
@@ -87,7 +94,7 @@ bool lookAtWindows(zuno::Stage &stage, const Arguments &arguments)
         ++windows;
         QStringList texts {QStringLiteral("did not open")};
         if (window != nullptr)
-            texts = zuno::cutTexts(*window);
+            texts = arguments.hasMarkup ? zuno::guessedTexts(*window) : zuno::cutTexts(*window);
         for (const QString &text : std::as_const(texts)) {
             ++faults;
             std::printf("%s: %s: %s\n", qPrintable(arguments.language), qPrintable(name),
@@ -97,8 +104,7 @@ bool lookAtWindows(zuno::Stage &stage, const Arguments &arguments)
             && !save(window->grab(), arguments.folder, name))
             ++faults;
     });
-    std::printf("%s: %d windows, %d texts without room\n", qPrintable(arguments.language), windows,
-                faults);
+    std::printf("%s: %d windows, %d faults\n", qPrintable(arguments.language), windows, faults);
     return faults == 0;
 }
 
@@ -118,6 +124,8 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(QStringLiteral("1.5.0.0"));
     zuno::DarkStyle::install();
     const zuno::StageHome home;
+    if (arguments.hasMarkup)
+        zuno::putMarkupIntoNames(home.path());
     zuno::Stage stage(arguments.language, home.path());
     const bool isGood = arguments.isManual ? takeManual(stage, arguments.folder)
                                            : lookAtWindows(stage, arguments);

@@ -14,6 +14,7 @@
 #include <base/laptimes.h>
 #include <views/charts/chartcontent.h>
 #include <views/charts/chartstate.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -35,7 +36,8 @@ void name(QLabel &head, const LapTrack &lap)
 {
     head.setText(CursorLabels::tr("Lap %1").arg(lap.lapNumber()));
     // Of two sessions it may be the same number.
-    head.setToolTip(QStringLiteral("%1 - %2").arg(lap.sessionName(), lap.lapTimeText()));
+    head.setToolTip(
+        plainToolTip(QStringLiteral("%1 - %2").arg(lap.sessionName(), lap.lapTimeText())));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <views/idealtime/idealtimemodel.h>
+#include <widgets/plaintexts.h>
 
 #include "ui_idealtimedialog.h"
 
@@ -126,8 +127,7 @@ void IdealTimeDialog::showLeftOut()
 {
     QStringList lines = m_search.leftOut();
     m_ui->lb_leftOut->setVisible(!lines.isEmpty());
-    m_ui->lb_leftOut->setToolTip(
-        lines.join(u'\n').toHtmlEscaped().replace(u'\n', QStringLiteral("<br>")));
+    m_ui->lb_leftOut->setToolTip(plainToolTip(lines.join(u'\n')));
     const qsizetype more = lines.size() - NamedSessions;
     if (more > 0)
         lines = lines.first(NamedSessions) << tr("and %1 more").arg(more);
