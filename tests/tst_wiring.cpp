@@ -211,15 +211,31 @@ private Q_SLOTS:
         QCOMPARE(contents(target), sessionCsv(*shown, QLocale()));
     }
 
-    // The page's process dies: the page is loaded again.
+    // The page's process dies: the page is loaded again. Of a page that dies again and again the
+    // map says so, and loads it once more when the rider wants it.
     void deadPage()
     {
         const Paddock paddock;
         auto *view = paddock.window->main.findChild<QWebEngineView *>();
         QTRY_VERIFY(paddock.page->connector().isConnected() && !paddock.page->isLoading());
         QSignalSpy started(view, &QWebEngineView::loadStarted);
-        Q_EMIT paddock.page->renderProcessTerminated(QWebEnginePage::CrashedTerminationStatus, 1);
+        const auto die = [&paddock] {
+            Q_EMIT paddock.page->renderProcessTerminated(QWebEnginePage::CrashedTerminationStatus,
+                                                         1);
+        };
+        die();
         QTRY_VERIFY(!started.isEmpty());
+        auto &again = paddock.window->part<QPushButton>("pb_mapAgain");
+        QVERIFY(view->isVisible() && !again.isVisible());
+        for (int i = 0; i < 3; ++i)
+            die();
+        QTRY_VERIFY(again.isVisible() && !view->isVisible());
+        QVERIFY(!paddock.window->label("lb_mapStopped").isEmpty());
+        QTRY_VERIFY(!paddock.page->isLoading());
+        started.clear();
+        again.click();
+        QTRY_VERIFY(!started.isEmpty());
+        QVERIFY(view->isVisible() && !again.isVisible());
     }
 
     void mapEditor_data()

@@ -13,6 +13,7 @@
 
 #include <base/settings.h>
 #include <maps/page/mapwebpage.h>
+#include <maps/page/pagefailure.h>
 #include <maps/payload/lappayload.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
@@ -29,6 +30,8 @@ Q_LOGGING_CATEGORY(category, "zuno.mapview")
 constexpr int MinimumWidth = 500;
 // A page that dies again and again is left alone.
 constexpr int MostRestarts = 3;
+// A page that has lived so long has not died of being loaded again; milliseconds.
+constexpr qint64 LongLife = 60000;
 
 void run(QWebEnginePage &page, const QString &function, const QString &text)
 {
@@ -66,12 +69,19 @@ void MapViewController::init(QWidget *window, QLayout *layout)
     // Files that are dropped are for the window.
     m_view->setAcceptDrops(false);
     layout->addWidget(m_view);
+    m_failure = new PageFailure(window);
+    m_failure->hide();
+    layout->addWidget(m_failure);
+    connect(m_failure, &PageFailure::anotherTryWanted, this, [this] {
+        m_restarts = 0;
+        restart();
+    });
     m_page = new MapWebPage(m_view);
     connect(&m_page->connector(), &JSConnector::loadFinished, this,
             &MapViewController::onPageConnected);
     connect(m_page, &MapWebPage::drawn, this, &MapViewController::lapDrawn);
     connect(m_page, &MapWebPage::samplePicked, this, &MapViewController::samplePicked);
-    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::restart);
+    connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::onPageDied);
     connectEditing();
     m_view->setPage(m_page);
     m_page->setBackgroundColor(QColor(0x14, 0x18, 0x1d));
@@ -80,18 +90,31 @@ void MapViewController::init(QWidget *window, QLayout *layout)
 }
 
 // The web engine runs in a process of its own, which can die without taking the program along.
-void MapViewController::restart()
+void MapViewController::onPageDied()
 {
     m_isReady = false;
-    if (m_restarts++ < MostRestarts)
-        QMetaObject::invokeMethod(
-            m_view, [view = m_view] { view->reload(); }, Qt::QueuedConnection);
+    if (m_life.isValid() && m_life.hasExpired(LongLife))
+        m_restarts = 0;
+    if (m_restarts++ < MostRestarts) {
+        QMetaObject::invokeMethod(this, &MapViewController::restart, Qt::QueuedConnection);
+        return;
+    }
+    m_view->hide();
+    m_failure->show();
+}
+
+void MapViewController::restart()
+{
+    m_failure->hide();
+    m_view->show();
+    m_view->reload();
 }
 
 // A page that has just been loaded has no map yet, even when the one before it had.
 void MapViewController::onPageConnected()
 {
     m_isReady = false;
+    m_life.start();
     Q_EMIT mapReady();
     sendPath();
     sendDraft(OutlineForm::Sent);

@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 
+#include <QElapsedTimer>
 #include <QGeoCoordinate>
 #include <QList>
 #include <QObject>
@@ -22,6 +23,7 @@ namespace zuno {
 
 class Map;
 class MapWebPage;
+class PageFailure;
 class Session;
 struct SessionLap;
 
@@ -113,6 +115,7 @@ private:
     };
 
     void connectEditing();
+    void onPageDied();
     void restart();
     void onPageConnected();
     void sendPath();
@@ -121,8 +124,11 @@ private:
 
     QWebEngineView *m_view = nullptr;
     MapWebPage *m_page = nullptr;
+    PageFailure *m_failure = nullptr;
     std::optional<Editing> m_editing;
     bool m_isReady = false;
+    // Of the page that lives now.
+    QElapsedTimer m_life;
     int m_restarts = 0;
 };
 

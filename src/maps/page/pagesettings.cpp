@@ -46,11 +46,17 @@ QJsonObject MapPage::texts()
 
 } // namespace
 
-QString mapServiceAddress()
+QString mapServiceKey()
 {
     const QString key
         = qEnvironmentVariable("ZUNO_MAP_KEY", QString::fromUtf8(ZUNO_MAP_KEY)).trimmed();
-    if (key.isEmpty() || key == QLatin1String(ZUNO_MAP_KEY_PLACEHOLDER))
+    return key == QLatin1String(ZUNO_MAP_KEY_PLACEHOLDER) ? QString() : key;
+}
+
+QString mapServiceAddress()
+{
+    const QString key = mapServiceKey();
+    if (key.isEmpty())
         return {};
     QUrl address(qEnvironmentVariable("ZUNO_MAP_SERVICE", QString::fromUtf8(ZUNO_MAP_SERVICE)));
     QUrlQuery query(address);

@@ -11,9 +11,12 @@ namespace zuno {
 
 class PagePolicy;
 
-/// The address of the map service's library with the key in it; empty while the key is the
-/// placeholder that the program is built with, or empty. The environment variables ZUNO_MAP_KEY
-/// and ZUNO_MAP_SERVICE go before the key and the address that were set when building.
+/// The key of the map service: ZUNO_MAP_KEY in the environment goes before the one that was set
+/// when building. Empty while it is the placeholder that the program is built with.
+[[nodiscard]] QString mapServiceKey();
+
+/// The address of the map service's library with the key in it; empty without a
+/// key. ZUNO_MAP_SERVICE in the environment goes before the address that was set when building.
 [[nodiscard]] QString mapServiceAddress();
 
 /// Gives @p page, before its scripts run, its policy, the map service's address and the texts that
