@@ -62,6 +62,14 @@ private Q_SLOTS:
         QTRY_VERIFY(window.state().startsWith(u"Select a session in the list"));
     }
 
+    // Where nothing can be stored, a full disk or a folder that cannot be made, it says so.
+    void noRoom()
+    {
+        qputenv("XDG_DATA_HOME", "/proc/nobody");
+        const Window window;
+        QVERIFY(window.main.statusBar()->currentMessage().contains(u"/proc/nobody/Norvale"));
+    }
+
     void languages_data()
     {
         QTest::addColumn<QString>("setting");

@@ -3,13 +3,19 @@
 
 #include <app/logfile.h>
 
+#include <cstdio>
+#include <cstdlib>
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QMutex>
 #include <QStandardPaths>
-#include <QString>
+#include <QStringList>
+#include <QUrl>
 
 #include <base/settings.h>
 
@@ -43,20 +49,68 @@ QString levelOf(QtMsgType type)
     return {};
 }
 
+QStringList &secrets()
+{
+    static QStringList texts;
+    return texts;
+}
+
+QString withoutSecrets(QString text)
+{
+    for (const QString &secret : std::as_const(secrets()))
+        text.replace(secret, QStringLiteral("(hidden)"));
+    return text;
+}
+
+// What a program logs all day long is of use from where it ended.
+void dropOlderHalf(QFile &file)
+{
+    if (!file.open(QIODevice::ReadWrite))
+        return;
+    file.seek(file.size() - MostLogBytes / 2);
+    file.readLine();
+    const QByteArray rest = file.readAll();
+    file.resize(0);
+    file.seek(0);
+    file.write(rest);
+    file.close();
+}
+
+// Before there is a window nothing else can tell it.
+[[noreturn]] void end(const QString &message)
+{
+    if (QGuiApplication::platformName().isEmpty())
+        std::fputs("ZUNO Analyzer has found no display to open its window on.\n", stderr);
+    std::fprintf(stderr, "ZUNO Analyzer has to end: %s\n", qPrintable(message));
+    std::fflush(stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
 // Each message opens the file for itself: messages come from any thread, and the log can be read
 // or deleted while the program runs.
+void writeLine(const QByteArray &line)
+{
+    static QMutex mutex;
+    const QMutexLocker locker(&mutex);
+    QFile file(logPath());
+    if (file.size() + line.size() > MostLogBytes)
+        dropOlderHalf(file);
+    if (file.open(QIODevice::Append | QIODevice::Text))
+        file.write(line);
+}
+
 void writeMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const QString level = levelOf(type);
     if (level.isEmpty())
         return;
-    QFile file(logPath());
-    if (!file.open(QIODevice::Append | QIODevice::Text))
-        return;
+    const QString text = withoutSecrets(message);
     const QString line
         = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz ")) + level
-          + QString::fromUtf8(context.category) + QStringLiteral(": ") + message + u'\n';
-    file.write(line.toUtf8());
+          + QString::fromUtf8(context.category) + QStringLiteral(": ") + text + u'\n';
+    writeLine(line.toUtf8().left(MostLogBytes / 4));
+    if (type == QtFatalMsg)
+        end(text);
 }
 
 } // namespace
@@ -67,6 +121,14 @@ void startLog()
     QFile::remove(path);
     QDir().mkpath(QFileInfo(path).absolutePath());
     qInstallMessageHandler(writeMessage);
+}
+
+void hideInLog(const QString &secret)
+{
+    if (secret.isEmpty())
+        return;
+    secrets().append(secret);
+    secrets().append(QString::fromLatin1(QUrl::toPercentEncoding(secret)));
 }
 
 } // namespace zuno

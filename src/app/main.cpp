@@ -7,6 +7,8 @@
 
 #include <QCommandLineParser>
 #include <QHashSeed>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
 #include <QScreen>
 
 #include <app/application.h>
@@ -16,6 +18,7 @@
 #include <app/update/updateapp.h>
 #include <app/zunoanalyzer.h>
 #include <base/settings.h>
+#include <maps/page/pagesettings.h>
 #include <theme/themes.h>
 
 namespace {
@@ -49,6 +52,16 @@ Arguments readArguments()
     return {parser.value(language), parser.positionalArguments().value(0)};
 }
 
+/// The map's page needs OpenGL, and would end the program without it. Then the processor draws it.
+void drawWithoutOpenGl()
+{
+    QOpenGLContext context;
+    QOffscreenSurface surface;
+    surface.create();
+    if (!context.create() || !context.makeCurrent(&surface))
+        qputenv("QT_QUICK_BACKEND", "software");
+}
+
 /// Whether the program is asked for its words only. It answers where there is no display, too.
 bool wantsText(int argc, char *argv[])
 {
@@ -70,6 +83,7 @@ int main(int argc, char *argv[])
         return EXIT_SUCCESS;
     }
     zuno::startLog();
+    zuno::hideInLog(zuno::mapServiceKey());
     // With a seed Qt hashes short texts in a way that slows all numbers down (processorstate.h),
     // also between the events. The seed is there against names that were chosen to fall into one
     // place of a table: here that takes as many files in the rider's own library, which whoever
@@ -80,6 +94,7 @@ int main(int argc, char *argv[])
     // By this name a desktop finds the window's icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("com.example.ZunoAnalyzer"));
     const Arguments arguments = readArguments();
+    drawWithoutOpenGl();
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     const zuno::Settings settings(zuno::Settings::defaultRoot());
     zuno::Themes::instance().choose(

@@ -75,6 +75,8 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     arrangePanes();
     openAcquisitionFolder();
     m_settings.writeDisplayDefaults();
+    if (!m_settings.isStored(Setting::ShowLapType))
+        tellOfNoRoom();
     m_laps->table().applyColumns();
 }
 
@@ -84,6 +86,14 @@ ZunoAnalyzer::~ZunoAnalyzer()
     delete m_files;
     delete m_charts;
     delete m_laps;
+}
+
+// Not for a while only: whatever the rider does now may be lost.
+void ZunoAnalyzer::tellOfNoRoom()
+{
+    statusBar()->showMessage(tr("Nothing can be stored in %1: the disk is full, or the folder "
+                                "cannot be written to.")
+                                 .arg(QFileInfo(m_settings.logPath()).path()));
 }
 
 void ZunoAnalyzer::createActions()

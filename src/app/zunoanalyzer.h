@@ -94,6 +94,7 @@ protected:
 
 private:
     void switchTranslator(QTranslator &translator, const QString &file);
+    void tellOfNoRoom();
     void createActions();
     void arrangePanes();
     void connectParts();
