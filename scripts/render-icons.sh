@@ -54,7 +54,8 @@ ico() { # ico TARGET SOURCE:SIZE...
 # on a ground of its own (a tick in its box, a symbol of a message) stays as it is.
 light() { # light SOURCE
     sed -e 's/#d5dfe8/#33414d/g; s/#e8eff5/#33414d/g; s/#8ea2b3/#4c5a66/g; s/#b8c6d2/#4c5a66/g' \
-        -e 's/#1f8ad8/#0b62c4/g; s/#7f7f7f/#8a949d/g' "$1" >"$scratch/light.svg"
+        -e 's/#1f8ad8/#0b62c4/g; s/#7f7f7f/#8a949d/g; s/#ffb454/#b54300/g' \
+        -e 's/#63d98f/#1b7a43/g; s/#ff7a6b/#c4161c/g' "$1" >"$scratch/light.svg"
 }
 
 for source in darkstyle/svg/*.svg; do
@@ -72,6 +73,19 @@ for source in Resources/svg/*.svg; do
     esac
 done
 png Resources/svg/norvale.svg Resources/Logo_blanc_Norvale_2020
+# Those of menus, tree and windows; the page has its own.
+for name in check compare compute cross database databaseGreen export invalidate rename sun; do
+    light "Resources/svg/$name.svg"
+    png "$scratch/light.svg" "Resources/light/$name"
+done
+light Resources/svg/newfolder.svg
+for size in 16: 32:@2x 48:@3x; do
+    pixels=${size%%:*}
+    rsvg-convert -w "$pixels" -h "$pixels" Resources/svg/newfolder.svg -o "Resources/newfolder${size#*:}.png"
+    rsvg-convert -w "$pixels" -h "$pixels" "$scratch/light.svg" -o "Resources/light/newfolder${size#*:}.png"
+done
+sed 's/#ffffff/#0e1720/g' Resources/svg/norvale.svg >"$scratch/light.svg"
+png "$scratch/light.svg" Resources/light/Logo_blanc_Norvale_2020
 
 folder=Resources/svg/newfolder.svg
 ico Resources/newfolder.ico $folder:{16,20,24,32,40,48,64,72}

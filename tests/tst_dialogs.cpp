@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -70,6 +71,35 @@ private Q_SLOTS:
                 QVERIFY2(child<QCheckBox>(again, other).isChecked() == isOn, name);
             }
         }
+    }
+
+    // What is changed is there the next time; what is not stays as others wrote it.
+    void appearance()
+    {
+        const QTemporaryDir folder;
+        const Settings settings(folder.path());
+        ConfigurationWidget(settings).storeValues();
+        QVERIFY(!QFile::exists(settings.path(SettingsFile::Config)));
+        QVERIFY(!settings.isStored(Setting::Theme) && !settings.isStored(Setting::SpeedUnit));
+        const QList<std::pair<const char *, Setting>> boxes {
+            {"cb_theme", Setting::Theme},
+            {"cb_language", Setting::Language},
+            {"cb_speedUnit", Setting::SpeedUnit},
+            {"cb_distanceUnit", Setting::DistanceUnit},
+            {"cb_temperatureUnit", Setting::TemperatureUnit}};
+        ConfigurationWidget dialog(settings);
+        for (const auto &[name, setting] : boxes)
+            child<QComboBox>(dialog, name).setCurrentIndex(1);
+        dialog.storeValues();
+        const ConfigurationWidget again(settings);
+        QStringList stored;
+        for (const auto &[name, setting] : boxes) {
+            QCOMPARE(child<QComboBox>(again, name).currentIndex(), 1);
+            stored.append(settings.value(setting).toString());
+        }
+        QCOMPARE(stored.join(u' '), u"dark fr mph ft F"_s);
+        QCOMPARE(child<QLineEdit>(again, "le_mapFiles").text(), settings.mapsFolder());
+        QVERIFY(!settings.isStored(Setting::MapFiles));
     }
 
     // Of maps of the same name the last is meant; showing another map is no choice of the rider's.

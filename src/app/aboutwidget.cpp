@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QPixmap>
 
+#include <theme/themedicon.h>
 #include <widgets/makerlinks.h>
 
 #include "ui_aboutwidget.h"
@@ -37,7 +38,7 @@ AboutWidget::~AboutWidget() = default;
 void AboutWidget::showLogo()
 {
     // Through an icon, which takes the picture that is made for the screen's resolution.
-    const QIcon icon(QStringLiteral(":/Resources/Logo_blanc_Norvale_2020.png"));
+    const QIcon icon = themedIcon(QStringLiteral("Logo_blanc_Norvale_2020.png"));
     const QPixmap logo = icon.pixmap(QSize(LogoWidth, LogoWidth), devicePixelRatioF());
     m_ui->lb_logo->setVisible(!logo.isNull());
     m_ui->lb_logo->setPixmap(logo);

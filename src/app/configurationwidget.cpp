@@ -7,6 +7,8 @@
 
 #include <QIcon>
 
+#include <app/appearancesettings.h>
+
 #include "ui_configurationwidget.h"
 
 namespace zuno {
@@ -46,9 +48,14 @@ ConfigurationWidget::ConfigurationWidget(const Settings &settings, QWidget *pare
     : QDialog(parent)
     , m_ui(std::make_unique<Ui::ConfigurationWidget>())
     , m_settings(settings)
+    , m_appearance(new AppearanceSettings(settings, this))
 {
     m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
+    m_ui->columnsLayout->addWidget(m_appearance);
+    // By the keyboard the right column comes after the left one.
+    setTabOrder(m_ui->cb_checkForUpdates, m_appearance);
+    setTabOrder(m_appearance, m_ui->pb_ok);
     for (const Choice &choice : Choices)
         (m_ui.get()->*choice.box)->setChecked(m_settings.isOn(choice.setting));
     connect(m_ui->pb_ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -63,6 +70,7 @@ void ConfigurationWidget::storeValues() const
     for (const Choice &choice : Choices)
         values.append({choice.setting, (m_ui.get()->*choice.box)->isChecked()});
     m_settings.setValues(values);
+    m_appearance->storeValues();
 }
 
 } // namespace zuno

@@ -13,6 +13,7 @@
 
 #include <app/application.h>
 #include <app/darkstyle.h>
+#include <app/desktoptheme.h>
 #include <app/ending.h>
 #include <app/logfile.h>
 #include <app/update/updateapp.h>
@@ -100,6 +101,7 @@ int main(int argc, char *argv[])
     zuno::Themes::instance().choose(
         zuno::Themes::choiceOf(settings.value(zuno::Setting::Theme).toString()));
     zuno::DarkStyle::install();
+    const zuno::DesktopTheme desktop;
     zuno::ZunoAnalyzer window(arguments.language);
     const zuno::Ending ending;
     QObject::connect(&ending, &zuno::Ending::imminent, &window, &zuno::ZunoAnalyzer::commit);

@@ -11,11 +11,14 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTreeView>
 
 #include <app/aboutwidget.h>
 #include <app/configurationwidget.h>
 #include <app/help.h>
+#include <app/keysheet.h>
+#include <app/themebutton.h>
 #include <base/signedtext.h>
 #include <library/exportdialogs.h>
 #include <library/libraryfolder.h>
@@ -32,6 +35,8 @@
 #include <session/sessionfile.h>
 #include <stats/sessioninfos.h>
 #include <stats/sessionsstats.h>
+#include <theme/shownunits.h>
+#include <theme/themes.h>
 #include <track/map.h>
 #include <views/charts/lapcharts.h>
 #include <views/idealtime/idealtimedialog.h>
@@ -60,6 +65,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
 {
     // Before anything that has a text or shows a number.
     loadLanguage(language.isNull() ? m_settings.value(Setting::Language).toString() : language);
+    ShownUnits::instance().choose(Units::of(m_settings));
     m_ui->setupUi(this);
     m_files = new LibraryPane(m_library, m_settings, this);
     m_files->view()->installEventFilter(this);
@@ -113,6 +119,11 @@ void ZunoAnalyzer::createActions()
     add(tr("   Statistics   "), QKeySequence(Qt::CTRL | Qt::Key_T), &ZunoAnalyzer::openStatistics);
     add(tr("   Help   "), QKeySequence(Qt::Key_F1), &ZunoAnalyzer::openHelp);
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
+    menuBar()->setCornerWidget(new ThemeButton(m_settings, menuBar()));
+    auto *const keys = new QAction(tr("All keys"), this);
+    keys->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Slash), QKeySequence(Qt::Key_Question)});
+    connect(keys, &QAction::triggered, this, [this] { KeySheet(keysOf(*this), this).exec(); });
+    addAction(keys);
 }
 
 void ZunoAnalyzer::arrangePanes()
@@ -236,9 +247,14 @@ void ZunoAnalyzer::chooseFolder()
     const QString folder = QFileDialog::getExistingDirectory(this, tr("Folder of your sessions"));
     if (folder.isEmpty())
         return;
+    m_settings.setValue(Setting::AcquisitionFolder, folder);
+    openSessionsFolder(folder);
+}
+
+void ZunoAnalyzer::openSessionsFolder(const QString &folder)
+{
     // What was selected in a folder that was lost is no sign that this one was emptied.
     m_settings.setValue(Setting::LastFileSelected, QString());
-    m_settings.setValue(Setting::AcquisitionFolder, folder);
     m_library.reload(folder);
     loadAcquisitionsFolder(folder);
 }
@@ -430,9 +446,31 @@ void ZunoAnalyzer::openSettings()
     ConfigurationWidget dialog(m_settings, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
+    const QString language = m_settings.value(Setting::Language).toString();
+    const QString maps = m_settings.mapsFolder();
+    const QString sessions = m_settings.acquisitionFolder();
     dialog.storeValues();
     m_laps->table().applyColumns();
     m_map->view().setOptions(m_settings.path(SettingsFile::Analyzer));
+    Themes::instance().choose(Themes::choiceOf(m_settings.value(Setting::Theme).toString()));
+    ShownUnits::instance().choose(Units::of(m_settings));
+    if (m_settings.acquisitionFolder() != sessions)
+        openSessionsFolder(m_settings.acquisitionFolder());
+    if (m_settings.mapsFolder() != maps)
+        reloadMaps();
+    if (m_settings.value(Setting::Language).toString() != language)
+        offerRestart();
+}
+
+// The language is that of the whole run; texts that are shown already would stay in the other one.
+void ZunoAnalyzer::offerRestart()
+{
+    const auto answer = QMessageBox::question(
+        this, windowTitle(),
+        tr("The other language is there when the program starts again. Do you want to start it "
+           "again now?"));
+    if (answer == QMessageBox::Yes && close())
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
 }
 
 void ZunoAnalyzer::openMaps()

@@ -102,6 +102,8 @@ private:
     void openMapsFolder();
     void openAcquisitionFolder();
     void chooseFolder();
+    void openSessionsFolder(const QString &folder);
+    void offerRestart();
     void onFolderChanged();
     void showSession(Session *session);
     void showState(const QString &text);

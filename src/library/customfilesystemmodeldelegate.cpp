@@ -8,6 +8,8 @@
 #include <QSettings>
 #include <QStyle>
 
+#include <theme/themedicon.h>
+
 namespace zuno {
 
 namespace {
@@ -73,8 +75,8 @@ void CustomFileSystemModelDelegate::decorateDevice(QStyleOptionViewItem &option,
 {
     const bool isHighlighted
         = !m_highlightedDevice.isEmpty() && option.text.contains(m_highlightedDevice);
-    option.icon = QIcon(isHighlighted ? QStringLiteral(":/Resources/databaseGreen.png")
-                                      : QStringLiteral(":/Resources/database.png"));
+    option.icon = themedIcon(isHighlighted ? QStringLiteral("databaseGreen.png")
+                                           : QStringLiteral("database.png"));
     option.decorationSize = QSize(DeviceIconSize, DeviceIconSize);
     option.features |= QStyleOptionViewItem::HasDecoration;
     const QSettings monitor(m_monitorConfiguration, QSettings::IniFormat);

@@ -25,6 +25,7 @@
 #include <library/customfilesystemmodeldelegate.h>
 #include <library/deletion.h>
 #include <library/sessionname.h>
+#include <theme/themedicon.h>
 #include <track/map.h>
 #include <widgets/plaintexts.h>
 
@@ -88,7 +89,7 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
     , m_delegate(new CustomFileSystemModelDelegate(settings.path(SettingsFile::Monitor), this))
     , m_rename(makeAction(tr("Rename"), QStringLiteral("rename.png"), Qt::Key_F2))
     , m_delete(makeAction(tr("Delete"), QStringLiteral("cross.png"), QKeySequence::Delete))
-    , m_newFolder(makeAction(tr("New folder"), QStringLiteral("newfolder.ico"),
+    , m_newFolder(makeAction(tr("New folder"), QStringLiteral("newfolder.png"),
                              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)))
     , m_exportSession(makeAction(tr("Export Session"), QStringLiteral("export.png"), {}))
     , m_exportData(makeAction(tr("Export Session Data (CSV)"), QStringLiteral("export.png"), {}))
@@ -130,7 +131,7 @@ LibraryTree::~LibraryTree()
 QAction *LibraryTree::makeAction(const QString &text, const QString &icon,
                                  const QKeySequence &shortcut)
 {
-    auto *action = new QAction(QIcon(QStringLiteral(":/Resources/") + icon), text, this);
+    auto *action = new QAction(themedIcon(icon), text, this);
     action->setShortcut(shortcut);
     // The keys are taken by handleKey; here they are only shown.
     action->setShortcutContext(Qt::WidgetShortcut);

@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <base/settings.h>
+#include <theme/themedicon.h>
 #include <track/map.h>
 #include <views/laps/customtableviewdelegate.h>
 #include <views/laps/lapselection.h>
@@ -47,10 +48,10 @@ LapsView::LapsView(QTableView &table, LapSelection &selection, const Settings &s
                           "menu key shows everything that can be done with a lap"));
     m_model->setSelection(m_table.selectionModel());
     m_reselect->setText(tr("Reselect first lap"));
-    m_reselect->setIcon(QIcon(QStringLiteral(":/Resources/compare.png")));
+    m_reselect->setIcon(themedIcon(QStringLiteral("compare.png")));
     m_export->setText(tr("Export lap"));
-    m_export->setIcon(QIcon(QStringLiteral(":/Resources/export.png")));
-    m_compare->setIcon(QIcon(QStringLiteral(":/Resources/compare.png")));
+    m_export->setIcon(themedIcon(QStringLiteral("export.png")));
+    m_compare->setIcon(themedIcon(QStringLiteral("compare.png")));
     connectSelection();
 }
 
@@ -122,8 +123,8 @@ void LapsView::updateActions()
     const Lap *lap = m_selection.currentLap();
     const bool isValid = lap != nullptr && lap->isValid();
     m_validity->setText(isValid ? tr("Invalidate lap") : tr("Validate lap"));
-    m_validity->setIcon(QIcon(isValid ? QStringLiteral(":/Resources/invalidate.png")
-                                      : QStringLiteral(":/Resources/check.png")));
+    m_validity->setIcon(
+        themedIcon(isValid ? QStringLiteral("invalidate.png") : QStringLiteral("check.png")));
     m_validity->setEnabled(lap != nullptr);
     m_compare->setText(m_selection.compared() ? tr("Compare to this lap")
                                               : tr("Compare this lap with..."));

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <functional>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <app/darkstyle.h>
+#include <app/keysheet.h>
+#include <theme/shownunits.h>
+#include <theme/themes.h>
+#include <views/charts/lapchart.h>
+
+#include "mainwindow.h"
+
+using namespace zuno;
+using namespace zuno::test;
+
+namespace {
+
+/// Does something to the dialog that is open next, once it is.
+void onDialog(const std::function<void(QWidget &)> &act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        if (QWidget *dialog = QApplication::activeModalWidget())
+            act(*dialog);
+        else
+            onDialog(act);
+    });
+}
+
+QStringList textsOf(const QWidget &widget, const QString &name)
+{
+    QStringList texts;
+    for (const QLabel *label : widget.findChildren<QLabel *>(name))
+        texts.append(label->text());
+    return texts;
+}
+
+} // namespace
+
+/// How the window looks and what it says of itself.
+class TestLook final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        QLocale::setDefault(QLocale::c());
+        m_home = std::make_unique<Home>(QStringList {AtValmora}, QStringList {u"Valmora.map"_s});
+        m_home->startedBefore();
+        Themes::instance().choose(ThemeChoice::Dark);
+        m_window = std::make_unique<Window>();
+        QVERIFY(m_window->open());
+    }
+    void cleanup()
+    {
+        m_window.reset();
+        Themes::instance().choose(ThemeChoice::Dark);
+    }
+
+    // By a click and by its key; it is a lasting choice.
+    void themeButton()
+    {
+        auto &button = m_window->part<QToolButton>("tb_theme");
+        QCOMPARE(button.text(), u"Light"_s);
+        button.click();
+        QVERIFY(!theme().isDark());
+        QCOMPARE(button.text(), u"Dark"_s);
+        QCOMPARE(m_home->settings.value(Setting::Theme).toString(), u"light"_s);
+        QTest::keyClick(&m_window->main, Qt::Key_L, Qt::ControlModifier);
+        QVERIFY(theme().isDark());
+        QCOMPARE(m_home->settings.value(Setting::Theme).toString(), u"dark"_s);
+    }
+
+    void settings()
+    {
+        QString question;
+        onDialog([&question](QWidget &dialog) {
+            child<QComboBox>(dialog, "cb_theme").setCurrentIndex(2);
+            child<QComboBox>(dialog, "cb_speedUnit").setCurrentIndex(1);
+            child<QComboBox>(dialog, "cb_language").setCurrentIndex(2);
+            onDialog([&question](QWidget &box) {
+                auto &message = dynamic_cast<QMessageBox &>(box);
+                question = message.text();
+                message.button(QMessageBox::No)->click();
+            });
+            child<QPushButton>(dialog, "pb_ok").click();
+        });
+        m_window->main.openSettings();
+        QVERIFY(!theme().isDark());
+        QCOMPARE(units().speedName(), u"mph"_s);
+        QVERIFY(question.contains(u"language"_s));
+        ShownUnits::instance().choose({});
+    }
+
+    // The sheet shows what actions and charts really take.
+    void keys()
+    {
+        QStringList keys;
+        onDialog([&keys](QWidget &dialog) {
+            keys = textsOf(dialog, u"keys"_s);
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        QTest::keyClick(&m_window->main, Qt::Key_Slash, Qt::ControlModifier);
+        for (const char *key : {"Ctrl+I", "Ctrl+L", "Ctrl+/, ?", "F1", "F2", "Del", "V", "Ctrl+E"})
+            QVERIFY2(keys.contains(QString::fromLatin1(key)), key);
+        QCOMPARE(keys.count(u"Ctrl+I"_s), 1);
+    }
+
+    void chartTakesItsKeys()
+    {
+        m_window->select(m_home->path(AtValmora));
+        auto *chart = m_window->main.findChild<LapChart *>();
+        for (const KeyHelp &help : chartKeys()) {
+            for (const QKeySequence &keys : help.keys) {
+                QKeyEvent press(QEvent::KeyPress, keys[0].key(), keys[0].keyboardModifiers());
+                QApplication::sendEvent(chart, &press);
+                QVERIFY2(press.isAccepted(), qPrintable(keys.toString()));
+            }
+        }
+    }
+
+private:
+    std::unique_ptr<Home> m_home;
+    std::unique_ptr<Window> m_window;
+};
+
+QTEST_MAIN(TestLook)
+#include "tst_look.moc"
