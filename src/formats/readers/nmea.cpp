@@ -46,6 +46,7 @@ public:
 
 private:
     void takeLine(QByteArrayView line);
+    [[nodiscard]] bool takeSentence(QByteArrayView sentence);
     void takeInfo(const QGeoPositionInfo &info, bool hasFix);
     void takeTime(QTime time);
     void takeDate(QDate date);
@@ -77,25 +78,35 @@ ReadEnd Nmea::read()
     return {QCoreApplication::translate("Formats", "no sentence has a time and a position")};
 }
 
+// Loggers put a time or a name before a sentence, or several sentences on a line; and a sentence
+// that was cut short runs into the next one.
 void Nmea::takeLine(QByteArrayView line)
 {
-    // Loggers put a time or a name before a sentence, and sentences run into each other.
-    const qsizetype begin = line.lastIndexOf('$');
-    if (begin < 0)
-        return;
-    const QByteArrayView sentence = line.sliced(begin).trimmed();
-    const qsizetype star = sentence.lastIndexOf('*');
+    bool isWhole = true;
+    qsizetype begin = line.indexOf('$');
+    while (begin >= 0) {
+        const qsizetype next = line.indexOf('$', begin + 1);
+        const qsizetype end = next < 0 ? line.size() : next;
+        isWhole = takeSentence(line.sliced(begin, end - begin).trimmed()) && isWhole;
+        begin = next;
+    }
+    if (!isWhole)
+        m_facts.damage.add(m_lines.number(), m_lines.position());
+}
+
+// Whether it was understood, or is none that is wanted.
+bool Nmea::takeSentence(QByteArrayView sentence)
+{
     QGeoPositionInfo info;
     bool hasFix = false;
-    if (star < 0 || !m_parser.parse(sentence, info, hasFix)) {
+    if (sentence.lastIndexOf('*') < 0 || !m_parser.parse(sentence, info, hasFix)) {
         // Most sentences are about other things than positions.
         const bool isOurs = sentence.size() < 7 || sentence.sliced(3, 3) == "RMC"
                             || sentence.sliced(3, 3) == "GGA" || sentence.sliced(3, 3) == "VTG";
-        if (isOurs)
-            m_facts.damage.add(m_lines.number(), m_lines.position() + begin);
-        return;
+        return !isOurs;
     }
     takeInfo(info, hasFix);
+    return true;
 }
 
 void Nmea::takeTime(QTime time)
