@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include <QBuffer>
+#include <QStringEncoder>
 #include <QTest>
 
 #include <formats/convert/rideconverter.h>
@@ -308,6 +309,57 @@ private Q_SLOTS:
         }
     }
 
+    // Whatever program has passed the file on.
+    void passedOn_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const Format &format : zuno::test::formats()) {
+            if (QByteArray(format.name) != "rcz" && QByteArray(format.name) != "xrk")
+                QTest::newRow(format.name) << QString::fromLatin1(format.name);
+        }
+    }
+    void passedOn()
+    {
+        QFETCH(QString, name);
+        const QByteArray crlf = madeUp(name.toLatin1()).replace("\r\n", "\n").replace("\n", "\r\n");
+        const QByteArray plain = QByteArray(crlf).replace("\r\n", "\n");
+        const Reading as = read(crlf);
+        QVERIFY(as.samples() > 150);
+        QStringEncoder little(QStringEncoder::Utf16LE, QStringEncoder::Flag::WriteBom);
+        QStringEncoder big(QStringEncoder::Utf16BE, QStringEncoder::Flag::WriteBom);
+        const QByteArray littleBytes = little(QString::fromUtf8(plain));
+        const QByteArray bigBytes = big(QString::fromUtf8(crlf));
+        QList<QByteArray> versions {plain,
+                                    QByteArray(plain).replace("\n", "\r"),
+                                    "\xEF\xBB\xBF" + crlf,
+                                    plain + "\n\n\n",
+                                    littleBytes,
+                                    bigBytes};
+        for (qsizetype i = 0; i < versions.size(); ++i) {
+            const Reading reading = read(versions[i]);
+            QVERIFY2(reading.kind == as.kind, qPrintable(QString::number(i)));
+            QVERIFY2(reading.samples() == as.samples(), qPrintable(QString::number(i)));
+            QCOMPARE(reading.facts.clockZero, as.facts.clockZero);
+            const auto last = static_cast<std::size_t>(as.rides[0].size() - 1);
+            QCOMPARE(reading.rides[0].sample(last).longitude, as.rides[0].sample(last).longitude);
+        }
+    }
+
+    // Columns that a logger names and never fills are missing ones.
+    void emptyColumns()
+    {
+        QByteArray text = "time,latitude,longitude,speed (m/s),bearing,lean,lateral_acc\n";
+        for (const Moment &m : moments({}))
+            text += QByteArray::number(m.time, 'f', 2) + ','
+                    + QByteArray::number(m.latitude, 'f', 7) + ','
+                    + QByteArray::number(m.longitude, 'f', 7) + ",,,,\n";
+        const Reading reading = read(text);
+        QCOMPARE(reading.samples(), std::size_t(moments({}).size()));
+        QCOMPARE(reading.rides[0].report.speed, ChannelSource::Computed);
+        QCOMPARE(reading.rides[0].report.lean, ChannelSource::Computed);
+        QVERIFY(reading.rides[0].sample(100).speed > 1);
+    }
+
     // One bad line costs that line, and is named.
     void badLines_data()
     {
@@ -353,6 +405,27 @@ private Q_SLOTS:
         QCOMPARE(reading.samples(), good.samples());
         for (std::size_t i = 0; i < good.samples(); ++i)
             QCOMPARE(reading.rides[0].sample(i).latitude, good.rides[0].sample(i).latitude);
+    }
+
+    // Some loggers glue the sentences of a moment together.
+    void sentencesOnALine()
+    {
+        const QByteArray apart = madeUp("nmea");
+        QByteArray glued;
+        for (const QByteArray &line : apart.split('\n'))
+            glued += line.trimmed() + (line.contains("RMC") ? "\n" : "");
+        QVERIFY(glued.count('\n') < apart.count('\n'));
+        const Reading reading = read(glued);
+        QCOMPARE(reading.samples(), read(apart).samples());
+        QCOMPARE(reading.facts.damage.lines, 0);
+    }
+
+    void dateOfSixDigits()
+    {
+        const QByteArray row = ",201211,13,20,5,45.0,9.0\n";
+        const Reading reading
+            = read("ms,Date,Hour,Minute,Second,Latitude,Longitude\n0" + row + "100" + row);
+        QCOMPARE(reading.facts.clockZero.date(), QDate(2020, 12, 11));
     }
 
     void unknown()

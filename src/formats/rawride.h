@@ -65,6 +65,8 @@ struct RideFacts
     /// The date and time at which the rows' clock shows 0, in UTC whatever zone it is in; invalid
     /// when the file does not tell.
     QDateTime clockZero;
+    /// The rows' clock counts from midnight, of whatever day.
+    bool isTimeOfDay = false;
     std::vector<RideGate> gates;
     /// Times of the rows' clock at which laps begin or end.
     std::vector<double> lapMarks;

@@ -10,7 +10,8 @@ namespace zuno {
 
 namespace {
 
-constexpr std::size_t LongestOuting = 864000; // samples: a day
+// Samples: twelve hours, which take 70 MB at most, suspension included.
+constexpr std::size_t LongestOuting = 432000;
 constexpr std::size_t ShortestOuting = 10;
 // A speed that came with a neighbouring row is as good as one of the position's own row.
 constexpr double Neighbouring = 0.3;

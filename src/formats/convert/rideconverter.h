@@ -12,7 +12,7 @@ namespace zuno {
 
 /// Makes samples of the rows of a file, one outing after the other, while they are read.
 ///
-/// What it keeps is the samples of the outing at hand; an outing of more than a day is cut.
+/// What it keeps is the samples of the outing at hand; an outing of more than twelve hours is cut.
 class RideConverter final : public RowSink
 {
 public:

@@ -39,9 +39,10 @@ bool saysNothing(QByteArrayView cell)
 QDate dateOf(QByteArrayView cell, DateOrder order)
 {
     const QString text = cellText(cell);
-    const QDate date = findDate(text, order);
-    if (date.isValid() || text.size() != 6)
-        return date;
+    bool isNumber = false;
+    (void)text.toUInt(&isNumber);
+    if (text.size() != 6 || !isNumber)
+        return findDate(text, order);
     return {2000 + text.left(2).toInt(), text.mid(2, 2).toInt(), text.mid(4).toInt()};
 }
 
@@ -53,6 +54,9 @@ RowBuilder::RowBuilder(const ColumnMapping &mapping, RideFacts &facts, DateOrder
     , m_order(order)
     , m_lastColumn(mapping.lastColumn())
 {
+    facts.isTimeOfDay = mapping.clock == ClockForm::ClockNumber
+                        || mapping.clock == ClockForm::ClockText
+                        || mapping.clock == ClockForm::Parts;
     if (mapping.clock == ClockForm::UnixSeconds || mapping.clock == ClockForm::UnixMilliseconds)
         facts.clockZero = QDateTime::fromMSecsSinceEpoch(0, Qt::UTC);
 }
