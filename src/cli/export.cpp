@@ -1,43 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QFileInfo>
-
 #include <base/wholefile.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
-#include <formats/rideexport.h>
+#include <formats/sessionride.h>
 
 namespace zuno::cli {
 
 namespace {
-
-QList<RideGate> gatesOfMap(const Map *map)
-{
-    QList<RideGate> gates;
-    if (map == nullptr || !map->startPoint().isValid())
-        return gates;
-    gates.append({QStringLiteral("Start"), map->startPoint(), map->startPoint(), true, true});
-    for (const QGeoCoordinate &point : map->timingPoints()) {
-        if (point.isValid())
-            gates.append(
-                {QStringLiteral("Time %1").arg(gates.size() - 1), point, point, false, true});
-    }
-    return gates;
-}
-
-RideToExport rideOf(const Session &session)
-{
-    RideToExport ride;
-    ride.begin = recordingBegin(session.recording().date, session.recording().time);
-    ride.name = QFileInfo(session.filePath()).completeBaseName();
-    ride.driver = session.driver();
-    ride.vehicle = session.vehicle();
-    ride.circuit = session.circuitName();
-    ride.gates = gatesOfMap(session.map());
-    return ride;
-}
 
 int write(const QString &path, const QByteArray &bytes)
 {
@@ -53,9 +25,7 @@ int exportSession(const CommandLine &line, const RideFormat &format, const QStri
     const std::unique_ptr<Session> session = openReported(line.argument(0));
     if (!session)
         return FileFailed;
-    RideToExport ride = rideOf(*session);
-    ride.samples = session->wholeSamples();
-    return write(output, format.write(ride));
+    return write(output, format.write(rideOf(*session)));
 }
 
 int exportLap(const CommandLine &line, const RideFormat &format, const QString &output, int number)
@@ -64,10 +34,7 @@ int exportLap(const CommandLine &line, const RideFormat &format, const QString &
     const Lap *lap = displayed.session ? lapReported(*displayed.session, number) : nullptr;
     if (lap == nullptr)
         return FileFailed;
-    RideToExport ride = rideOf(*displayed.session);
-    ride.samples = lap->points();
-    ride.name += QStringLiteral(", lap %1").arg(number);
-    return write(output, format.write(ride));
+    return write(output, format.write(rideOf(*displayed.session, *lap)));
 }
 
 } // namespace

@@ -17,6 +17,7 @@
 #include <formats/convert/rideconverter.h>
 #include <formats/import/lapgate.h>
 #include <formats/import/ridenotes.h>
+#include <formats/table/tablereader.h>
 #include <session/recording/sessionwriter.h>
 
 namespace zuno {
@@ -33,6 +34,8 @@ public:
 
 private:
     [[nodiscard]] bool prepare();
+    void recognise();
+    [[nodiscard]] ReadEnd readRows(RowSink &sink);
     void read();
     void takeRide(ConvertedRide &ride);
     [[nodiscard]] bool isStopped();
@@ -45,9 +48,35 @@ private:
     const ImportOptions &m_options;
     ImportOutcome m_outcome;
     SessionOrigin m_origin;
+    std::optional<TableSheet> m_sheet;
+    std::optional<ColumnMapping> m_columns;
+    double m_firstBegin = 0.0;
     qint64 m_rows = 0;
     bool m_isStopped = false;
 };
+
+// What a table's columns say, its maker knows best, then the rider.
+void Import::recognise()
+{
+    const QByteArray head = m_file.peek(HeadSize);
+    m_outcome.reader = findRideReader(head);
+    if (m_outcome.reader != nullptr && m_outcome.reader != &rideReaders().back())
+        return;
+    m_sheet = findSheet(head);
+    m_outcome.isTable = m_sheet.has_value();
+    if (!m_sheet || !m_options.columns)
+        return;
+    m_columns = m_options.columns(headingKey(m_sheet->heading));
+    if (m_columns)
+        m_outcome.reader = &rideReaders().back();
+}
+
+ReadEnd Import::readRows(RowSink &sink)
+{
+    if (m_columns)
+        return readSheet(m_file, m_outcome.facts, sink, *m_sheet, *m_columns);
+    return m_outcome.reader->read(m_file, m_outcome.facts, sink);
+}
 
 bool Import::prepare()
 {
@@ -56,7 +85,7 @@ bool Import::prepare()
         m_outcome.error = QCoreApplication::translate("Formats", "cannot be read");
         return false;
     }
-    m_outcome.reader = findRideReader(m_file.peek(HeadSize));
+    recognise();
     if (m_outcome.reader == nullptr) {
         m_outcome.error = QCoreApplication::translate("Formats", "is of no kind that can be read");
         return false;
@@ -64,7 +93,8 @@ bool Import::prepare()
     if (m_options.folder.isEmpty())
         return true;
     m_origin.fingerprint = fingerprintOf(m_file.fileName());
-    m_outcome.presentAs = findImported(m_options.folder, m_origin.fingerprint);
+    m_outcome.presentAs = findImported(
+        m_options.library.isEmpty() ? m_options.folder : m_options.library, m_origin.fingerprint);
     if (!m_outcome.presentAs.isEmpty())
         return false;
     if (!QDir().mkpath(m_options.folder))
@@ -93,7 +123,7 @@ void Import::read()
 {
     RideConverter converter(m_outcome.facts, [this](ConvertedRide &&ride) { takeRide(ride); });
     converter.setCancelled([this] { return isStopped(); });
-    const ReadEnd end = m_outcome.reader->read(m_file, m_outcome.facts, converter);
+    const ReadEnd end = readRows(converter);
     if (end.ok() && !m_isStopped)
         converter.finish();
     if (m_outcome.error.isEmpty())
@@ -115,7 +145,12 @@ QDateTime Import::beginOf(const ConvertedRide &ride) const
     if (m_outcome.facts.clockZero.isValid())
         return m_outcome.facts.clockZero.addMSecs(static_cast<qint64>(std::floor(seconds * 1000)));
     const QDateTime modified = QFileInfo(m_file.fileName()).lastModified();
-    return {modified.date(), modified.time(), Qt::UTC};
+    // Whether the file was written during the ride or years later nobody knows; what was ridden one
+    // after the other stays so.
+    const QTime zero = m_outcome.facts.isTimeOfDay ? QTime(0, 0) : modified.time();
+    const double since = seconds - (m_outcome.facts.isTimeOfDay ? 0.0 : m_firstBegin);
+    return QDateTime(modified.date(), zero, Qt::UTC)
+        .addMSecs(static_cast<qint64>(std::floor(since * 1000)));
 }
 
 QString Import::freePath(const QDateTime &begin) const
@@ -172,6 +207,8 @@ void Import::takeRide(ConvertedRide &ride)
 {
     if (m_isStopped || !m_outcome.error.isEmpty())
         return;
+    if (m_outcome.sessions.empty())
+        m_firstBegin = ride.frame.begin();
     if (m_options.inspect)
         m_options.inspect(ride);
     ImportedSession session;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QDateTime>
@@ -12,6 +13,7 @@
 
 #include <formats/convert/convertedride.h>
 #include <formats/ridereader.h>
+#include <formats/table/columnmapping.h>
 
 namespace zuno {
 
@@ -36,6 +38,8 @@ struct ImportOutcome
     const RideReader *reader = nullptr;
     RideFacts facts;
     std::vector<ImportedSession> sessions;
+    /// It is a table of no known maker, whose columns can be matched.
+    bool isTable = false;
     /// A session of the folder that the same file has given before; then nothing is written.
     QString presentAs;
     bool isCancelled = false;
@@ -49,6 +53,12 @@ struct ImportOptions
 {
     /// The folder that sessions are written to, which is made; empty to write none and only look.
     QString folder;
+    /// The folder that is searched for sessions which the same file has given before; empty for the
+    /// one that is written to.
+    QString library;
+    /// How somebody has matched the columns of tables with that headingKey(); nothing for those
+    /// that nobody has.
+    std::function<std::optional<ColumnMapping>(const QString &key)> columns;
     /// Whether to stop; what was written is removed again then.
     std::function<bool()> isCancelled;
     /// Gets the share of the file that has been read, 0 to 1.

@@ -14,13 +14,6 @@ namespace zuno {
 
 namespace {
 
-double rateOf(const RideFacts &facts, const ConversionReport &report)
-{
-    // Some apps interpolate what they write and say separately how often they measured.
-    const bool saysLess = facts.positionRate > 0 && facts.positionRate < report.rate;
-    return saysLess ? facts.positionRate : report.rate;
-}
-
 QStringList channelsWith(const ConversionReport &report,
                          std::initializer_list<ChannelSource> sources)
 {
@@ -44,6 +37,13 @@ QString rateText(double rate)
 
 } // namespace
 
+double measuredRate(const RideFacts &facts, const ConversionReport &report)
+{
+    // Some apps interpolate what they write and say separately how often they measured.
+    const bool saysLess = facts.positionRate > 0 && facts.positionRate < report.rate;
+    return saysLess ? facts.positionRate : report.rate;
+}
+
 QString importNotes(const QString &fileName, const char *kind, const RideFacts &facts,
                     const ConversionReport &report)
 {
@@ -51,7 +51,7 @@ QString importNotes(const QString &fileName, const char *kind, const RideFacts &
     QString notes = QStringLiteral("From %1 (%2%3, %4 Hz).")
                         .arg(fileName, QLatin1String(kind),
                              namesLogger ? QStringLiteral(", ") + facts.logger : QString(),
-                             rateText(rateOf(facts, report)));
+                             rateText(measuredRate(facts, report)));
     const QStringList computed
         = channelsWith(report, {ChannelSource::Computed, ChannelSource::Replaced});
     if (!computed.isEmpty())
@@ -69,7 +69,7 @@ QString importNotes(const QString &fileName, const char *kind, const RideFacts &
 QStringList ridesOddities(const RideFacts &facts, const ConversionReport &report)
 {
     QStringList oddities;
-    const double rate = rateOf(facts, report);
+    const double rate = measuredRate(facts, report);
     if (rate > 0 && rate < 4.5) {
         oddities.append(
             QCoreApplication::translate("Formats", "%1 Hz: lap times may be off by %2 s")

@@ -15,6 +15,9 @@ namespace zuno {
 [[nodiscard]] QString importNotes(const QString &fileName, const char *kind, const RideFacts &facts,
                                   const ConversionReport &report);
 
+/// Positions a second that were measured, as far as the file or its rows tell.
+[[nodiscard]] double measuredRate(const RideFacts &facts, const ConversionReport &report);
+
 /// What is odd about a recording, a sentence each, for the rider.
 [[nodiscard]] QStringList ridesOddities(const RideFacts &facts, const ConversionReport &report);
 

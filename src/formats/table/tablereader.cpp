@@ -50,8 +50,23 @@ ReadEnd noTable()
 
 TableReader::TableReader(QIODevice &device, RideFacts &facts) : m_lines(device), m_facts(facts) {}
 
+void TableReader::setSheet(const TableSheet &sheet, const ColumnMapping &mapping)
+{
+    m_sheet = sheet;
+    m_separator = sheet.separator;
+    m_mapping = mapping;
+}
+
 bool TableReader::isHeading(QByteArrayView line)
 {
+    if (m_sheet) {
+        if (m_lines.number() < m_sheet->line)
+            return false;
+        m_heading = m_sheet->heading;
+        if (!m_sheet->hasNames)
+            m_lines.putBack();
+        return true;
+    }
     if (m_headingMaker) {
         m_heading = m_headingMaker(line);
         return !m_heading.names.isEmpty();
@@ -82,7 +97,8 @@ bool TableReader::findHeading()
             continue;
         if (isHeading(*line)) {
             takeSamples();
-            m_mapping = guessColumns(m_heading, m_samples);
+            if (!m_sheet)
+                m_mapping = guessColumns(m_heading, m_samples);
             return m_mapping.isUsable();
         }
         if (m_lines.number() > LastHeadingLine)
@@ -102,7 +118,8 @@ void TableReader::takeSamples()
         if (!line)
             return;
         splitCells(*line, m_separator, m_cells);
-        const bool isText = m_cells.size() > 1 && !line->startsWith('#') && !holdsNumber(m_cells);
+        const bool isText = (!m_sheet || m_sheet->hasNames) && m_cells.size() > 1
+                            && !line->startsWith('#') && !holdsNumber(m_cells);
         if (m_held.empty() && isText && m_heading.units.isEmpty()) {
             m_heading.units = texts(m_cells);
         } else if (m_held.empty() && isText && m_heading.sources.isEmpty()) {
@@ -171,6 +188,16 @@ ReadEnd TableReader::run(RowSink &sink)
                     .arg(m_facts.damage.firstLine)};
     }
     return {};
+}
+
+ReadEnd readSheet(QIODevice &device, RideFacts &facts, RowSink &sink, const TableSheet &sheet,
+                  const ColumnMapping &mapping)
+{
+    TableReader table(device, facts);
+    table.setSheet(sheet, mapping);
+    if (!table.findHeading())
+        return noTable();
+    return table.run(sink);
 }
 
 } // namespace zuno

@@ -8,6 +8,7 @@
 #include <formats/ridereader.h>
 #include <formats/table/columnmapping.h>
 #include <formats/table/rowbuilder.h>
+#include <formats/table/tablesheet.h>
 #include <formats/text/linereader.h>
 
 namespace zuno {
@@ -29,6 +30,8 @@ public:
     /// Cuts the heading's line for kinds that write it in their own way.
     void setHeadingMaker(HeadingMaker maker) { m_headingMaker = std::move(maker); }
     void setDateOrder(DateOrder order) { m_order = order; }
+    /// Takes the table that stands there, with columns as somebody has matched them.
+    void setSheet(const TableSheet &sheet, const ColumnMapping &mapping);
 
     /// Reads up to the first rows. False when there is no heading with time and place in the first
     /// lines.
@@ -61,6 +64,7 @@ private:
     CommentTaker m_comments;
     HeadingMaker m_headingMaker;
     DateOrder m_order = DateOrder::DayFirst;
+    std::optional<TableSheet> m_sheet;
     TableHeading m_heading;
     ColumnMapping m_mapping;
     std::vector<std::vector<QByteArray>> m_samples;
@@ -72,6 +76,10 @@ private:
     qint64 m_rows = 0;
     char m_separator = ',';
 };
+
+/// Reads the rows of a table whose columns somebody has matched.
+[[nodiscard]] ReadEnd readSheet(QIODevice &device, RideFacts &facts, RowSink &sink,
+                                const TableSheet &sheet, const ColumnMapping &mapping);
 
 /// What there is no table in, in words.
 [[nodiscard]] ReadEnd noTable();
