@@ -37,8 +37,16 @@ MapDraft square()
     return draft;
 }
 
+void takeGates(MapEdit &edit, int line, const QStringList &words)
+{
+    QList<QGeoCoordinate> splits;
+    for (const QString &word : words.mid(1))
+        splits.append(place(word.toInt()));
+    edit.takeGates(place(line), splits);
+}
+
 // Does what a text says: "0 20 -5" moves point 0 by 20 metres and back by 5 in one gesture; "add
-// 30", "remove 1", "gate 12", "undo".
+// 30", "remove 1", "gate 12", "undo"; "gates 30 60" takes a file's line at 30 and a split at 60.
 void run(MapEdit &edit, const QString &command)
 {
     QStringList words = command.split(u' ');
@@ -53,6 +61,8 @@ void run(MapEdit &edit, const QString &command)
         edit.setGateSize(number);
     else if (what == u"undo")
         edit.history().undo();
+    else if (what == u"gates")
+        takeGates(edit, number, words);
     else
         for (const QString &metres : words)
             edit.nudgePoint(what.toInt(), metres.toInt());
@@ -88,6 +98,9 @@ private Q_SLOTS:
         QTest::newRow("line alone") << u"remove 2,-1 30"_s << u"30: 70 170 / 5"_s;
         QTest::newRow("a gesture is a step")
             << u"0 -10 -20,gate 9,undo,undo"_s << u"0: 100 200 400 / 5"_s;
+        QTest::newRow("line of a file") << u"gates 30"_s << u"30: 70 170 400 / 5"_s;
+        QTest::newRow("sectors of a file") << u"gates 30 90 60"_s << u"30: 30 60 400 / 5"_s;
+        QTest::newRow("one step") << u"gates 30 60,undo"_s << u"0: 100 200 400 / 5"_s;
         QTest::newRow("in the longest") << u"add"_s << u"0: 100 200 300 400 / 5"_s;
         QTest::newRow("eight at most") << u"add 10,add 20,add 30,add 40,add 50,add 60,gate 0"_s
                                        << u"0: 10 20 30 40 50 100 200 400 / 1"_s;
@@ -106,6 +119,21 @@ private Q_SLOTS:
         while (edit.history().canUndo())
             edit.history().undo();
         QCOMPARE(edit.draft(), square());
+    }
+
+    // Two points along the course: the first is on the line; across it, the middle is.
+    void gatesOfFile()
+    {
+        SessionOrigin origin;
+        origin.gates = {{u"far"_s, place(5000), place(5000), true, false},
+                        {u"line"_s, place(20), place(60), true, true},
+                        {u"second line"_s, place(90), place(90), true, true},
+                        {u"split"_s, place(40), place(60), false, false}};
+        const FileGates gates = gatesOn(square(), origin);
+        QVERIFY(gates.start.distanceTo(place(20)) < 0.1);
+        QCOMPARE(gates.splits.size(), 1);
+        QVERIFY(gates.splits[0].distanceTo(place(50)) < 0.1);
+        QVERIFY(!gatesOn({}, origin).start.isValid());
     }
 
     // At a crossing a dragged point stays on its piece of track.

@@ -235,6 +235,35 @@ void MapEdit::setGateSize(double metres)
     apply(std::move(state), tr("Change gate size"), GateKind);
 }
 
+void MapEdit::takeGates(const QGeoCoordinate &start, const QList<QGeoCoordinate> &splits)
+{
+    if (m_state.path->isEmpty() || !start.isValid())
+        return;
+    beginGesture();
+    State state = m_state;
+    const RingPlace line = state.path->nearest(start);
+    state.start = line.along;
+    state.draft.start = line.place;
+    state.draft.outline = state.path->from(line.along);
+    if (!splits.isEmpty()) {
+        state.points.clear();
+        state.draft.timingPoints.clear();
+        QList<QGeoCoordinate> ends
+            = splits.first(std::min<qsizetype>(splits.size(), MaximumSectors - 1));
+        ends.append(line.place);
+        for (const QGeoCoordinate &end : std::as_const(ends)) {
+            const RingPlace found = state.path->nearest(end);
+            state.points.append(found.along);
+            state.draft.timingPoints.append(found.place);
+        }
+    } else if (m_attached >= 0) {
+        state.points[m_attached] = line.along;
+        state.draft.timingPoints[m_attached] = line.place;
+    }
+    sortPoints(state, NoPoint);
+    apply(std::move(state), tr("Take the gates of the file"), SingleStep);
+}
+
 void MapEdit::setOutline(const QList<QGeoCoordinate> &outline)
 {
     auto path = std::make_shared<TrackRing>(outline);

@@ -71,6 +71,9 @@ public:
     void removePoint(int point);
     /// Metres, kept between SmallestGate and LargestGate.
     void setGateSize(double metres);
+    /// Moves the line to the outline's place nearest to @p start, in one step, and takes @p splits
+    /// as the ends of the sectors before it; without any, the timing points stay.
+    void takeGates(const QGeoCoordinate &start, const QList<QGeoCoordinate> &splits);
     /// Takes another way around as the outline; line and timing points move to where they are
     /// nearest to it.
     void setOutline(const QList<QGeoCoordinate> &outline);

@@ -139,7 +139,7 @@ MapEditor::Content MapMaker::content(const MapDraft &draft, const QString &mapNa
     return content;
 }
 
-QString MapMaker::run(MapEditor::Content content, const QString &original)
+QString MapMaker::run(MapEditor::Content content, const QString &original, const FileGates &gates)
 {
     QString saved;
     MapEditor editor(std::move(content), owner());
@@ -148,6 +148,7 @@ QString MapMaker::run(MapEditor::Content content, const QString &original)
         if (!saved.isEmpty())
             editor.accept();
     });
+    editor.edit().takeGates(gates.start, gates.splits);
     editor.exec();
     return saved;
 }
@@ -158,6 +159,7 @@ void MapMaker::newMap()
     if (session == nullptr)
         return;
     const QString file = session->fileName();
+    const QString filePath = session->filePath();
     MapProposal proposal = proposeMap(session->wholeSamples());
     if (proposal.reason != NoProposal::None) {
         MessageBox::run(QMessageBox::Information, owner(), tr("New map"),
@@ -170,7 +172,15 @@ void MapMaker::newMap()
     proposal.draft.name = mapPath({}, name);
     MapEditor::Content made = content(proposal.draft, {});
     made.note = tr("This is a proposal. Give it a name and save it, or drag its points.");
-    const QString saved = run(std::move(made), {});
+    const FileGates gates
+        = gatesOn(proposal.draft, readSessionOrigin(filePath).value_or(SessionOrigin()));
+    if (gates.start.isValid()) {
+        made.note
+            = tr("This is a proposal with the start line of the imported file; Undo takes the "
+                 "line that was found in the laps. Give it a name and save it, or drag its "
+                 "points.");
+    }
+    const QString saved = run(std::move(made), {}, gates);
     if (saved.isEmpty())
         return;
     m_parts.settings.setMapChoice(file, saved);

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <maps/editor/filegates.h>
 #include <maps/editor/mapeditor.h>
 #include <track/mapdraft.h>
 
@@ -54,8 +55,10 @@ private:
     [[nodiscard]] QWidget *owner() const;
     [[nodiscard]] QString path(const QString &name) const;
     [[nodiscard]] MapEditor::Content content(const MapDraft &draft, const QString &mapName) const;
-    /// The name under which the rider has saved; empty when he has not.
-    [[nodiscard]] QString run(MapEditor::Content content, const QString &original);
+    /// Opens the editor with @p gates as the first change, which can be undone. The name under
+    /// which the rider has saved; empty when he has not.
+    [[nodiscard]] QString run(MapEditor::Content content, const QString &original,
+                              const FileGates &gates = {});
     [[nodiscard]] QString askName(const QString &name) const;
     /// Writes @p draft into the maps folder; asks before another map than @p original, a name below
     /// the folder, is replaced. Tells the rider what goes wrong. The name under which it was
