@@ -2,7 +2,8 @@
 # SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Builds the core's benchmarks as for release and runs them: a table of ratios, then the timings.
+# Builds the core's benchmarks as for release and runs them: what reading another logger's file costs,
+# a table of ratios, then the timings.
 # Fails when an aim is missed.
 #   scripts/benchmarks.sh [options of Google Benchmark]   (--benchmark_filter=NONE: the table only)
 #   scripts/benchmarks.sh --map                           (the map page instead)
@@ -40,6 +41,7 @@ scripts/install-dependencies.sh --core
 build=build/benchmarks
 {
     cmake --preset release -B "$build" -DGUI=OFF
-    cmake --build "$build" --target bench_core
+    cmake --build "$build" --target bench_core bench_formats
 } >&2
+"$build/bin/bench_formats"
 exec "$build/bin/bench_core" "$@"
