@@ -3,8 +3,11 @@
 
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QString>
+
+#include <formats/rideexport.h>
 
 class QWidget;
 
@@ -26,7 +29,10 @@ public:
     void exportSession(zuno::Session *session);
     /// Writes every sample of the session as CSV.
     void exportSessionData(zuno::Session *session);
-    /// Writes the samples of one lap as CSV.
+    /// Writes sessions in one of rideFormats(): one as a file, several into a folder, where they
+    /// replace nothing.
+    void exportRides(const QList<zuno::Session *> &sessions, const QString &formatId);
+    /// Writes the samples of one lap as CSV, or in one of rideFormats().
     void exportLap(const zuno::SessionLap &lap);
 
 Q_SIGNALS:
@@ -34,6 +40,14 @@ Q_SIGNALS:
     void done(const QString &message);
 
 private:
+    /// A session's file, and what is known of it.
+    struct Ride
+    {
+        QString path;
+        RideToExport known;
+    };
+    void exportRide(const Ride &ride, const RideFormat &format);
+    void exportFolder(const QList<Ride> &rides, const RideFormat &format);
     void writeText(const QString &path, const QByteArray &text);
     void tellWritten(const QString &path, bool isWritten, const QString &error);
 

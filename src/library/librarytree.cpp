@@ -21,6 +21,7 @@
 
 #include <base/settings.h>
 #include <base/trash.h>
+#include <formats/rideexport.h>
 #include <library/acquisitionlibrary.h>
 #include <library/customfilesystemmodeldelegate.h>
 #include <library/deletion.h>
@@ -95,6 +96,7 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
     , m_exportData(makeAction(tr("Export Session Data (CSV)"), QStringLiteral("export.png"), {}))
     , m_idealTime(
           makeAction(tr("Compute multisession ideal time"), QStringLiteral("compute.png"), {}))
+    , m_formats(new QMenu(tr("Export for other programs"), &view))
 {
     m_view.setItemDelegate(m_delegate);
     m_view.installEventFilter(this);
@@ -121,6 +123,18 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
     connect(m_idealTime, &QAction::triggered, this,
             [this] { Q_EMIT idealTimeRequested(selectedSessions()); });
     connect(&m_view, &QTreeView::customContextMenuRequested, this, &LibraryTree::openMenu);
+    createFormats();
+}
+
+void LibraryTree::createFormats()
+{
+    m_formats->setIcon(QIcon(QStringLiteral(":/Resources/export.png")));
+    for (const RideFormat &format : rideFormats()) {
+        const QString id = QString::fromLatin1(format.id);
+        QAction *action = m_formats->addAction(QString::fromLatin1(format.name));
+        connect(action, &QAction::triggered, this,
+                [this, id] { Q_EMIT exportRidesRequested(selectedSessions(), id); });
+    }
 }
 
 LibraryTree::~LibraryTree()
@@ -359,6 +373,7 @@ void LibraryTree::fillMenu(QMenu &menu)
     if (sessions.size() >= 2 && haveSameMap(sessions)) {
         m_idealTime->setEnabled(isUsed(&LibraryTree::idealTimeRequested));
         menu.addAction(m_idealTime);
+        menu.addMenu(m_formats);
         return;
     }
     if (!isCurrentProtected()) {
@@ -370,6 +385,10 @@ void LibraryTree::fillMenu(QMenu &menu)
         m_exportData->setEnabled(isUsed(&LibraryTree::exportDataRequested));
         menu.addAction(m_exportSession);
         menu.addAction(m_exportData);
+    }
+    if (!sessions.isEmpty()) {
+        m_formats->setEnabled(isUsed(&LibraryTree::exportRidesRequested));
+        menu.addMenu(m_formats);
     }
     if (!isCurrentFile())
         menu.addAction(m_newFolder);

@@ -82,6 +82,7 @@ Q_SIGNALS:
     void fileChanged(const QString &path);
     void exportSessionRequested(zuno::Session *session);
     void exportDataRequested(zuno::Session *session);
+    void exportRidesRequested(const QList<zuno::Session *> &sessions, const QString &formatId);
     void idealTimeRequested(const QList<zuno::Session *> &sessions);
     /// Something that the rider asked for could not be done.
     void failed(const QString &message);
@@ -105,6 +106,7 @@ private:
     [[nodiscard]] QStringList selectedPaths() const;
     [[nodiscard]] bool isCurrentProtected() const;
     [[nodiscard]] bool ask(const QString &question);
+    void createFormats();
     void remove(const Deletion &deletion);
     void forgetDeleted();
     QAction *makeAction(const QString &text, const QString &icon, const QKeySequence &shortcut);
@@ -128,6 +130,7 @@ private:
     QAction *m_exportSession;
     QAction *m_exportData;
     QAction *m_idealTime;
+    QMenu *m_formats;
     bool m_isRestored = false;
 };
 
