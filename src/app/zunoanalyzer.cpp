@@ -24,6 +24,7 @@
 #include <library/libraryfolder.h>
 #include <library/librarypane.h>
 #include <library/librarytree.h>
+#include <library/recordingimport.h>
 #include <library/sessionimport.h>
 #include <library/unsavedchanges.h>
 #include <library/upgradepass.h>
@@ -198,10 +199,15 @@ void ZunoAnalyzer::connectParts()
     connect(tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
     connect(tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
     connect(&m_laps->table(), &LapsView::exportRequested, exports, &ExportDialogs::exportLap);
+    connect(tree, &LibraryTree::exportRidesRequested, exports, &ExportDialogs::exportRides);
     connect(exports, &ExportDialogs::done, this, &ZunoAnalyzer::tell);
     m_import = new SessionImport(m_library, m_settings, this);
-    connect(m_import, &SessionImport::finished, this,
-            [this](const ImportResult &result) { result.showIn(*statusBar()); });
+    connect(m_import, &SessionImport::finished, this, [this](const ImportResult &result) {
+        result.showIn(*statusBar());
+        if (m_library.find(result.path) != nullptr)
+            m_files->tree().select(result.path);
+    });
+    new RecordingImport({*m_import, m_maps.library(), m_settings}, this);
     connect(&m_maps, &MapFolder::changed, this, &ZunoAnalyzer::reloadMaps);
     m_mapMaker = new MapMaker({m_library, m_maps.library(), m_display, m_settings}, this);
     connect(m_mapMaker, &MapMaker::mapsChanged, this, &ZunoAnalyzer::reloadMaps);
@@ -407,7 +413,9 @@ void ZunoAnalyzer::importSession()
     const Session *session = m_display.session();
     const QStringList files = QFileDialog::getOpenFileNames(
         this, tr("Select one or more session files to import"),
-        session != nullptr ? session->filePath() : QString(), tr("RA1 Files (*.ra1)"));
+        session != nullptr ? session->filePath() : QString(),
+        tr("Recordings (%1)").arg(u"*.ra1 " + SessionImport::othersPattern()) + u";;"
+            + tr("RA1 Files (*.ra1)") + u";;" + tr("All files (*)"));
     if (!files.isEmpty())
         m_import->start(files);
 }
@@ -424,6 +432,11 @@ void ZunoAnalyzer::openFile(const QString &path)
         tell(tr("\"%1\" is not there, or is no file.").arg(name));
         return;
     }
+    // What other loggers have written is shown and asked for by the import.
+    if (SessionImport::isOthers(clean)) {
+        m_import->start({clean});
+        return;
+    }
     // Displaying a file writes to it, so only files of the library are displayed.
     const auto answer
         = MessageBox::run(QMessageBox::Question, this, windowTitle(),
@@ -431,13 +444,6 @@ void ZunoAnalyzer::openFile(const QString &path)
                           QMessageBox::Yes | QMessageBox::No);
     if (answer != QMessageBox::Yes)
         return;
-    connect(
-        m_import, &SessionImport::finished, this,
-        [this](const ImportResult &result) {
-            if (m_library.find(result.path) != nullptr)
-                m_files->tree().select(result.path);
-        },
-        Qt::SingleShotConnection);
     m_import->start({clean});
 }
 

@@ -128,7 +128,7 @@ LibraryTree::LibraryTree(QTreeView &view, AcquisitionLibrary &library, const Set
 
 void LibraryTree::createFormats()
 {
-    m_formats->setIcon(QIcon(QStringLiteral(":/Resources/export.png")));
+    m_formats->setIcon(m_exportSession->icon());
     for (const RideFormat &format : rideFormats()) {
         const QString id = QString::fromLatin1(format.id);
         QAction *action = m_formats->addAction(QString::fromLatin1(format.name));

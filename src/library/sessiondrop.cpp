@@ -13,6 +13,7 @@
 #include <QWidget>
 
 #include <library/acquisitionlibrary.h>
+#include <library/sessionimport.h>
 
 namespace zuno {
 
@@ -20,8 +21,8 @@ namespace {
 
 bool isImportable(const QString &path)
 {
-    return path.endsWith(AcquisitionLibrary::Suffix, Qt::CaseInsensitive)
-           || QFileInfo(path).isDir();
+    return path.endsWith(AcquisitionLibrary::Suffix, Qt::CaseInsensitive) || QFileInfo(path).isDir()
+           || SessionImport::isOthers(path);
 }
 
 /// The files that are dragged; none when there is nothing to import among them.
@@ -60,7 +61,10 @@ bool SessionDrop::eventFilter(QObject *watched, QEvent *event)
     if (widget == nullptr || widget->window() != m_window)
         return false;
     auto &drop = *static_cast<QDropEvent *>(event);
-    const QStringList paths = draggedFiles(*drop.mimeData());
+    // Files are looked into, which is too much for each move.
+    if (event->type() != QEvent::DragMove)
+        m_dragged = draggedFiles(*drop.mimeData());
+    const QStringList paths = m_dragged;
     if (paths.isEmpty())
         return false;
     // A file manager removes what was moved, so it is a copy or nothing.

@@ -10,7 +10,7 @@ class QWidget;
 
 namespace zuno {
 
-/// Takes session files and folders that are dropped anywhere on a window, its text fields included,
+/// Takes recordings and folders that are dropped anywhere on a window, its text fields included,
 /// which would show the files' names otherwise. Whatever else is dragged goes its usual way.
 class SessionDrop final : public QObject
 {
@@ -20,7 +20,7 @@ public:
     explicit SessionDrop(QWidget *window);
 
 Q_SIGNALS:
-    /// Files and folders, one of them at least a folder or a session file by its name.
+    /// Files and folders, one of them at least a folder or a recording, of other loggers, too.
     void dropped(const QStringList &paths);
 
 protected:
@@ -28,6 +28,7 @@ protected:
 
 private:
     QWidget *m_window;
+    QStringList m_dragged;
 };
 
 } // namespace zuno

@@ -3,6 +3,9 @@
 
 #include <library/sessionimport.h>
 
+#include <algorithm>
+#include <array>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,6 +14,8 @@
 #include <QStatusBar>
 
 #include <base/settings.h>
+#include <formats/rideexport.h>
+#include <formats/ridereader.h>
 #include <library/acquisitionlibrary.h>
 #include <library/libraryfolder.h>
 #include <library/sessiondrop.h>
@@ -32,6 +37,17 @@ constexpr qint64 PieceSize = 1 << 16; // bytes
 
 // The result takes longer to read than other messages.
 constexpr int MessageTime = 20000; // ms
+
+// What other loggers call their files; whatever holds a recording is taken under any name.
+constexpr std::array OtherEndings {"vbo", "csv",  "rcz", "xrk", "log",
+                                   "sa",  "nmea", "gpx", "txt", "dovex"};
+
+bool holdsOthersRecording(const QString &path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
+           && findRideReader(file.peek(HeadSize)) != nullptr;
+}
 
 bool isSessionName(const QString &name)
 {
@@ -171,12 +187,33 @@ QString SessionImport::importedName(const QString &fileName)
     return name + AcquisitionLibrary::Suffix;
 }
 
+bool SessionImport::isOthers(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString ending = file.suffix().toLower();
+    const bool isNamedSo
+        = std::any_of(OtherEndings.begin(), OtherEndings.end(), [&ending](const char *other) {
+              return ending == QLatin1String(other) && ending != u"txt";
+          });
+    return !isSessionName(path) && file.isFile() && (isNamedSo || holdsOthersRecording(path));
+}
+
+QString SessionImport::othersPattern()
+{
+    QStringList patterns;
+    for (const char *ending : OtherEndings)
+        patterns.append(QStringLiteral("*.") + QLatin1String(ending));
+    return patterns.join(u' ');
+}
+
 void SessionImport::start(const QStringList &paths)
 {
     m_waiting += paths;
     if (m_turn.isActive())
         return;
     m_result = {};
+    m_newest = {};
+    m_others.clear();
     m_done = 0;
     if (!makeFolder()) {
         m_waiting.clear();
@@ -216,11 +253,17 @@ void SessionImport::step()
 void SessionImport::takeFolder(const QString &path)
 {
     QStringList found;
+    QStringList patterns = othersPattern().split(u' ');
+    patterns.append(u'*' + AcquisitionLibrary::Suffix);
     const QFileInfoList entries = QDir(path).entryInfoList(
-        {u'*' + AcquisitionLibrary::Suffix},
-        QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
-    for (const QFileInfo &entry : entries)
-        found.append(entry.filePath());
+        patterns, QDir::AllDirs | QDir::Files | QDir::NoDotAndDotDot | QDir::NoSymLinks,
+        QDir::Name);
+    for (const QFileInfo &entry : entries) {
+        // A table or a log of something else is nothing to tell of.
+        if (entry.isDir() || isSessionName(entry.fileName())
+            || holdsOthersRecording(entry.filePath()))
+            found.append(entry.filePath());
+    }
     m_waiting = found + m_waiting;
     const QStringList unreadable = unreadableNames(path);
     for (const QString &name : unreadable) {
@@ -235,6 +278,8 @@ void SessionImport::takeFile(const QString &path)
     const OpenedSession opened = openSession(path);
     if (opened.error == SessionFileError::Unreadable)
         m_result.failed.append(QFileInfo(path).fileName());
+    else if (!opened.session && isOthers(path))
+        m_others.append(path);
     else if (!opened.session || opened.session->sampleCount() == 0)
         m_result.foreign.append(QFileInfo(path).fileName());
     else
@@ -250,15 +295,25 @@ void SessionImport::takeSession(const QString &path, const Session &session)
         const QString target = numberedPath(m_folder, name, number);
         const QFileInfo present(target);
         if (!present.exists() && !present.isSymLink())
-            return place(path, target);
-        if (isBeginningOf(target, path) || isGrownCopy(target, path))
-            return replace(path, target);
-        if (isAlreadyIn(target, path, session.recording())) {
+            place(path, target);
+        else if (isBeginningOf(target, path) || isGrownCopy(target, path))
+            replace(path, target);
+        else if (isAlreadyIn(target, path, session.recording()))
             ++m_result.present;
-            m_result.path = target;
-            return;
-        }
+        else
+            continue;
+        note(target, session.recording());
+        return;
     }
+}
+
+void SessionImport::note(const QString &target, const Recording &recording)
+{
+    const QDateTime begin = recordingBegin(recording.date, recording.time);
+    if (m_library.find(target) == nullptr || (!m_result.path.isEmpty() && begin < m_newest))
+        return;
+    m_result.path = target;
+    m_newest = begin;
 }
 
 void SessionImport::place(const QString &path, const QString &target)
@@ -273,7 +328,6 @@ void SessionImport::place(const QString &path, const QString &target)
         m_result.foreign.append(name);
     } else {
         ++m_result.imported;
-        m_result.path = target;
         if (placed != importedName(name))
             m_result.renamed.append(QStringLiteral("%1 (%2)").arg(name, placed));
     }
@@ -288,7 +342,6 @@ void SessionImport::replace(const QString &path, const QString &target)
     if (!m_library.refresh(target))
         m_library.add(target, "importSession");
     ++m_result.imported;
-    m_result.path = target;
 }
 
 void SessionImport::showProgress()
@@ -311,6 +364,7 @@ void SessionImport::showProgress()
 void SessionImport::cancel()
 {
     m_waiting.clear();
+    m_others.clear();
     m_result.isCancelled = true;
 }
 
@@ -322,7 +376,12 @@ void SessionImport::finish()
         m_progress->deleteLater();
         m_progress = nullptr;
     }
-    Q_EMIT finished(m_result);
+    const QStringList others = std::exchange(m_others, {});
+    const bool isOnlyOthers = !others.isEmpty() && m_done == others.size();
+    if (!isOnlyOthers)
+        Q_EMIT finished(m_result);
+    if (!others.isEmpty())
+        Q_EMIT othersFound(others);
 }
 
 } // namespace zuno

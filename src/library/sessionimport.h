@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
@@ -18,6 +19,7 @@ namespace zuno {
 
 class AcquisitionLibrary;
 class DownloadInProgress;
+struct Recording;
 class Session;
 class Settings;
 
@@ -45,7 +47,7 @@ public:
     QStringList renamed;
     /// Names of files that could not be copied.
     QStringList failed;
-    /// Where the recording that was handled last stands in the library.
+    /// Where the newest of the recordings that were handled stands in the library.
     QString path;
     /// Why nothing could be imported; empty otherwise.
     QString problem;
@@ -58,6 +60,9 @@ public:
 /// when it is the beginning of the same recording, as a copy is that was broken off; another
 /// recording of the same name gets a number.
 ///
+/// Files of other loggers are only found, for somebody else to import: those whose content or name
+/// tells that they may be recordings.
+///
 /// What is dropped on the window is imported as well. A few files are copied at each turn of the
 /// event loop. A long import shows a window with its progress, which can cancel it; what was copied
 /// until then stays.
@@ -69,15 +74,21 @@ public:
     /// @p window takes the drops and is the parent of the progress window.
     SessionImport(AcquisitionLibrary &library, const Settings &settings, QWidget *window);
 
-    /// Begins to import files, in their order; of a folder, all session files at any depth. What
-    /// is given while an import runs is appended to it.
+    /// Begins to import files, in their order; of a folder, all recordings at any depth. What is
+    /// given while an import runs is appended to it.
     void start(const QStringList &paths);
     /// The name that a file gets in the library, which only looks for those that end in ".ra1" and
     /// are not hidden.
     [[nodiscard]] static QString importedName(const QString &fileName);
+    /// Whether the file may be a recording of another logger, by its content or its name.
+    [[nodiscard]] static bool isOthers(const QString &path);
+    /// The endings of other loggers' files, as a file dialog wants them: "*.vbo *.csv ...".
+    [[nodiscard]] static QString othersPattern();
 
 Q_SIGNALS:
     void finished(const zuno::ImportResult &result);
+    /// There were files of other loggers among those to import.
+    void othersFound(const QStringList &paths);
 
 private:
     void step();
@@ -88,6 +99,7 @@ private:
     void replace(const QString &path, const QString &target);
     [[nodiscard]] bool makeFolder();
     void showProgress();
+    void note(const QString &target, const Recording &recording);
     void cancel();
     void finish();
 
@@ -100,6 +112,9 @@ private:
     QStringList m_waiting;
     qsizetype m_done = 0;
     ImportResult m_result;
+    /// When the recording at the result's path began.
+    QDateTime m_newest;
+    QStringList m_others;
     QPointer<DownloadInProgress> m_progress;
 };
 

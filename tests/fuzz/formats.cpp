@@ -9,6 +9,8 @@
 
 #include <formats/convert/rideconverter.h>
 #include <formats/ridereader.h>
+#include <formats/table/tablereader.h>
+#include <formats/table/valueguess.h>
 
 #include "check.h"
 
@@ -30,6 +32,17 @@ void checkRide(const ConvertedRide &ride)
     }
 }
 
+// A table whose columns are proposed to the rider by their values.
+void readGuessed(QIODevice &device, RideFacts &facts, RowSink &sink)
+{
+    const auto sheet = findSheet(device.peek(HeadSize));
+    if (!sheet)
+        return;
+    ColumnMapping mapping = guessColumns(sheet->heading, sheet->rows);
+    guessByValues(mapping, sheet->rows);
+    (void)readSheet(device, facts, sink, *sheet, mapping);
+}
+
 } // namespace
 
 // NOLINTNEXTLINE(readability-identifier-naming): the fuzzer calls it so
@@ -38,12 +51,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
-    const RideReader *reader = findRideReader(buffer.peek(HeadSize));
-    if (reader == nullptr)
-        return 0;
     RideFacts facts;
     RideConverter converter(facts, [](ConvertedRide &&ride) { checkRide(ride); });
-    (void)reader->read(buffer, facts, converter);
+    if (const RideReader *reader = findRideReader(buffer.peek(HeadSize)))
+        (void)reader->read(buffer, facts, converter);
+    else
+        readGuessed(buffer, facts, converter);
     converter.finish();
     return 0;
 }

@@ -10,8 +10,15 @@
 #include <QTabWidget>
 #include <QTreeView>
 
+#include <base/settings.h>
+#include <base/wholefile.h>
+#include <formats/sessionride.h>
+#include <library/columndialog.h>
+#include <library/columnmemory.h>
 #include <library/librarytree.h>
 #include <maps/editor/mapmaker.h>
+#include <session/session.h>
+#include <session/sessionfile.h>
 #include <tools/pictures/stage.h>
 #include <widgets/downloadinprogress.h>
 
@@ -112,6 +119,32 @@ void openFromCard(Stage &stage)
     stage.window().openFile(card);
 }
 
+// A session of the library as another program writes it; without maps of its own it is known.
+QString othersFile(Stage &stage, const char *formatId)
+{
+    const OpenedSession opened = openSession(stage.session(QStringLiteral("2026-07-12 09h27")));
+    const RideFormat *format = findRideFormat(QString::fromLatin1(formatId));
+    QString path = QDir::tempPath() + QStringLiteral("/ride.") + QString::fromLatin1(formatId);
+    (void)writeWholeFile(path, format->write(rideOf(*opened.session)));
+    return path;
+}
+
+void openOthersFile(Stage &stage)
+{
+    stage.window().openFile(othersFile(stage, "vbo"));
+    // Files are read on a thread of their own.
+    stage.settle();
+}
+
+void openColumns(Stage &stage)
+{
+    const zuno::Settings settings(zuno::Settings::defaultRoot());
+    auto *dialog
+        = new ColumnDialog(othersFile(stage, "csv"), ColumnMemory(settings), &stage.window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
 /// How to open each window that is not the main one; it is closed again by whoever looks at it.
 struct Window
 {
@@ -135,6 +168,8 @@ constexpr Window Windows[] {
          stage.object<LibraryTree>().createFolder();
      }},
     {"import", openFromCard},
+    {"import-others", openOthersFile},
+    {"columns", openColumns},
 };
 
 } // namespace
