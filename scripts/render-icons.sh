@@ -74,7 +74,7 @@ for source in Resources/svg/*.svg; do
 done
 png Resources/svg/norvale.svg Resources/Logo_blanc_Norvale_2020
 # Those of menus, tree and windows; the page has its own.
-for name in check compare compute cross database databaseGreen export invalidate rename sun; do
+for name in check compare compute cross database databaseGreen export import invalidate rename sun; do
     light "Resources/svg/$name.svg"
     png "$scratch/light.svg" "Resources/light/$name"
 done

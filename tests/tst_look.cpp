@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDirIterator>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -114,6 +115,38 @@ private Q_SLOTS:
         for (const char *key : {"Ctrl+I", "Ctrl+L", "Ctrl+/, ?", "F1", "F2", "Del", "V", "Ctrl+E"})
             QVERIFY2(keys.contains(QString::fromLatin1(key)), key);
         QCOMPARE(keys.count(u"Ctrl+I"_s), 1);
+    }
+
+    // From an empty library: there with one click, gone with another, and nothing else with them.
+    void demo()
+    {
+        m_home = std::make_unique<Home>();
+        m_home->startedBefore();
+        m_window = std::make_unique<Window>();
+        QVERIFY(m_window->open());
+        QVERIFY(child<QWidget>(m_window->main, "emptyPage").isVisible());
+        QVERIFY(!child<QWidget>(m_window->main, "demoStrip").isVisible());
+        m_window->part<QPushButton>("pb_demo").click();
+        QVERIFY(!child<QWidget>(m_window->main, "emptyPage").isVisible());
+        QVERIFY(m_window->laps() > 3);
+        const QString folder = m_home->path(u"Demo"_s);
+        QDirIterator files(folder, {u"*.ra1"_s}, QDir::Files, QDirIterator::Subdirectories);
+        QVERIFY(files.hasNext());
+        const QByteArray recording = contents(files.next());
+        const QString own = folder + u"/own.ra1"_s;
+        const QString ownMap = m_home->map(u"Valmora.map"_s);
+        putFile(own, recording);
+        putFile(ownMap, contents(ownMap) + "x");
+        const QString replaced = files.next();
+        putFile(replaced, QByteArray(contents(replaced)).replace(40, 1, "x"));
+        m_window->part<QToolButton>("tb_removeDemo").click();
+        QVERIFY(QFile::remove(replaced) && QDir().rmdir(QFileInfo(replaced).path()));
+        QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 QStringList {u"own.ra1"_s});
+        QCOMPARE(QDir(m_home->map({})).entryList(QDir::Files), QStringList {u"Valmora.map"_s});
+        QVERIFY(QFile::remove(own));
+        QTRY_VERIFY(child<QWidget>(m_window->main, "emptyPage").isVisible());
+        QVERIFY(!child<QWidget>(m_window->main, "demoStrip").isVisible());
     }
 
     void chartTakesItsKeys()

@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTest::newRow("under the mouse") << QList {Text} << QList {Hover} << 4.5;
         QTest::newRow("numbers in the laps' colours")
             << QList {Lap1, Lap2, Gain, Loss} << QList {Window, Pane, Card} << 4.5;
-        QTest::newRow("chosen") << QList {ChosenText} << QList {Chosen} << 4.5;
+        QTest::newRow("chosen") << QList {ChosenText} << QList {Chosen, AccentHover} << 4.5;
         QTest::newRow("tip") << QList {ToolTipText} << QList {ToolTip} << 4.5;
         QTest::newRow("best lap") << QList {BestLapText} << QList {BestLap} << 4.5;
         QTest::newRow("best section") << QList {BestSectionText} << QList {BestSection} << 4.5;

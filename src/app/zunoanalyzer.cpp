@@ -5,6 +5,9 @@
 
 #include "ui_zunoanalyzer.h"
 
+#include <algorithm>
+
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -16,6 +19,8 @@
 
 #include <app/aboutwidget.h>
 #include <app/configurationwidget.h>
+#include <app/demosessions.h>
+#include <app/emptypage.h>
 #include <app/help.h>
 #include <app/keysheet.h>
 #include <app/themebutton.h>
@@ -73,6 +78,8 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     m_laps = new LapsPane(m_selection, m_settings, this);
     m_map = new MapPane(this);
     connect(m_laps, &LapsPane::folderWanted, this, &ZunoAnalyzer::chooseFolder);
+    m_empty = new EmptyPage(this);
+    m_empty->hide();
     createActions();
     m_infos = new SessionInfos(m_writer, m_language, this);
     m_charts = new LapCharts(m_selection, m_settings, this);
@@ -140,6 +147,10 @@ void ZunoAnalyzer::arrangePanes()
     m_ui->tabWidget->addTab(m_ui->splitter1, tr("Maps and Laps  "));
     m_ui->tabWidget->addTab(m_infos, tr(" Session infos  "));
     m_ui->tabWidget->setCurrentIndex(0);
+    m_lapsPage = m_ui->tabWidget->widget(0);
+    connect(m_empty, &EmptyPage::importWanted, this, &ZunoAnalyzer::importSession);
+    connect(m_empty, &EmptyPage::demoWanted, this, &ZunoAnalyzer::loadDemo);
+    connect(m_files, &LibraryPane::demoRemovalWanted, this, &ZunoAnalyzer::removeDemo);
     connect(m_ui->tabWidget, &QTabWidget::currentChanged, m_infos, &SessionInfos::onTabChanged);
     m_ui->splitter3->insertWidget(0, m_files);
     m_ui->splitter3->setStretchFactor(1, 1);
@@ -571,6 +582,7 @@ void ZunoAnalyzer::showSession(Session *session)
     // The pass displays every session; the last one is shown when it is over.
     if (m_isUpgrading)
         return;
+    showEmptyPage(false);
     m_map->view().centerMap(session->map());
     m_selection.setSession(session);
     m_laps->showSession();
@@ -583,8 +595,57 @@ void ZunoAnalyzer::showSession(Session *session)
 void ZunoAnalyzer::showState(const QString &text)
 {
     const Session *session = m_display.session();
+    showEmptyPage(m_library.size() == 0 && m_files->tree().isShown());
     m_laps->showState(text, session != nullptr && session->sampleCount() > 0,
                       !m_files->tree().isShown());
+}
+
+// In the place of laps, map and charts, which have nothing to show.
+void ZunoAnalyzer::showEmptyPage(bool isShown)
+{
+    QTabWidget *tabs = m_ui->tabWidget;
+    QWidget *page = isShown ? m_empty : m_lapsPage;
+    m_files->showDemo(DemoSessions(m_settings).areThere());
+    if (m_lapsPage == nullptr || tabs->widget(0) == page)
+        return;
+    m_empty->showFolder(m_settings.acquisitionFolder());
+    const QString title = tabs->tabText(0);
+    const int current = tabs->currentIndex();
+    tabs->removeTab(0);
+    tabs->insertTab(0, page, title);
+    tabs->setCurrentIndex(current);
+}
+
+void ZunoAnalyzer::loadDemo()
+{
+    const DemoSessions demo(m_settings);
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString problem = demo.load();
+    reloadMaps();
+    openSessionsFolder(m_settings.acquisitionFolder());
+    QApplication::restoreOverrideCursor();
+    if (!problem.isEmpty())
+        tell(problem);
+    // The newest of them, by its name.
+    QStringList files;
+    const QList<Session *> sessions = m_library.sessions();
+    for (const Session *session : sessions) {
+        if (session->filePath().startsWith(demo.folder() + u'/'))
+            files.append(session->filePath());
+    }
+    if (!files.isEmpty())
+        m_files->tree().select(*std::max_element(files.cbegin(), files.cend()));
+}
+
+void ZunoAnalyzer::removeDemo()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const int left = DemoSessions(m_settings).remove();
+    openSessionsFolder(m_settings.acquisitionFolder());
+    reloadMaps();
+    QApplication::restoreOverrideCursor();
+    if (left > 0)
+        tell(tr("Demo files that could not be removed: %1").arg(left));
 }
 
 void ZunoAnalyzer::showNothing()

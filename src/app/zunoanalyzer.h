@@ -21,6 +21,7 @@ class QSplitter;
 
 namespace zuno {
 
+class EmptyPage;
 class LapCharts;
 class LapsPane;
 class LibraryPane;
@@ -104,6 +105,9 @@ private:
     void chooseFolder();
     void openSessionsFolder(const QString &folder);
     void offerRestart();
+    void showEmptyPage(bool isShown);
+    void loadDemo();
+    void removeDemo();
     void onFolderChanged();
     void showSession(Session *session);
     void showState(const QString &text);
@@ -126,6 +130,9 @@ private:
     LapSelection m_selection;
     SessionDisplay m_display;
     LapsPane *m_laps = nullptr;
+    EmptyPage *m_empty = nullptr;
+    /// What stands in the first tab once there are sessions.
+    QWidget *m_lapsPage = nullptr;
     LapCharts *m_charts = nullptr;
     LibraryPane *m_files = nullptr;
     MapMaker *m_mapMaker = nullptr;

@@ -14,6 +14,7 @@ LibraryPane::LibraryPane(AcquisitionLibrary &library, const Settings &settings, 
     , m_ui(std::make_unique<Ui::LibraryPane>())
 {
     m_ui->setupUi(this);
+    connect(m_ui->tb_removeDemo, &QToolButton::clicked, this, &LibraryPane::demoRemovalWanted);
     m_tree = new LibraryTree(*m_ui->tw_arbo, library, settings);
 }
 
@@ -21,6 +22,11 @@ LibraryPane::LibraryPane(AcquisitionLibrary &library, const Settings &settings, 
 LibraryPane::~LibraryPane()
 {
     delete m_tree;
+}
+
+void LibraryPane::showDemo(bool isThere)
+{
+    m_ui->demoStrip->setVisible(isThere);
 }
 
 QTreeView *LibraryPane::view() const

@@ -31,6 +31,11 @@ public:
 
     [[nodiscard]] LibraryTree &tree() { return *m_tree; }
     [[nodiscard]] QTreeView *view() const;
+    /// Says above the tree that demo sessions are in it, with a button that takes them away.
+    void showDemo(bool isThere);
+
+Q_SIGNALS:
+    void demoRemovalWanted();
 
 private:
     std::unique_ptr<Ui::LibraryPane> m_ui;

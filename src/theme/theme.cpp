@@ -38,6 +38,7 @@ constexpr std::array<Entry, ColourCount> Table {{
     {Colour::FaintEdge, u"faintEdge", 0xff33414c, 0xffcdd5dc},
     {Colour::Focus, u"focus", 0xff7cc4ff, 0xff0b62c4},
     {Colour::Accent, u"accent", 0xff1f8ad8, 0xff0b62c4},
+    {Colour::AccentHover, u"accentHover", 0xff1d74b6, 0xff0a55aa},
     {Colour::Chosen, u"chosen", 0xff1464a1, 0xff0b62c4},
     {Colour::ChosenText, u"chosenText", 0xffffffff, 0xffffffff},
     {Colour::Sign, u"sign", 0xffd5dfe8, 0xff33414d},

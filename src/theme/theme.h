@@ -36,6 +36,7 @@ enum class Colour {
     // The keyboard focus, what is chosen or pressed, and the stroke of small signs.
     Focus,
     Accent,
+    AccentHover,
     Chosen,
     ChosenText,
     Sign,
