@@ -136,6 +136,18 @@ private Q_SLOTS:
                  u"1 0-440 bx; 2 440-3940 cx; 3 3940-7440 cx; 4 7440-7900"_s);
     }
 
+    // A clock that stood still: the first lap stands in for the best one, but none is stored.
+    void withoutTime()
+    {
+        Points points = ride(u"-20..20/10"_s);
+        for (PointAcquisition &point : points)
+            point.dataTimeStamp = 7;
+        const Cut cut(points, 10, 680);
+        QCOMPARE(lapsText(*cut.session), u"1 7-7 b; 2 7-7"_s);
+        QCOMPARE(cut.session->bestLapText(), QString());
+        QCOMPARE(cut.session->state().information.bestLapText, StoredText());
+    }
+
     // Laps as "2t 500": counted twice (t), not ranked (-), the cumulated time; then the ideal time.
     void countedTwice()
     {

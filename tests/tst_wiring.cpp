@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <csignal>
 #include <functional>
 
 #include <QApplication>
@@ -10,10 +11,13 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <QWebEngineView>
 
+#include <app/ending.h>
 #include <library/exportdialogs.h>
 #include <maps/editor/mapeditor.h>
 #include <maps/page/mapwebpage.h>
@@ -68,6 +72,16 @@ struct Paddock
         table().selectRow(row);
         table().setFocus();
         QTest::keyClick(&table(), Qt::Key_C);
+    }
+
+    /// Types into the notes and does not leave them.
+    void typeNotes() const
+    {
+        window->part<QTabWidget>("tabWidget").setCurrentIndex(1);
+        auto &notes = window->part<QTextEdit>("te_infos");
+        notes.setFocus();
+        notes.selectAll();
+        QTest::keyClicks(&notes, u"typed"_s);
     }
 
     Home home {{AtValmora, LauraAgain, AtHaidemoor}, {u"Valmora.map"_s, u"Haidemoor.map"_s}};
@@ -236,6 +250,38 @@ private Q_SLOTS:
         again.click();
         QTRY_VERIFY(!started.isEmpty());
         QVERIFY(view->isVisible() && !again.isVisible());
+    }
+
+    // The system ends the program while somebody types: the line is in the file.
+    void ending()
+    {
+        const Paddock paddock;
+        const Ending ending;
+        connect(&ending, &Ending::imminent, &paddock.window->main, &ZunoAnalyzer::commit);
+        paddock.typeNotes();
+        QTimer::singleShot(0, qApp, [] { (void)std::raise(SIGTERM); });
+        QCOMPARE(QApplication::exec(), 128 + SIGTERM);
+        QCOMPARE(openSession(paddock.home.path(AtValmora)).session->notes(), u"typed"_s);
+    }
+
+    // What cannot be written is asked for before the window closes.
+    void unsaved()
+    {
+        const Paddock paddock;
+        QMainWindow &window = paddock.window->main;
+        paddock.typeNotes();
+        putFile(paddock.home.path(AtValmora), demoFile(LauraAgain));
+        onDialog([](QWidget &dialog) { qobject_cast<QMessageBox *>(&dialog)->reject(); });
+        QVERIFY(!window.close() && window.isVisible());
+        onDialog([](QWidget &dialog) {
+            const auto buttons = dialog.findChildren<QPushButton *>();
+            for (QPushButton *button : buttons) {
+                if (button->text() == u"Close without saving")
+                    button->click();
+            }
+        });
+        QVERIFY(window.close());
+        QCOMPARE(contents(paddock.home.path(AtValmora)), demoFile(LauraAgain));
     }
 
     void mapEditor_data()

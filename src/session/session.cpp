@@ -106,7 +106,8 @@ StoredText Session::bestLapStored() const
 {
     if (laps().empty())
         return m_information.bestLapText;
-    return StoredText(laps()[static_cast<std::size_t>(m_results.bestLap)]->timeText());
+    const Lap &lap = *laps()[static_cast<std::size_t>(m_results.bestLap)];
+    return lap.lapTime() > 0 ? StoredText(lap.timeText()) : StoredText();
 }
 
 StoredText Session::idealTimeStored() const
