@@ -482,10 +482,11 @@ void ZunoAnalyzer::openSettings()
 // The language is that of the whole run; texts that are shown already would stay in the other one.
 void ZunoAnalyzer::offerRestart()
 {
-    const auto answer = QMessageBox::question(
-        this, windowTitle(),
+    const auto answer = MessageBox::run(
+        QMessageBox::Question, this, windowTitle(),
         tr("The other language is there when the program starts again. Do you want to start it "
-           "again now?"));
+           "again now?"),
+        QMessageBox::Yes | QMessageBox::No);
     if (answer == QMessageBox::Yes && close())
         QProcess::startDetached(QCoreApplication::applicationFilePath(), {});
 }

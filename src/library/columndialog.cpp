@@ -59,6 +59,7 @@ ColumnDialog::ColumnDialog(const QString &path, const ColumnMemory &memory, QWid
     setObjectName(QStringLiteral("ColumnDialog"));
     setWindowTitle(tr("Columns of %1").arg(QFileInfo(path).fileName()));
     setWindowIcon(QIcon(QStringLiteral(":/Resources/Logos/logo.ico")));
+    m_state->setTextFormat(Qt::PlainText);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     m_accept = buttons->button(QDialogButtonBox::Ok);
     m_table->setObjectName(QStringLiteral("tw_columns"));

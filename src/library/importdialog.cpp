@@ -44,7 +44,9 @@ ImportDialog::ImportDialog(const MapLibrary &maps, const Settings &settings, QWi
     auto *introduction
         = new QLabel(tr("Sessions are made of these recordings; the files themselves "
                         "stay as they are."));
+    introduction->setTextFormat(Qt::PlainText);
     introduction->setWordWrap(true);
+    m_state->setTextFormat(Qt::PlainText);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(introduction);
     layout->addWidget(m_table);

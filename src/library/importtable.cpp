@@ -17,6 +17,7 @@
 #include <session/sessionfile.h>
 #include <track/map.h>
 #include <track/mapfile.h>
+#include <widgets/plaintexts.h>
 
 namespace zuno {
 
@@ -87,7 +88,7 @@ QTreeWidgetItem *ImportTable::addLine(int row, const QString &path, const Import
 {
     auto *item = new QTreeWidgetItem;
     item->setText(File, QFileInfo(path).fileName());
-    item->setToolTip(File, path);
+    item->setToolTip(File, plainToolTip(path));
     item->setData(File, OriginalRole, path);
     item->setData(File, TableRole, outcome.isTable);
     if (outcome.reader != nullptr)
@@ -115,7 +116,7 @@ void ImportTable::describe(QTreeWidgetItem &item, const ImportedSession &session
     if (!expected.hasMap)
         remarks.append(tr("no map of this circuit"));
     item.setText(Remarks, remarks.join(QStringLiteral("; ")));
-    item.setToolTip(Remarks, remarks.join(u'\n'));
+    item.setToolTip(Remarks, plainToolTip(remarks.join(u'\n')));
 }
 
 void ImportTable::showOutcome(const QString &path, const ImportOutcome &outcome,
@@ -137,7 +138,7 @@ void ImportTable::showOutcome(const QString &path, const ImportOutcome &outcome,
         else if (outcome.isTable)
             reason = tr("%1; say what its columns are").arg(reason);
         first->setText(Remarks, reason);
-        first->setToolTip(Remarks, reason);
+        first->setToolTip(Remarks, plainToolTip(reason));
         first->setIcon(File, style()->standardIcon(QStyle::SP_MessageBoxWarning));
     }
     if (currentItem() == nullptr || (outcome.isTable && outcome.sessions.empty()))
