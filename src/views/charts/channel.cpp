@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include <theme/shownunits.h>
+
 namespace zuno {
 
 namespace {
@@ -87,21 +89,38 @@ QString Channel::missingText() const
     return translated(missing);
 }
 
-QString Channel::titleText() const
+QString Channel::unitText() const
 {
-    return QStringLiteral("%1 (%2)").arg(translated(name), translated(unit));
+    return isSpeed ? units().speedName() : translated(unit);
 }
 
-QString Channel::valueText(double value, bool isDifference) const
+QString Channel::titleText() const
+{
+    return QStringLiteral("%1 (%2)").arg(translated(name), unitText());
+}
+
+double Channel::shownValue(double value) const
+{
+    return isSpeed ? units().speed(value) : value;
+}
+
+QString Channel::numberText(double value) const
 {
     if (!std::isfinite(value))
         return QStringLiteral("\u2013");
     // A value that is written as zero has no sign.
     const double power = std::pow(10.0, decimals);
-    const double rounded = std::round(value * power) / power + 0.0;
-    const QString number = QLocale().toString(rounded, 'f', decimals);
-    const bool needsPlus = isDifference && rounded > 0;
-    return (needsPlus ? QStringLiteral("+") : QString()) + number + u' ' + translated(unit);
+    const double rounded = std::round(shownValue(value) * power) / power + 0.0;
+    return QLocale().toString(rounded, 'f', decimals);
+}
+
+QString Channel::valueText(double value, bool isDifference) const
+{
+    if (!std::isfinite(value))
+        return numberText(value);
+    const double least = 0.5 / std::pow(10.0, decimals);
+    const bool needsPlus = isDifference && shownValue(value) >= least;
+    return (needsPlus ? QStringLiteral("+") : QString()) + numberText(value) + u' ' + unitText();
 }
 
 const std::array<Channel, ChannelCount> &channels()
@@ -111,15 +130,15 @@ const std::array<Channel, ChannelCount> &channels()
                  QT_TRANSLATE_NOOP("Channel", "km/h"),
                  QT_TRANSLATE_NOOP("Channel", "This recording holds no speed."),
                  1,
-                 QColor(0x7f, 0xc8, 0xff),
                  {80, 120},
                  {0, 399},
-                 readSpeed},
+                 readSpeed,
+                 nullptr,
+                 true},
         Channel {QT_TRANSLATE_NOOP("Channel", "Lean angle, left below 0"),
                  QT_TRANSLATE_NOOP("Channel", "\u00b0"),
                  QT_TRANSLATE_NOOP("Channel", "This recording holds no lean angle."),
                  1,
-                 QColor(0xff, 0xc8, 0x6b),
                  {-20, 20},
                  {-90, 90},
                  readAngle},
@@ -127,7 +146,6 @@ const std::array<Channel, ChannelCount> &channels()
                  QT_TRANSLATE_NOOP("Channel", "G"),
                  QT_TRANSLATE_NOOP("Channel", "This recording holds no acceleration."),
                  2,
-                 QColor(0xd9, 0xa6, 0xff),
                  {-0.5, 0.5},
                  {-2, 2},
                  readAcceleration},
@@ -135,7 +153,6 @@ const std::array<Channel, ChannelCount> &channels()
                  QT_TRANSLATE_NOOP("Channel", "mm"),
                  QT_TRANSLATE_NOOP("Channel", "This recording holds no front suspension."),
                  1,
-                 QColor(0x6f, 0xe0, 0xc8),
                  {0, 10},
                  {-1000, 1000},
                  readMean<&PointAcquisition::suspension1>,
@@ -144,7 +161,6 @@ const std::array<Channel, ChannelCount> &channels()
                  QT_TRANSLATE_NOOP("Channel", "mm"),
                  QT_TRANSLATE_NOOP("Channel", "This recording holds no rear suspension."),
                  1,
-                 QColor(0xff, 0x9f, 0xc0),
                  {0, 10},
                  {-1000, 1000},
                  readMean<&PointAcquisition::suspension2>,
@@ -159,7 +175,6 @@ const Channel &gapChannel()
                               QT_TRANSLATE_NOOP("Channel", "s"),
                               nullptr,
                               3,
-                              QColor(0xff, 0xff, 0xff),
                               {-0.1, 0.1},
                               {-86400, 86400},
                               nullptr};

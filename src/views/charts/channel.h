@@ -7,8 +7,6 @@
 #include <cstddef>
 #include <span>
 
-#include <QColor>
-
 #include <session/recording/pointacquisition.h>
 #include <views/charts/chartaxis.h>
 
@@ -30,15 +28,15 @@ struct Channel
     /// Why a recording may not have it, for the rider.
     const char *missing = nullptr;
     int decimals = 0;
-    /// Of its title. The curves have the colours of the laps.
-    QColor colour;
-    /// The values that a chart shows at least.
+    /// The values of a chart that has none; it never shows less than so many.
     AxisRange shown;
     /// Values outside cannot have been ridden; they count as none.
     AxisRange possible;
     double (*read)(const PointAcquisition &) = nullptr;
     /// The lowest and the highest within a sample; nullptr for a channel with one value a sample.
     ValueRange (*readRange)(const PointAcquisition &) = nullptr;
+    /// Whether its values are km/h, which are shown in the rider's unit.
+    bool isSpeed = false;
 
     /// The value of a sample; not a number when it has none.
     [[nodiscard]] double value(const PointAcquisition &point) const;
@@ -47,8 +45,13 @@ struct Channel
     [[nodiscard]] bool isIn(std::span<const PointAcquisition> points) const;
     [[nodiscard]] QString nameText() const;
     [[nodiscard]] QString missingText() const;
+    [[nodiscard]] QString unitText() const;
     /// With its unit, for the title of a chart.
     [[nodiscard]] QString titleText() const;
+    /// A value in the unit that the rider reads.
+    [[nodiscard]] double shownValue(double value) const;
+    /// The same as a number with the channel's decimals; a dash for what is none.
+    [[nodiscard]] QString numberText(double value) const;
     /// @p value with its decimals and the unit; a dash for what is not a number. @p isDifference
     /// writes the sign of positive values as well.
     [[nodiscard]] QString valueText(double value, bool isDifference = false) const;

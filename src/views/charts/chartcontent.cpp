@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 
+#include <views/charts/chartcolours.h>
 #include <views/charts/chartstate.h>
 
 namespace zuno {
@@ -60,36 +61,33 @@ std::vector<double> picked(const std::vector<double> &values, const std::vector<
     return result;
 }
 
-Curve curveOf(const Channel &channel, const LapTrack &track, AxisKind axis, const QColor &colour)
+Curve curveOf(const Channel &channel, const LapTrack &track, AxisKind axis, std::size_t lap)
 {
     Values read = valuesOf(channel, track);
-    return {colour, track.places(axis), std::move(read.values), std::move(read.lows),
+    return {lap, track.places(axis), std::move(read.values), std::move(read.lows),
             std::move(read.highs)};
 }
 
-Curve secondCurve(const Channel &channel, const ChartState &state)
+// Against distance at the places of the first lap.
+Curve comparedCurve(const Channel &channel, const ChartState &state, const LapTrack &track,
+                    const LapComparison &comparison, std::size_t lap)
 {
     if (state.axis() == AxisKind::Time)
-        return curveOf(channel, *state.second(), AxisKind::Time, secondLapColour());
-    const std::vector<double> &positions = state.comparison()->positions(AxisKind::Distance);
-    const Values read = valuesOf(channel, *state.second());
-    return {secondLapColour(), state.first()->places(AxisKind::Distance),
-            picked(read.values, positions), picked(read.lows, positions),
-            picked(read.highs, positions)};
+        return curveOf(channel, track, AxisKind::Time, lap);
+    const std::vector<double> &positions = comparison.positions(AxisKind::Distance);
+    const Values read = valuesOf(channel, track);
+    return {lap, state.first()->places(AxisKind::Distance), picked(read.values, positions),
+            picked(read.lows, positions), picked(read.highs, positions)};
 }
 
-AxisRange rangeOf(const AxisRange &least, const std::vector<Curve> &curves)
+double valueAt(const Channel &channel, const LapTrack &track, double position)
 {
-    AxisRange range = least;
-    for (const Curve &curve : curves) {
-        for (const auto *values : {&curve.values, &curve.lows, &curve.highs}) {
-            for (const double value : *values) {
-                if (!std::isnan(value))
-                    range = range.united({value, value});
-            }
-        }
-    }
-    return range;
+    if (std::isnan(position))
+        return None;
+    const auto before = static_cast<std::size_t>(position);
+    const std::size_t after = std::min(before + 1, track.size() - 1);
+    const std::array around {valueOf(channel, track, before), valueOf(channel, track, after)};
+    return valueAtPosition(around, position - std::floor(position));
 }
 
 } // namespace
@@ -101,36 +99,48 @@ double Curve::valueAt(double place) const
     return valueAtPosition(values, positionAmong(places, place));
 }
 
-QColor firstLapColour()
+AxisRange fittedRange(const ChartContent &content, const std::optional<AxisRange> &seen)
 {
-    return {0x00, 0xff, 0x00};
-}
-
-QColor secondLapColour()
-{
-    return {0xff, 0x00, 0x00};
+    // So that no line runs along the edge.
+    constexpr double Margin = 0.07;
+    if (!seen)
+        return content.least.widened(Margin);
+    // Who is ahead shows only beside the line of those who are level.
+    AxisRange range = content.isGap ? seen->united({0.0, 0.0}) : *seen;
+    const double lacking = content.least.span() - range.span();
+    if (lacking > 0)
+        range = {range.from - (lacking / 2), range.to + (lacking / 2)};
+    return range.widened(Margin);
 }
 
 ChartContent contentOf(const Channel &channel, const ChartState &state)
 {
-    ChartContent content {channel.titleText(), channel.colour, channel.shown, {}};
+    ChartContent content {channel.titleText(), channel.shown, {}};
+    content.hasActs = channel.isSpeed;
+    content.unit = channel.shownValue(1.0);
+    for (std::size_t i = state.others().size(); i-- > 0;) {
+        const OtherLap &other = state.others()[i];
+        content.curves.push_back(
+            comparedCurve(channel, state, other.track, other.comparison, i + 2));
+    }
     if (state.second() != nullptr)
-        content.curves.push_back(secondCurve(channel, state));
+        content.curves.push_back(
+            comparedCurve(channel, state, *state.second(), *state.comparison(), 1));
     if (state.first() != nullptr)
-        content.curves.push_back(curveOf(channel, *state.first(), state.axis(), firstLapColour()));
-    content.range = rangeOf(channel.shown, content.curves);
+        content.curves.push_back(curveOf(channel, *state.first(), state.axis(), 0));
     return content;
 }
 
 ChartContent gapContent(const ChartState &state)
 {
     const Channel &channel = gapChannel();
-    ChartContent content {channel.titleText(), channel.colour, channel.shown, {}};
+    ChartContent content {channel.titleText(), channel.shown, {}};
+    content.isGap = true;
     if (state.comparison() != nullptr) {
-        content.curves.push_back(
-            {channel.colour, state.first()->places(state.axis()), state.comparison()->gaps()});
+        const std::vector<double> &gaps = state.comparison()->gaps();
+        content.curves.push_back({0, state.first()->places(state.axis()), gaps});
+        content.rates = lossRates(state.first()->places(AxisKind::Distance), gaps);
     }
-    content.range = rangeOf(channel.shown, content.curves);
     return content;
 }
 
@@ -139,15 +149,15 @@ CursorValues valuesAtCursor(const Channel &channel, const ChartState &state)
     CursorValues values {None, None};
     if (state.first() != nullptr)
         values.first = valueOf(channel, *state.first(), state.cursor());
-    const double position = state.secondPosition();
-    if (std::isnan(position))
-        return values;
-    const LapTrack &second = *state.second();
-    const auto before = static_cast<std::size_t>(position);
-    const std::size_t after = std::min(before + 1, second.size() - 1);
-    const std::array around {valueOf(channel, second, before), valueOf(channel, second, after)};
-    values.second = valueAtPosition(around, position - std::floor(position));
+    if (state.second() != nullptr)
+        values.second = valueAt(channel, *state.second(), state.secondPosition());
     return values;
+}
+
+double otherValueAtCursor(const Channel &channel, const ChartState &state, std::size_t other)
+{
+    const OtherLap &lap = state.others()[other];
+    return valueAt(channel, lap.track, lap.comparison.positions(state.axis())[state.cursor()]);
 }
 
 } // namespace zuno

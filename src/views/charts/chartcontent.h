@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include <optional>
 #include <vector>
 
-#include <QColor>
 #include <QString>
 
 #include <views/charts/channel.h>
@@ -18,7 +18,9 @@ class ChartState;
 /// One lap in one chart. Values that are missing are not a number; the line breaks there.
 struct Curve
 {
-    QColor colour;
+    /// Which of the laps it is, for its colour and its dash: 0 the first, 1 the second, then the
+    /// others.
+    std::size_t lap = 0;
     std::vector<double> places;
     std::vector<double> values;
     /// The lowest and highest values around the line; empty for a channel without.
@@ -33,16 +35,25 @@ struct Curve
 struct ChartContent
 {
     QString title;
-    QColor colour;
-    /// All values, so that the chart stays the same whatever stretch is in sight.
-    AxisRange range;
+    /// The values that it shows when there are none, and how far its axis reaches at least.
+    AxisRange least;
     /// The first lap last, since it is drawn on top.
     std::vector<Curve> curves;
+    /// Of the gap chart: what the first lap loses at each place of its curve, seconds on 100
+    /// metres. Empty for a channel.
+    std::vector<double> rates = {};
+    bool isGap = false;
+    /// Whether it shows where somebody brakes and goes on the gas.
+    bool hasActs = false;
+    /// What a value of 1 is in the unit that the rider reads.
+    double unit = 1.0;
 };
 
-/// The colours of the laps, everywhere: as on the map.
-[[nodiscard]] QColor firstLapColour();
-[[nodiscard]] QColor secondLapColour();
+/// The values from the lower to the upper edge of a chart whose curves go from one to the other of
+/// @p seen in what is visible (none without a curve): somewhat more than that, and not less than
+/// the content's least.
+[[nodiscard]] AxisRange fittedRange(const ChartContent &content,
+                                    const std::optional<AxisRange> &seen);
 
 /// A channel of the laps of @p state, against its axis. Against distance the values of the second
 /// lap stand where the first passed the same place of the track.
@@ -57,5 +68,8 @@ struct CursorValues
     double second;
 };
 [[nodiscard]] CursorValues valuesAtCursor(const Channel &channel, const ChartState &state);
+/// That of one of the other laps.
+[[nodiscard]] double otherValueAtCursor(const Channel &channel, const ChartState &state,
+                                        std::size_t other);
 
 } // namespace zuno

@@ -87,13 +87,19 @@ void ChartInput::release(const QMouseEvent &event, const PixelScale &scale)
         return;
     m_isPressed = false;
     if (!m_isSelecting) {
-        m_state.pin(placeAt(event.position(), scale));
+        const double place = placeAt(event.position(), scale);
+        m_state.pin(place);
+        m_state.measureAt(place);
         return;
     }
     m_isSelecting = false;
     const auto selected = m_state.selected();
     m_state.select(std::nullopt);
-    if (selected)
+    if (!selected)
+        return;
+    if (m_state.isMeasuring())
+        m_state.measure(*selected);
+    else
         m_state.showRange(*selected);
 }
 
@@ -137,10 +143,46 @@ void ChartInput::handleKey(QKeyEvent &event)
     case Qt::Key_Minus:
         m_state.zoom(1 / ZoomFactor, m_state.cursorPlace());
         break;
+    default:
+        handleLetter(event);
+    }
+}
+
+void ChartInput::handleLetter(QKeyEvent &event)
+{
+    switch (event.key()) {
     case Qt::Key_Escape:
         m_isPressed = false;
         m_state.select(std::nullopt);
-        m_state.showWhole();
+        // One thing after the other.
+        if (m_state.isMeasuring())
+            m_state.setMeasuring(false);
+        else
+            m_state.showWhole();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Space:
+        m_state.measureAt(m_state.cursorPlace());
+        break;
+    case Qt::Key_M:
+        m_state.setMeasuring(!m_state.isMeasuring());
+        break;
+    case Qt::Key_D:
+        m_state.setAxis(AxisKind::Distance);
+        break;
+    case Qt::Key_T:
+        m_state.setAxis(AxisKind::Time);
+        break;
+    case Qt::Key_Comma:
+        m_state.showNextZone(-1);
+        break;
+    case Qt::Key_Period:
+        m_state.showNextZone(1);
+        break;
+    case Qt::Key_1:
+    case Qt::Key_2:
+    case Qt::Key_3:
+        m_state.showRank(event.key() - Qt::Key_0);
         break;
     default:
         // Not the scroll area's keys, which would take the arrows up and down.

@@ -30,6 +30,7 @@ public:
     void handleKey(QKeyEvent &event);
 
 private:
+    void handleLetter(QKeyEvent &event);
     void press(const QMouseEvent &event);
     void move(const QMouseEvent &event, const PixelScale &scale);
     void release(const QMouseEvent &event, const PixelScale &scale);

@@ -9,7 +9,9 @@
 
 #include <session/laps/lap.h>
 #include <session/laps/lapgap.h>
+#include <session/session.h>
 #include <session/sessionlap.h>
+#include <views/charts/channel.h>
 
 namespace zuno {
 
@@ -21,6 +23,9 @@ constexpr double ShortestTime = 0.5;
 
 // How far from the edge a cursor comes into sight, in parts of what is visible.
 constexpr double SightMargin = 0.1;
+
+// What is shown beside a zone, metres.
+constexpr double ZoneMargin = 40.0;
 
 std::unique_ptr<LapTrack> trackOf(const SessionLap &lap)
 {
@@ -35,36 +40,71 @@ void ChartState::showLap(const SessionLap &lap)
 {
     if (!lap && m_first == nullptr)
         return;
-    replaceLaps(lap ? trackOf(lap) : nullptr, nullptr, nullptr);
+    replaceLaps({.first = lap ? trackOf(lap) : nullptr});
 }
 
 void ChartState::showLaps(const SessionLap &first, const SessionLap &second)
 {
-    auto firstTrack = trackOf(first);
-    auto secondTrack = trackOf(second);
-    std::unique_ptr<LapComparison> comparison;
-    if (firstTrack != nullptr && secondTrack != nullptr) {
-        comparison
-            = std::make_unique<LapComparison>(*firstTrack, *secondTrack, LapGap(*first, *second));
-    }
-    replaceLaps(std::move(firstTrack), std::move(secondTrack), std::move(comparison));
+    showLaps(first, second, {});
 }
 
-void ChartState::replaceLaps(std::unique_ptr<LapTrack> first, std::unique_ptr<LapTrack> second,
-                             std::unique_ptr<LapComparison> comparison)
+void ChartState::showLaps(const SessionLap &first, const SessionLap &second,
+                          const std::vector<SessionLap> &others)
 {
-    const bool isSameTrack
-        = first != nullptr && m_first != nullptr && first->mapName() == m_first->mapName();
+    Laps laps;
+    laps.first = first ? trackOf(first) : nullptr;
+    if (laps.first == nullptr) {
+        replaceLaps({});
+        return;
+    }
+    laps.second = second ? trackOf(second) : nullptr;
+    if (laps.second != nullptr) {
+        laps.comparison
+            = std::make_unique<LapComparison>(*laps.first, *laps.second, LapGap(*first, *second));
+    }
+    for (const SessionLap &other : others) {
+        if (!other || other->points().empty() || laps.others.size() == MostOthers)
+            continue;
+        const LapTrack track(other);
+        laps.others.push_back({track, {*laps.first, track, LapGap(*first, *other)}});
+    }
+    replaceLaps(std::move(laps));
+}
+
+void ChartState::showRide(const Session &session)
+{
+    if (session.samples().empty()) {
+        replaceLaps({});
+        return;
+    }
+    Lap whole;
+    whole.setPoints(session.samples());
+    replaceLaps({.first = trackOf({&session, &whole}), .isRide = true});
+}
+
+void ChartState::replaceLaps(Laps laps)
+{
+    const bool isSameTrack = laps.first != nullptr && m_first != nullptr && !m_isRide
+                             && !laps.isRide && laps.first->mapName() == m_first->mapName();
     const bool keepsVisible = isSameTrack && isZoomed();
     const double pinnedPlace = isSameTrack ? m_first->places(m_axis)[m_pinned] : 0.0;
-    m_first = std::move(first);
-    m_second = m_first != nullptr ? std::move(second) : nullptr;
-    m_comparison = std::move(comparison);
+    m_first = std::move(laps.first);
+    m_second = m_first != nullptr ? std::move(laps.second) : nullptr;
+    m_comparison = std::move(laps.comparison);
+    m_others = std::move(laps.others);
+    m_isRide = laps.isRide;
+    m_zones.clear();
     computeWhole();
     m_visible = keepsVisible ? m_visible.movedInto(m_whole) : m_whole;
     m_pinned = m_first != nullptr ? nearestSample(m_first->places(m_axis), pinnedPlace) : 0;
     m_hovered.reset();
     m_selected.reset();
+    if (!keepsVisible)
+        m_shownZone.reset();
+    if (!isSameTrack) {
+        m_measured.reset();
+        m_isMeasuring = false;
+    }
     Q_EMIT contentChanged();
 }
 
@@ -72,8 +112,12 @@ void ChartState::computeWhole()
 {
     m_whole = m_first != nullptr ? m_first->range(m_axis) : AxisRange {};
     // By distance, the second lap is drawn at the places of the first.
-    if (m_second != nullptr && m_axis == AxisKind::Time)
+    if (m_axis != AxisKind::Time)
+        return;
+    if (m_second != nullptr)
         m_whole = m_whole.united(m_second->range(m_axis));
+    for (const OtherLap &other : m_others)
+        m_whole = m_whole.united(other.track.range(m_axis));
 }
 
 void ChartState::setAxis(AxisKind axis)
@@ -190,6 +234,7 @@ void ChartState::moveCursor(std::size_t pinned, std::optional<std::size_t> hover
 
 void ChartState::zoom(double factor, double around)
 {
+    setShownZone(std::nullopt);
     setVisible(m_visible.zoomed(factor, around, m_whole, shortest()));
 }
 
@@ -201,6 +246,7 @@ void ChartState::scroll(double part)
 
 void ChartState::showRange(const AxisRange &range)
 {
+    setShownZone(std::nullopt);
     setVisible(range.zoomed(1.0, (range.from + range.to) / 2, m_whole, shortest()));
 }
 
@@ -235,8 +281,12 @@ void ChartState::showTimes(const AxisRange &seconds)
 {
     if (m_first == nullptr)
         return;
-    showRange({m_first->converted(seconds.from, AxisKind::Time, m_axis),
-               m_first->converted(seconds.to, AxisKind::Time, m_axis)});
+    showRange({placeOf(seconds.from), placeOf(seconds.to)});
+    sendStretch(seconds);
+}
+
+void ChartState::sendStretch(const AxisRange &seconds)
+{
     const std::vector<double> &times = m_first->places(AxisKind::Time);
     const Points &points = m_first->points();
     const auto from = static_cast<std::ptrdiff_t>(nearestSample(times, seconds.from));
@@ -245,8 +295,163 @@ void ChartState::showTimes(const AxisRange &seconds)
     Q_EMIT stretchShown(Points(points.begin() + from, points.begin() + to + 1));
 }
 
+double ChartState::placeOf(double seconds) const
+{
+    return m_first != nullptr ? m_first->converted(seconds, AxisKind::Time, m_axis) : 0.0;
+}
+
+double ChartState::placeOfSecond(double seconds) const
+{
+    constexpr double None = std::numeric_limits<double>::quiet_NaN();
+    if (m_comparison == nullptr)
+        return None;
+    if (m_axis == AxisKind::Time)
+        return seconds;
+    const double wanted = positionAmong(m_second->places(AxisKind::Time), seconds);
+    const std::vector<double> &positions = m_comparison->positions(AxisKind::Distance);
+    const auto after = std::find_if(positions.begin(), positions.end(),
+                                    [=](double position) { return position >= wanted; });
+    return after == positions.end()
+               ? None
+               : m_first->places(
+                   AxisKind::Distance)[static_cast<std::size_t>(after - positions.begin())];
+}
+
+void ChartState::setZones(TrackZones zones)
+{
+    m_zones = std::move(zones);
+    if (m_shownZone.value_or(0) >= m_zones.size())
+        setShownZone(std::nullopt);
+    Q_EMIT zonesChanged();
+}
+
+void ChartState::setShownZone(std::optional<std::size_t> zone)
+{
+    if (zone == m_shownZone)
+        return;
+    m_shownZone = zone;
+    Q_EMIT shownZoneChanged();
+}
+
+std::size_t ChartState::slowestIn(const AxisRange &seconds) const
+{
+    const std::vector<double> &times = m_first->places(AxisKind::Time);
+    std::size_t slowest = nearestSample(times, (seconds.from + seconds.to) / 2);
+    const std::size_t last = nearestSample(times, seconds.to);
+    const auto speedAt
+        = [this](std::size_t i) { return channels().front().value(m_first->points()[i]); };
+    for (std::size_t i = nearestSample(times, seconds.from); i <= last; ++i) {
+        if (m_first->hasFix(i) && !(speedAt(i) >= speedAt(slowest)))
+            slowest = i;
+    }
+    return slowest;
+}
+
+void ChartState::showZone(std::size_t zone)
+{
+    if (m_first == nullptr || zone >= m_zones.size())
+        return;
+    if (zone == m_shownZone) {
+        showWhole();
+        return;
+    }
+    const AxisRange seconds {m_zones[zone].from, m_zones[zone].to};
+    const auto metres = [this](double time, double more) {
+        const double place = m_first->converted(time, AxisKind::Time, AxisKind::Distance) + more;
+        return m_first->range(AxisKind::Distance).clamped(place);
+    };
+    const AxisRange wide {metres(seconds.from, -ZoneMargin), metres(seconds.to, ZoneMargin)};
+    const auto converted = [this](double place, AxisKind to) {
+        return m_first->converted(place, AxisKind::Distance, to);
+    };
+    showRange({converted(wide.from, m_axis), converted(wide.to, m_axis)});
+    moveCursor(slowestIn(seconds), std::nullopt);
+    setShownZone(zone);
+    sendStretch({converted(wide.from, AxisKind::Time), converted(wide.to, AxisKind::Time)});
+}
+
+std::optional<std::size_t> ChartState::zoneAtCursor() const
+{
+    if (m_first == nullptr)
+        return std::nullopt;
+    const double now = m_first->places(AxisKind::Time)[cursor()];
+    for (std::size_t i = 0; i < m_zones.size(); ++i) {
+        if (now >= m_zones[i].from && now < m_zones[i].to)
+            return i;
+    }
+    return std::nullopt;
+}
+
+void ChartState::showNextZone(int direction)
+{
+    const std::size_t count = m_zones.size();
+    const auto hasCorner = [this](std::size_t i) { return m_zones[i].hasCorner; };
+    std::size_t zone = m_shownZone.value_or(zoneAtCursor().value_or(0));
+    if (!m_shownZone && zone < count && hasCorner(zone)) {
+        showZone(zone);
+        return;
+    }
+    const std::size_t step = direction < 0 ? count - 1 : 1;
+    for (std::size_t i = 0; i < count; ++i) {
+        zone = (zone + step) % count;
+        if (!hasCorner(zone))
+            continue;
+        if (zone != m_shownZone)
+            showZone(zone);
+        return;
+    }
+}
+
+void ChartState::showRank(int rank)
+{
+    const auto found = std::find_if(m_zones.begin(), m_zones.end(),
+                                    [=](const TrackZone &zone) { return zone.rank == rank; });
+    if (rank > 0 && found != m_zones.end())
+        showZone(static_cast<std::size_t>(found - m_zones.begin()));
+}
+
+void ChartState::setMeasuring(bool measuring)
+{
+    if (m_first == nullptr || measuring == m_isMeasuring)
+        return;
+    m_isMeasuring = measuring;
+    m_isMeasuringEnd = false;
+    m_measured.reset();
+    Q_EMIT measureChanged();
+}
+
+void ChartState::measureAt(double place)
+{
+    if (!m_isMeasuring)
+        return;
+    const double metres = m_first->converted(place, m_axis, AxisKind::Distance);
+    const double begin = m_isMeasuringEnd && m_measured ? m_measured->from : metres;
+    m_isMeasuringEnd = !m_isMeasuringEnd;
+    m_measured = AxisRange {std::min(begin, metres), std::max(begin, metres)};
+    Q_EMIT measureChanged();
+}
+
+void ChartState::measure(const AxisRange &range)
+{
+    if (!m_isMeasuring)
+        return;
+    m_isMeasuringEnd = false;
+    m_measured = AxisRange {m_first->converted(range.from, m_axis, AxisKind::Distance),
+                            m_first->converted(range.to, m_axis, AxisKind::Distance)};
+    Q_EMIT measureChanged();
+}
+
+std::optional<AxisRange> ChartState::measured() const
+{
+    if (!m_measured || m_first == nullptr)
+        return std::nullopt;
+    return AxisRange {m_first->converted(m_measured->from, AxisKind::Distance, m_axis),
+                      m_first->converted(m_measured->to, AxisKind::Distance, m_axis)};
+}
+
 void ChartState::showWhole()
 {
+    setShownZone(std::nullopt);
     setVisible(m_whole);
     if (m_isSectorShown && m_first != nullptr)
         Q_EMIT stretchShown(m_first->points());

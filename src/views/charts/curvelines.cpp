@@ -143,6 +143,35 @@ Extremes::Pair Extremes::of(std::size_t first, std::size_t end) const
     return found;
 }
 
+QList<QLineF> strokes(const QPolygonF &line, std::span<const double> dashes)
+{
+    QList<QLineF> pieces;
+    pieces.reserve(line.size());
+    std::size_t dash = 0;
+    double left = dashes.empty() ? 0.0 : dashes[0];
+    for (qsizetype i = 1; i < line.size(); ++i) {
+        const QLineF whole(line[i - 1], line[i]);
+        if (dashes.empty()) {
+            pieces.append(whole);
+            continue;
+        }
+        const double length = whole.length();
+        for (double done = 0.0; done < length;) {
+            const double step = std::min(left, length - done);
+            if (dash % 2 == 0)
+                pieces.append(
+                    {whole.pointAt(done / length), whole.pointAt((done + step) / length)});
+            done += step;
+            left -= step;
+            if (left <= 0) {
+                dash = (dash + 1) % dashes.size();
+                left = dashes[dash];
+            }
+        }
+    }
+    return pieces;
+}
+
 CurveLines::CurveLines(const Curve &curve)
     : m_curve(&curve)
     , m_values(curve.values)
@@ -218,6 +247,35 @@ std::vector<QPolygonF> CurveLines::bands(const PixelScale &horizontal,
         }
     }
     return polygons;
+}
+
+std::optional<AxisRange> CurveLines::extremesIn(const AxisRange &stretch) const
+{
+    const std::vector<double> &places = m_curve->places;
+    const auto indexOf
+        = [&](auto found) { return static_cast<std::size_t>(found - places.begin()); };
+    const std::size_t first = indexOf(std::lower_bound(places.begin(), places.end(), stretch.from));
+    const std::size_t end = indexOf(std::upper_bound(places.begin(), places.end(), stretch.to));
+    std::optional<AxisRange> found;
+    const auto add = [&found](double value) {
+        if (std::isfinite(value))
+            found = found ? found->united({value, value}) : AxisRange {value, value};
+    };
+    for (const auto &[extremes, values] :
+         {std::pair {&m_values, &m_curve->values}, std::pair {&m_lows, &m_curve->lows},
+          std::pair {&m_highs, &m_curve->highs}}) {
+        if (values->empty() || first >= end)
+            continue;
+        const Extremes::Pair pair = extremes->of(first, end);
+        if (pair.low == Extremes::None)
+            continue;
+        add((*values)[pair.low]);
+        add((*values)[pair.high]);
+    }
+    // Where the edges cut the line between two samples.
+    add(m_curve->valueAt(stretch.from));
+    add(m_curve->valueAt(stretch.to));
+    return found;
 }
 
 } // namespace zuno

@@ -5,9 +5,12 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
+#include <QLineF>
+#include <QList>
 #include <QPolygonF>
 
 #include <views/charts/chartaxis.h>
@@ -41,6 +44,11 @@ private:
     std::vector<std::vector<Pair>> m_levels;
 };
 
+/// The strokes of a line with dashes (dash and gap in turn, pixels; none for a solid line), which
+/// run on over its corners. Qt itself outlines a whole line before it fills it, which takes ten
+/// times as long, and more the longer it is; drawn piece by piece it begins each dash anew.
+[[nodiscard]] QList<QLineF> strokes(const QPolygonF &line, std::span<const double> dashes);
+
 /// The lines of a curve on the screen.
 ///
 /// Of samples that fall into one column of pixels only the first, the extremes and the last are
@@ -59,6 +67,8 @@ public:
     /// for a curve without.
     [[nodiscard]] std::vector<QPolygonF> bands(const PixelScale &horizontal,
                                                const PixelScale &vertical) const;
+    /// From the lowest to the highest value in a stretch of the axis; none without a value there.
+    [[nodiscard]] std::optional<AxisRange> extremesIn(const AxisRange &stretch) const;
 
 private:
     const Curve *m_curve;

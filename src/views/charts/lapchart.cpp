@@ -10,6 +10,9 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <theme/themes.h>
+#include <views/charts/chartcolours.h>
+#include <views/charts/chartlayout.h>
 #include <views/charts/chartstate.h>
 
 namespace zuno {
@@ -17,37 +20,32 @@ namespace zuno {
 namespace {
 
 // Pixels.
-constexpr double LineWidth = 1.5;
+constexpr double LineWidth = 1.6;
+constexpr double FirstWidth = 2.4;
 constexpr double DotRadius = 3.5;
+constexpr double ActSize = 5.0;
 constexpr int StripMargin = 6;
-constexpr int RightMargin = 14;
 constexpr int Gap = 4;
-constexpr int LeastHeight = 64;
-constexpr QSize UsualSize(600, 120);
+constexpr int EdgeGap = 2;
+constexpr int LeastHeight = 40;
+constexpr QSize UsualSize(600, 90);
 
-// Above the highest and below the lowest value, so that no line runs along the edge.
-constexpr double ValueMargin = 0.06;
+// Between two numbers of the vertical axis, in heights of a line of text.
+constexpr double VerticalSpacing = 1.5;
 
-// Between two numbers of an axis, in heights of a line of text.
-constexpr double VerticalSpacing = 1.3;
-constexpr double HorizontalSpacing = 5.0;
-
-constexpr QColor GridColour(0x33, 0x41, 0x4c);
-constexpr QColor ZeroColour(0x64, 0x76, 0x85);
-constexpr QColor SectorColour(0xa0, 0xb0, 0xc0);
-constexpr QColor CursorColour(0xff, 0xff, 0xff);
-constexpr QColor FocusColour(0xff, 0xb4, 0x54);
-constexpr QColor SelectionColour(0x14, 0x64, 0xa1, 0x70);
 constexpr int BandAlpha = 0x38;
+constexpr int GroundAlpha = 0x48;
 
-// Piece by piece: the outline of the whole line takes ten times as long, and more the longer it is.
-void drawLine(QPainter &painter, const QPolygonF &line)
+double widthOf(const Curve &curve)
 {
-    QList<QLineF> pieces;
-    pieces.reserve(line.size());
-    for (qsizetype i = 1; i < line.size(); ++i)
-        pieces.append({line[i - 1], line[i]});
-    painter.drawLines(pieces);
+    return curve.lap == 0 ? FirstWidth : LineWidth;
+}
+
+// A sign at the place where somebody brakes (its tip down) or goes on the gas (up).
+QPolygonF actSign(const QPointF &at, bool isBraking)
+{
+    const double up = isBraking ? -ActSize : ActSize;
+    return {{at + QPointF(-ActSize, up), at + QPointF(ActSize, up), at + QPointF(0, -up)}};
 }
 
 } // namespace
@@ -57,9 +55,7 @@ LapChart::LapChart(ChartState &state, QWidget *parent)
     , m_state(state)
     , m_input(state)
 {
-    QFont small = font();
-    small.setPointSizeF(small.pointSizeF() * 0.9);
-    setFont(small);
+    setFont(smallPrint(font()));
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::StrongFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -84,19 +80,8 @@ void LapChart::setContent(ChartContent content)
     m_lines.clear();
     for (const Curve &curve : m_content.curves)
         m_lines.emplace_back(curve);
+    setAccessibleName(m_content.title);
     showVisible();
-}
-
-void LapChart::setAxisLabelled(bool labelled)
-{
-    m_isAxisLabelled = labelled;
-    layOut();
-}
-
-void LapChart::setSectorsNamed(bool named)
-{
-    m_areSectorsNamed = named;
-    layOut();
 }
 
 void LapChart::showVisible()
@@ -108,25 +93,24 @@ void LapChart::showVisible()
 
 void LapChart::setTicks()
 {
-    const double line = fontMetrics().height();
-    const auto intervals = [line](double pixels, double spacing) {
-        return std::max(1, static_cast<int>(pixels / (line * spacing)));
-    };
-    m_values = m_content.range.widened(ValueMargin);
-    m_valueStep = roundStep(m_values.span(), intervals(m_plot.height(), VerticalSpacing));
     const AxisRange visible = m_state.visible();
-    if (visible.span() > 0)
-        m_step = roundStep(visible.span(), intervals(m_plot.width(), HorizontalSpacing));
+    std::optional<AxisRange> seen;
+    for (const CurveLines &line : m_lines) {
+        if (const auto values = line.extremesIn(visible))
+            seen = seen ? seen->united(*values) : *values;
+    }
+    m_values = fittedRange(m_content, seen);
+    const double spacing = fontMetrics().height() * VerticalSpacing;
+    m_valueStep = roundStep(m_values.span() * m_content.unit,
+                            std::max(1, static_cast<int>(m_plot.height() / spacing)));
 }
 
 void LapChart::layOut()
 {
-    const int line = fontMetrics().height();
-    const int left = fontMetrics().horizontalAdvance(QStringLiteral("-0.000")) + (2 * Gap);
-    const int top = line + Gap;
-    const int bottom = m_isAxisLabelled ? line + (2 * Gap) : Gap;
-    const QRectF plot = QRectF(viewport()->rect()).adjusted(left, top, -RightMargin, -bottom);
-    m_plot = plot.isValid() ? plot : QRectF(left, top, 1, 1);
+    const ChartLayout layout(fontMetrics());
+    const QRectF plot
+        = QRectF(viewport()->rect()).adjusted(layout.left, EdgeGap, -layout.right, -EdgeGap);
+    m_plot = plot.isValid() ? plot : QRectF(layout.left, EdgeGap, 1, 1);
     showVisible();
 }
 
@@ -140,32 +124,54 @@ PixelScale LapChart::verticalScale() const
     return {m_values, m_plot.bottom(), -m_plot.height()};
 }
 
+// In the rider's unit.
+std::vector<double> LapChart::valueTicks() const
+{
+    return ticksIn({m_values.from * m_content.unit, m_values.to * m_content.unit}, m_valueStep);
+}
+
 void LapChart::drawPicture()
 {
     m_picture = QPixmap(viewport()->size() * devicePixelRatioF());
     m_picture.setDevicePixelRatio(devicePixelRatioF());
-    m_picture.fill(palette().color(QPalette::Base));
+    m_picture.fill(theme().colour(Colour::Pane));
     QPainter painter(&m_picture);
     painter.setFont(font());
+    drawCorners(painter);
     drawGrid(painter);
     drawCurves(painter);
     drawNumbers(painter);
     drawSectors(painter);
-    drawTitle(painter);
+}
+
+void LapChart::drawCorners(QPainter &painter) const
+{
+    const PixelScale scale = horizontalScale();
+    for (const TrackZone &zone : m_state.zones()) {
+        const double from = scale.range.clamped(m_state.placeOf(zone.bendFrom));
+        const double to = scale.range.clamped(m_state.placeOf(zone.bendTo));
+        if (!zone.hasCorner || !(to > from))
+            continue;
+        const QRectF band(scale.pixelOf(from), m_plot.top(),
+                          scale.pixelOf(to) - scale.pixelOf(from), m_plot.height());
+        painter.fillRect(band, theme().colour(Colour::CornerBand));
+    }
 }
 
 void LapChart::drawGrid(QPainter &painter) const
 {
     const QRectF &plot = m_plot;
     const PixelScale vertical = verticalScale();
-    for (const double value : ticksIn(vertical.range, m_valueStep)) {
-        const double y = std::round(vertical.pixelOf(value));
-        painter.setPen(value == 0 ? ZeroColour : GridColour);
+    for (const double value : valueTicks()) {
+        const double y = std::round(vertical.pixelOf(value / m_content.unit));
+        painter.setPen(theme().colour(value == 0 ? Colour::Zero : Colour::FaintEdge));
         painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));
     }
     const PixelScale horizontal = horizontalScale();
-    painter.setPen(GridColour);
-    for (const double place : ticksIn(horizontal.range, m_step)) {
+    painter.setPen(theme().colour(Colour::FaintEdge));
+    if (!(horizontal.range.span() > 0))
+        return;
+    for (const double place : ChartLayout(fontMetrics()).ticks(m_state, viewport()->width())) {
         const double x = std::round(horizontal.pixelOf(place));
         painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
     }
@@ -173,69 +179,140 @@ void LapChart::drawGrid(QPainter &painter) const
 
 void LapChart::drawCurves(QPainter &painter) const
 {
-    const PixelScale horizontal = horizontalScale();
-    const PixelScale vertical = verticalScale();
-    if (!(horizontal.range.span() > 0))
+    if (!(m_state.visible().span() > 0))
         return;
     painter.save();
     painter.setClipRect(m_plot);
+    if (m_content.isGap)
+        drawGap(painter);
+    else
+        drawLaps(painter);
+    if (m_content.hasActs)
+        drawActs(painter);
+    painter.restore();
+}
+
+void LapChart::drawLaps(QPainter &painter) const
+{
+    const PixelScale horizontal = horizontalScale();
+    const PixelScale vertical = verticalScale();
     painter.setPen(Qt::NoPen);
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        QColor colour = m_content.curves[i].colour;
+        QColor colour = theme().lap(m_content.curves[i].lap);
         colour.setAlpha(BandAlpha);
         painter.setBrush(colour);
         for (const QPolygonF &band : m_lines[i].bands(horizontal, vertical))
             painter.drawPolygon(band);
     }
-    painter.setBrush(Qt::NoBrush);
     painter.setRenderHint(QPainter::Antialiasing);
     for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        painter.setPen(QPen(m_content.curves[i].colour, LineWidth));
+        const Curve &curve = m_content.curves[i];
+        painter.setPen({theme().lap(curve.lap), widthOf(curve), Qt::SolidLine, Qt::FlatCap});
         for (const QPolygonF &line : m_lines[i].lines(horizontal, vertical))
-            drawLine(painter, line);
+            painter.drawLines(strokes(line, lapDash(curve.lap)));
     }
-    painter.restore();
+}
+
+// The ground tells who is ahead, the colour of the line who is faster there.
+void LapChart::drawGap(QPainter &painter) const
+{
+    if (m_content.curves.empty())
+        return;
+    drawMissing(painter);
+    drawGapGround(painter);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const Curve &curve = m_content.curves.front();
+    const PixelScale horizontal = horizontalScale();
+    const PixelScale vertical = verticalScale();
+    const QColor neutral = theme().colour(Colour::Text);
+    QPolygonF run;
+    QColor colour = neutral;
+    const auto draw = [&] {
+        painter.setPen(QPen(colour, FirstWidth));
+        painter.drawLines(strokes(run, {}));
+    };
+    const std::size_t first = nearestSample(curve.places, horizontal.range.from);
+    const std::size_t last = nearestSample(curve.places, horizontal.range.to);
+    for (std::size_t i = first > 0 ? first - 1 : 0; i < std::min(last + 2, curve.places.size());
+         ++i) {
+        if (!std::isfinite(curve.values[i])) {
+            draw();
+            run.clear();
+            continue;
+        }
+        run.append({horizontal.pixelOf(curve.places[i]), vertical.pixelOf(curve.values[i])});
+        const QColor here = rateColour(m_content.rates[i], neutral);
+        if (here == colour)
+            continue;
+        draw();
+        run = {run.last()};
+        colour = here;
+    }
+    draw();
+}
+
+void LapChart::drawGapGround(QPainter &painter) const
+{
+    const PixelScale horizontal = horizontalScale();
+    const PixelScale vertical = verticalScale();
+    const double zero = vertical.pixelOf(0);
+    const auto fill = [&](Colour of, const QRectF &half) {
+        QColor colour = theme().colour(of);
+        colour.setAlpha(GroundAlpha);
+        painter.setBrush(colour);
+        painter.setClipRect(half.intersected(m_plot));
+        for (const QPolygonF &line : m_lines.front().lines(horizontal, vertical)) {
+            for (qsizetype i = 1; i < line.size(); ++i) {
+                const QPointF a = line[i - 1];
+                const QPointF b = line[i];
+                painter.drawConvexPolygon(
+                    QPolygonF {{a, b, QPointF(b.x(), zero), QPointF(a.x(), zero)}});
+            }
+        }
+    };
+    painter.setPen(Qt::NoPen);
+    fill(Colour::Loss, QRectF(QPointF(m_plot.left(), m_plot.top()), QPointF(m_plot.right(), zero)));
+    fill(Colour::Gain,
+         QRectF(QPointF(m_plot.left(), zero), QPointF(m_plot.right(), m_plot.bottom())));
+    painter.setClipRect(m_plot);
+    painter.setBrush(Qt::NoBrush);
+}
+
+// Where the other lap was not: hatched, so that nobody takes it for a gap of 0.
+void LapChart::drawMissing(QPainter &painter) const
+{
+    const Curve &curve = m_content.curves.front();
+    const PixelScale horizontal = horizontalScale();
+    const QBrush hatch(theme().colour(Colour::Edge), Qt::BDiagPattern);
+    for (std::size_t i = 0; i < curve.places.size();) {
+        if (std::isfinite(curve.values[i])) {
+            ++i;
+            continue;
+        }
+        const std::size_t begin = i;
+        while (i < curve.places.size() && !std::isfinite(curve.values[i]))
+            ++i;
+        const double from = horizontal.pixelOf(curve.places[begin]);
+        const double to = horizontal.pixelOf(curve.places[i - 1]);
+        painter.fillRect(QRectF(from, m_plot.top(), to - from, m_plot.height()), hatch);
+    }
 }
 
 void LapChart::drawNumbers(QPainter &painter) const
 {
-    const QRectF &plot = m_plot;
     const double line = fontMetrics().height();
     const QLocale locale;
-    painter.setPen(palette().color(QPalette::Text));
+    painter.setPen(theme().colour(Colour::SecondText));
     const PixelScale vertical = verticalScale();
-    for (const double value : ticksIn(vertical.range, m_valueStep)) {
-        const QRectF box(0, vertical.pixelOf(value) - (line / 2), plot.left() - Gap, line);
-        painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter,
+    for (const double value : valueTicks()) {
+        const double middle = vertical.pixelOf(value / m_content.unit);
+        // Numbers at the edges would be cut.
+        if (middle < line / 3 || middle > viewport()->height() - (line / 3))
+            continue;
+        painter.drawText(QRectF(0, middle - (line / 2), m_plot.left() - Gap, line),
+                         Qt::AlignRight | Qt::AlignVCenter,
                          locale.toString(value, 'f', decimalsOfStep(m_valueStep)));
     }
-    if (!m_isAxisLabelled)
-        return;
-    const PixelScale horizontal = horizontalScale();
-    for (const double place : ticksIn(horizontal.range, m_step)) {
-        const QString number = locale.toString(place, 'f', decimalsOfStep(m_step));
-        const QString text = m_state.axis() == AxisKind::Distance
-                                 ? tr("%1 m", "metres").arg(number)
-                                 : tr("%1 s", "seconds").arg(number);
-        const double width = fontMetrics().horizontalAdvance(text);
-        const double left
-            = std::min(horizontal.pixelOf(place) - (width / 2), viewport()->width() - width);
-        painter.drawText(QRectF(left, plot.bottom() + Gap, width, line), Qt::AlignCenter, text);
-    }
-}
-
-QRectF LapChart::titleBox() const
-{
-    const QRectF &plot = m_plot;
-    return {plot.left(), 0.0,
-            static_cast<double>(fontMetrics().horizontalAdvance(m_content.title)) + Gap,
-            plot.top()};
-}
-
-void LapChart::drawTitle(QPainter &painter) const
-{
-    painter.setPen(m_content.colour);
-    painter.drawText(titleBox(), Qt::AlignLeft | Qt::AlignVCenter, m_content.title);
 }
 
 void LapChart::drawSectors(QPainter &painter) const
@@ -243,64 +320,98 @@ void LapChart::drawSectors(QPainter &painter) const
     const LapTrack *lap = m_state.first();
     if (lap == nullptr)
         return;
-    const QRectF &plot = m_plot;
     const PixelScale scale = horizontalScale();
-    const auto pixelOf = [&](double seconds) {
-        return std::round(scale.pixelOf(lap->converted(seconds, AxisKind::Time, m_state.axis())));
-    };
+    painter.setPen(QPen(theme().colour(Colour::SectorLine), 1, Qt::DashLine));
     for (const SectorStretch &stretch : lap->sectors()) {
-        const double from = pixelOf(stretch.time.from);
-        const double to = pixelOf(stretch.time.to);
-        painter.setPen(QPen(SectorColour, 1, Qt::DashLine));
-        for (const double x : {from, to}) {
-            if (x >= plot.left() && x <= plot.right())
-                painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
-        }
-        if (m_areSectorsNamed) {
-            const double left = std::max(from, titleBox().right());
-            drawSectorName(painter, stretch.sector,
-                           QRectF(left, 0, std::min(to, plot.right()) - left, plot.top()));
+        for (const double seconds : {stretch.time.from, stretch.time.to}) {
+            const double x = std::round(scale.pixelOf(m_state.placeOf(seconds)));
+            if (x >= m_plot.left() && x <= m_plot.right())
+                painter.drawLine(QPointF(x, m_plot.top()), QPointF(x, m_plot.bottom()));
         }
     }
 }
 
-void LapChart::drawSectorName(QPainter &painter, int sector, const QRectF &room) const
+// Of the zone that is looked at, of both laps.
+void LapChart::drawActs(QPainter &painter) const
 {
-    const QString name = tr("Section %1").arg(sector + 1);
-    const QString shortName = tr("S%1", "section, short").arg(sector + 1);
-    const bool fits = fontMetrics().horizontalAdvance(name) + Gap < room.width();
-    if (!fits && fontMetrics().horizontalAdvance(shortName) > room.width())
+    const auto shown = m_state.shownZone();
+    if (!shown || m_content.curves.empty())
         return;
-    painter.setPen(SectorColour);
-    painter.drawText(room, Qt::AlignCenter, fits ? name : shortName);
+    const auto draw = [&](const Curve &curve, double place, bool isBraking) {
+        const double value = curve.valueAt(place);
+        if (!std::isfinite(value))
+            return;
+        painter.setPen(QPen(theme().colour(Colour::Pane), 1));
+        painter.setBrush(theme().lap(curve.lap));
+        painter.drawPolygon(
+            actSign({horizontalScale().pixelOf(place), verticalScale().pixelOf(value)}, isBraking));
+    };
+    const TrackZone &zone = m_state.zones()[*shown];
+    for (const Curve &curve : m_content.curves) {
+        if (curve.lap > 1)
+            continue;
+        const ZoneActs &acts = curve.lap == 0 ? zone.acts : zone.otherActs;
+        const auto placeOf = [&](double seconds) {
+            return curve.lap == 0 ? m_state.placeOf(seconds) : m_state.placeOfSecond(seconds);
+        };
+        if (acts.brakes)
+            draw(curve, placeOf(*acts.brakes), true);
+        if (acts.gas)
+            draw(curve, placeOf(*acts.gas), false);
+    }
 }
 
 void LapChart::drawOverlay(QPainter &painter) const
 {
-    const QRectF &plot = m_plot;
     const PixelScale horizontal = horizontalScale();
     if (const auto &selected = m_state.selected()) {
         const double from = horizontal.pixelOf(selected->from);
         const double to = horizontal.pixelOf(selected->to);
-        painter.fillRect(QRectF(from, plot.top(), to - from, plot.height()), SelectionColour);
+        painter.fillRect(QRectF(from, m_plot.top(), to - from, m_plot.height()),
+                         theme().colour(Colour::Selection));
     }
+    drawMeasured(painter);
     if (hasFocus()) {
-        painter.setPen(FocusColour);
-        painter.drawRect(QRectF(viewport()->rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+        painter.setPen(QPen(theme().colour(Colour::Focus), 2));
+        painter.drawRect(QRectF(viewport()->rect()).adjusted(1, 1, -1, -1));
     }
+    drawCursor(painter);
+}
+
+void LapChart::drawMeasured(QPainter &painter) const
+{
+    const auto measured = m_state.measured();
+    if (!measured)
+        return;
+    const PixelScale horizontal = horizontalScale();
+    const double from = horizontal.pixelOf(measured->from);
+    const double to = horizontal.pixelOf(measured->to);
+    painter.save();
+    painter.setClipRect(m_plot);
+    painter.fillRect(QRectF(from, m_plot.top(), to - from, m_plot.height()),
+                     theme().colour(Colour::Selection));
+    painter.setPen(QPen(theme().colour(Colour::Text), 1, Qt::DashLine));
+    for (const double x : {std::round(from), std::round(to)})
+        painter.drawLine(QPointF(x, m_plot.top()), QPointF(x, m_plot.bottom()));
+    painter.restore();
+}
+
+void LapChart::drawCursor(QPainter &painter) const
+{
     const double place = m_state.cursorPlace();
     if (m_state.first() == nullptr || !m_state.visible().contains(place))
         return;
-    const double x = std::round(horizontal.pixelOf(place));
-    painter.setPen(CursorColour);
-    painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
+    const double x = std::round(horizontalScale().pixelOf(place));
+    painter.setPen(theme().colour(Colour::Cursor));
+    painter.drawLine(QPointF(x, m_plot.top()), QPointF(x, m_plot.bottom()));
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(theme().colour(Colour::Pane));
     const PixelScale vertical = verticalScale();
     for (const Curve &curve : m_content.curves) {
         const double value = curve.valueAt(place);
         if (!std::isfinite(value))
             continue;
-        painter.setBrush(curve.colour);
+        painter.setBrush(m_content.isGap ? theme().colour(Colour::Text) : theme().lap(curve.lap));
         painter.drawEllipse(QPointF(x, vertical.pixelOf(value)), DotRadius, DotRadius);
     }
 }
@@ -308,7 +419,7 @@ void LapChart::drawOverlay(QPainter &painter) const
 QRect LapChart::strip(double place) const
 {
     const auto x = static_cast<int>(std::lround(horizontalScale().pixelOf(place)));
-    return {x - StripMargin, 0, 2 * StripMargin + 1, viewport()->height()};
+    return {x - StripMargin, 0, (2 * StripMargin) + 1, viewport()->height()};
 }
 
 void LapChart::showCursor()

@@ -36,10 +36,6 @@ public:
     explicit LapChart(ChartState &state, QWidget *parent = nullptr);
 
     void setContent(ChartContent content);
-    /// Whether the axis has its numbers below; of stacked charts the last one's are enough.
-    void setAxisLabelled(bool labelled);
-    /// Whether the sectors' names stand above; of stacked charts the first one's are enough.
-    void setSectorsNamed(bool named);
     /// Gives plot and numbers their places.
     void layOut();
     /// Shows the state's visible stretch.
@@ -50,6 +46,8 @@ public:
     [[nodiscard]] const QString &title() const { return m_content.title; }
     /// The axis from the left to the right edge of the plot, in pixels of the chart.
     [[nodiscard]] PixelScale horizontalScale() const;
+    /// The values from the lower to the upper edge of the plot.
+    [[nodiscard]] const AxisRange &shownValues() const { return m_values; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -67,15 +65,21 @@ protected:
 private:
     void setTicks();
     [[nodiscard]] PixelScale verticalScale() const;
+    [[nodiscard]] std::vector<double> valueTicks() const;
     void drawPicture();
+    void drawCorners(QPainter &painter) const;
     void drawGrid(QPainter &painter) const;
     void drawCurves(QPainter &painter) const;
+    void drawLaps(QPainter &painter) const;
+    void drawGap(QPainter &painter) const;
+    void drawGapGround(QPainter &painter) const;
+    void drawMissing(QPainter &painter) const;
     void drawNumbers(QPainter &painter) const;
     void drawSectors(QPainter &painter) const;
-    void drawSectorName(QPainter &painter, int sector, const QRectF &room) const;
-    void drawTitle(QPainter &painter) const;
+    void drawActs(QPainter &painter) const;
     void drawOverlay(QPainter &painter) const;
-    [[nodiscard]] QRectF titleBox() const;
+    void drawMeasured(QPainter &painter) const;
+    void drawCursor(QPainter &painter) const;
     [[nodiscard]] QRect strip(double place) const;
 
     ChartState &m_state;
@@ -84,15 +88,11 @@ private:
     /// Of the content's curves.
     std::vector<CurveLines> m_lines;
     QRectF m_plot {0, 0, 1, 1};
-    /// The values from the lower to the upper edge of the plot.
-    AxisRange m_values;
+    AxisRange m_values {0, 1};
     QPixmap m_picture;
-    /// Between two numbers of the axes.
-    double m_step = 1.0;
+    /// Between two numbers of the vertical axis.
     double m_valueStep = 1.0;
     double m_drawnCursor = 0.0;
-    bool m_isAxisLabelled = false;
-    bool m_areSectorsNamed = false;
 };
 
 } // namespace zuno

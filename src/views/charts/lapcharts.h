@@ -5,6 +5,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 
 #include <QWidget>
 
@@ -15,17 +16,21 @@ class QCheckBox;
 
 namespace zuno {
 
-class CursorLabels;
+class AxisStrip;
+class ChartHead;
+class CornerStrip;
 class LapChart;
 class LapSelection;
+class MeasureLine;
 class Settings;
 
 namespace Ui {
 class LapCharts;
 }
 
-/// The charts pane: makes a chart for each channel and connects state, charts, value labels and
-/// boxes with each other and with the laps that are chosen. Hidden while there is no lap.
+/// The charts pane: makes a chart with its head for each channel and connects state, charts, strip,
+/// axis, buttons and boxes with each other and with the laps that are chosen. A session without
+/// laps is shown as a whole. Hidden while there is nothing to show.
 class LapCharts final : public QWidget
 {
     Q_OBJECT
@@ -50,9 +55,26 @@ Q_SIGNALS:
     /// Where the second lap's rider is then.
     void secondCursorMoved(const QString &pointPayload);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    /// A channel's parts; the last one is the gap's, which has no box.
+    struct Row
+    {
+        QCheckBox *box = nullptr;
+        ChartHead *head = nullptr;
+        LapChart *chart = nullptr;
+        /// What the rider said about folding it.
+        std::optional<bool> folding = {};
+    };
+    static constexpr std::size_t GapRow = ChannelCount;
+
     void createCharts();
+    void createRow(std::size_t number);
+    void createChannelMenu();
     void connectParts();
+    void connectButtons();
     void readChoices();
     void storeChoices() const;
     void setAxis(AxisKind axis);
@@ -60,7 +82,11 @@ private:
     void showContent();
     void showAvailability();
     void showCharts();
+    void foldCharts();
+    void showButtons();
     void showCursor();
+    void arrangeHead();
+    void alignStrips();
     void sendCursor();
     [[nodiscard]] bool isShown(std::size_t channel) const;
 
@@ -68,11 +94,11 @@ private:
     ChartState m_state;
     LapSelection &m_selection;
     const Settings &m_settings;
-    /// In the order of channels().
-    std::array<QCheckBox *, ChannelCount> m_boxes {};
-    std::array<LapChart *, ChannelCount> m_charts {};
-    LapChart *m_gapChart = nullptr;
-    CursorLabels *m_labels = nullptr;
+    CornerStrip *m_strip = nullptr;
+    MeasureLine *m_measure = nullptr;
+    AxisStrip *m_axis = nullptr;
+    /// In the order of channels(), then the gap.
+    std::array<Row, ChannelCount + 1> m_rows {};
 };
 
 } // namespace zuno
