@@ -19,6 +19,9 @@
     }
 
     /** @param {L.LatLng} place */
+    const toService = (place) => new LatLng(place.lat, place.lng);
+
+    /** @param {L.LatLng} place */
     const eventAt = (place) => ({ latLng: new LatLng(place.lat, place.lng) });
 
     class Point {
@@ -49,6 +52,8 @@
         }
         /** @param {google.maps.LatLngLiteral} place */
         contains(place) { return !this.isEmpty() && this.bounds.contains(toLeaflet(place)); }
+        getNorthEast() { return toService(this.bounds.getNorthEast()); }
+        getSouthWest() { return toService(this.bounds.getSouthWest()); }
         /** @param {LatLngBounds} other */
         intersects(other) { return this.bounds.intersects(other.bounds); }
     }
@@ -60,7 +65,8 @@
                 // Lines beside the view are drawn too, so that moving it uncovers no gap.
                 renderer: L.canvas({ padding: 0.5 }),
                 attributionControl: false,
-                zoomSnap: 0.25,
+                // Any zoom, so that what is fitted into the view fills it.
+                zoomSnap: 0,
                 zoomDelta: 0.5,
                 wheelPxPerZoomLevel: 90,
                 minZoom: 3,
@@ -77,7 +83,7 @@
             this.leaflet.panTo(toLeaflet(place), { animate: false });
         }
         getZoom() { return this.leaflet.getZoom(); }
-        /** @param {{ disableDoubleClickZoom: boolean }} options */
+        /** @param {{ disableDoubleClickZoom?: boolean }} options */
         setOptions(options) {
             if (options.disableDoubleClickZoom)
                 this.leaflet.doubleClickZoom.disable();
@@ -95,9 +101,12 @@
                 paddingBottomRight: [padding.right, padding.bottom],
             });
         }
-        /** @param {"click"} event @param {(event: { latLng: LatLng }) => void} slot */
+        /** @param {"click" | "idle"} event @param {(event: { latLng: LatLng }) => void} slot */
         addListener(event, slot) {
-            this.leaflet.on(event, (e) => slot(eventAt(e.latlng)));
+            if (event === "idle")
+                this.leaflet.on("moveend", () => slot(eventAt(this.leaflet.getCenter())));
+            else
+                this.leaflet.on(event, (e) => slot(eventAt(e.latlng)));
         }
     }
 
@@ -125,15 +134,22 @@
         /** @param {google.maps.PolylineOptions} options */
         constructor(options) {
             const path = /** @type {google.maps.LatLngLiteral[]} */ (options.path);
-            super(L.polyline(path.map(toLeaflet), {
+            const dashed = (options.icons ?? []).length > 0;
+            const line = L.polyline(path.map(toLeaflet), {
                 color: options.strokeColor ?? undefined,
-                opacity: options.strokeOpacity ?? undefined,
+                opacity: dashed ? 1 : options.strokeOpacity ?? undefined,
                 weight: options.strokeWeight ?? undefined,
+                // The one kind that is used; butt ends keep the gaps.
+                ...(dashed ? { dashArray: "9 3", lineCap: "butt" } : {}),
                 interactive: false,
                 // Each sample counts: a piece of line may be a few pixels long.
                 smoothFactor: 0,
-            }), options.map);
+            });
+            super(line, options.map);
+            this.line = line;
         }
+        /** @param {{ strokeWeight: number }} options */
+        setOptions(options) { this.line.setStyle({ weight: options.strokeWeight }); }
     }
 
     class Circle extends Shape {
@@ -225,7 +241,7 @@
                     iconSize: [0, 0],
                     iconAnchor: [anchor.x, anchor.y],
                 }),
-                interactive: options.draggable === true,
+                interactive: options.draggable === true || options.clickable === true,
                 draggable: options.draggable === true,
                 autoPan: true,
                 // Nearer to the edge than what has just been fitted into the view.

@@ -30,6 +30,73 @@ interface LapPayload {
     isComplete: boolean;
 }
 
+// Signs, in pixels.
+interface Spot { x: number, y: number }
+/** By its middle. */
+interface Box extends Spot { w: number, h: number }
+interface Bounds { left: number, right: number, top: number, bottom: number }
+interface Leader { from: Spot, to: Spot }
+interface PlacedBox { box: Box, leader: Leader | null }
+/** A sign with or without its value. */
+interface PlacedSign extends PlacedBox { isWhole: boolean }
+/** A place on the line with the way to the corner's outside (of length 1), the width of its sign
+ *  with the value and without. */
+interface SignWish extends Box {
+    dx: number;
+    dy: number;
+    small: number;
+    weight: number;
+    optional: boolean;
+    /** Pixels from the road's edge. */
+    farthest?: number;
+}
+
+/** A place with the way out of the corner there, metres east and north of length 1. */
+interface SceneSign {
+    lat: number;
+    lng: number;
+    dx: number;
+    dy: number;
+    label: string;
+    value: string;
+    /** Of the frame, and of the value. */
+    colour: string;
+    ink: string;
+    /** Seconds; null where the values are no differences. */
+    weight: number | null;
+    /** Whether it may be left out, and is plain text. */
+    optional: boolean;
+    /** The zone that a click shows; -1 for none. */
+    zone: number;
+}
+
+interface SceneGate {
+    lat: number;
+    lng: number;
+    /** Degrees, of the way that is ridden. */
+    heading: number;
+    isStart: boolean;
+}
+
+interface SceneAct { lat: number, lng: number, isBraking: boolean, isOther: boolean }
+
+/** What the program says about the laps. */
+interface ScenePayload {
+    mode: string;
+    /** From 0 to 1 for each sample of the first lap; null where nothing is known. */
+    values: (number | null)[];
+    stops: string[];
+    colours: Record<"map" | "road" | "roadEdge" | "casing" | "text" | "secondText" | "card" | "edge"
+        | "lap1" | "lap2" | "neutral", string>;
+    signs: SceneSign[];
+    gates: SceneGate[];
+    acts: SceneAct[];
+    /** The way of a session without laps, of every so many samples. */
+    path?: ([number, number] | [null, null])[];
+    step?: number;
+    legend: Record<"from" | "to" | "other" | "brakes" | "gas" | "offline", string>;
+}
+
 /** [latitude, longitude], degrees; null without a position. */
 type PlacePair = [number, number] | null;
 
@@ -84,6 +151,7 @@ interface JsConnector {
     drawTwoLaps: Signal<[string, string]>;
     drawCursor: Signal<[string]>;
     drawSecondCursor: Signal<[string]>;
+    drawScene: Signal<[string]>;
     setOptions: Signal<[string]>;
     editPath: Signal<[string]>;
     editDraft: Signal<[string]>;

@@ -255,12 +255,16 @@ function showTwoLaps(first, second) {
 function redraw() {
     if (map === null || firstLap === null || isEditing())
         return;
-    if (secondLap === null)
+    // First of all: where signs stand depends on the zoom.
+    fitLap();
+    if (scene !== null)
+        showScene(firstLap, secondLap, scene);
+    else if (secondLap === null)
         showOneLap(firstLap);
     else
         showTwoLaps(firstLap, secondLap);
     showLegend();
-    fitLap();
+    showSceneLegend();
     // The frame after the next one is the first that certainly shows it.
     requestAnimationFrame(() => requestAnimationFrame(() => tell({ event: "drawn" })));
 }
@@ -270,6 +274,8 @@ function clearLaps() {
     remove([...firstLines, ...secondLines, ...speedMarkers, ...landmarkMarkers]);
     remove([targetCursor, rabbitCursor, secondCursor]);
     forgetShapes();
+    clearScene();
+    clearSceneCursors();
     showLegend();
 }
 
@@ -283,13 +289,15 @@ function forgetShapes() {
  * on the same track stays. A view that gets another size goes on showing the whole lap.
  */
 function fitLap() {
-    if (!isOffline() || map === null || firstLap === null || window.innerWidth === 0
-        || isEditing())
+    if (map === null || firstLap === null || window.innerWidth === 0 || isEditing())
+        return;
+    // The map service shows its own choice, unless the program says what is to be seen.
+    if (!isOffline() && scene === null)
         return;
     const lap = boundsOf(firstLap);
     if (lap.isEmpty() || (!fitWanted && map.getBounds()?.intersects(lap)))
         return;
-    map.fitBounds(lap, FitPadding);
+    map.fitBounds(lap, scene === null ? FitPadding : sceneMargin());
     fitWanted = false;
     showsWholeLap = true;
 }
@@ -300,7 +308,7 @@ function fitLapAgain() {
 }
 
 function showLegend() {
-    const hasLine = firstLines.length > 0;
+    const hasLine = firstLines.length > 0 && scene === null;
     const gradient = secondLap === null || options.compareGradient === "true";
     setHidden("legend", !hasLine);
     setHidden("gradientLegend", !gradient);
@@ -335,6 +343,10 @@ function drawCursorIcon(position, url, anchor) {
 
 /** @param {string} text a point */
 function drawCursor(text) {
+    if (scene !== null) {
+        drawSceneCursor(0, text);
+        return;
+    }
     const place = positionOf(JSON.parse(text));
     if (map === null || place === null || isEditing())
         return;
@@ -350,6 +362,10 @@ function drawCursor(text) {
 
 /** @param {string} text a point */
 function drawSecondCursor(text) {
+    if (scene !== null) {
+        drawSceneCursor(1, text);
+        return;
+    }
     const place = positionOf(JSON.parse(text));
     if (map === null || place === null || isEditing())
         return;
@@ -374,7 +390,7 @@ function pickSample(place) {
     // The whole world is 256 pixels wide at zoom 0.
     const degreesPerPixel = 360 / 256 / 2 ** (map.getZoom() ?? 0) * width;
     if (nearest <= ClickReach * degreesPerPixel)
-        tell({ event: "picked", index: distances.indexOf(nearest) });
+        tell({ event: "picked", index: distances.indexOf(nearest) * sampleStep() });
 }
 
 // What the program calls
@@ -420,7 +436,7 @@ function showStretch(text) {
     bounds.extend({ lat: south, lng: west });
     bounds.extend({ lat: north, lng: east });
     showsWholeLap = false;
-    map?.fitBounds(bounds, FitPadding);
+    map?.fitBounds(bounds, scene === null ? FitPadding : sceneMargin());
 }
 
 /** @param {string} text options */
@@ -453,6 +469,8 @@ function tell(message) {
 function startMapAnew() {
     document.getElementById("map")?.replaceChildren();
     forgetShapes();
+    clearScene();
+    clearSceneCursors();
     clearEditing();
     if (map !== null)
         initMap(centreText);
@@ -484,6 +502,7 @@ async function start() {
         connector.drawTwoLaps.connect(drawTwoLaps);
         connector.drawCursor.connect(drawCursor);
         connector.drawSecondCursor.connect(drawSecondCursor);
+        connector.drawScene.connect(drawScene);
         connector.setOptions.connect(setOptions);
         connector.editPath.connect(editPath);
         connector.editDraft.connect(editDraft);

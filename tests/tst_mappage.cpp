@@ -94,6 +94,24 @@ QString lap(double north = 0.0)
         .arg(line.join(u','), point(0, north, 0, 201), point(0.001, north, 0, 57));
 }
 
+/// What the program says about such a lap: rising from black to white, with two corners.
+QString scene()
+{
+    return QStringLiteral(
+        R"({"mode":"gain","values":[0,0.5,1,null,1],"stops":["#000000","#ffffff"],"colours":)"
+        R"({"map":"#101010","road":"#202020","roadEdge":"#303030","casing":"#404040",)"
+        R"("text":"#ffffff","secondText":"#cccccc","card":"#505050","edge":"#606060",)"
+        R"("lap1":"#0000ff","lap2":"#ff8000","neutral":"#707070"},"signs":[)"
+        R"({"lat":0,"lng":0.001,"dx":0,"dy":1,"label":"1","value":"+0.41","colour":"#ff8000",)"
+        R"("ink":"#ff8000","weight":0.41,"optional":false,"zone":3},)"
+        R"({"lat":0,"lng":0.002,"dx":0,"dy":1,"label":"2","value":"+0.01","colour":"#606060",)"
+        R"("ink":"#ffffff","weight":0.01,"optional":false,"zone":4}],)"
+        R"("gates":[{"lat":0,"lng":0,"heading":90,"isStart":true}],)"
+        R"("acts":[{"lat":0,"lng":0.0015,"isBraking":true,"isOther":false}],)"
+        R"("legend":{"from":"gaining","to":"losing","other":"reference, lap 6",)"
+        R"("brakes":"brakes","gas":"on the gas","offline":"Offline map"}})");
+}
+
 /// Samples from (46, 6) to the east, of which the last has no position.
 Points stretch()
 {
@@ -139,6 +157,11 @@ private Q_SLOTS:
     void cursors();
     void centres();
     void options();
+    void drawsScene();
+    void drawsRide();
+    void placesSigns_data();
+    void placesSigns();
+    void fillsItsView();
     void picksSamples();
     void drawsWhatCameEarly();
     void releasesWhatItDrew();
@@ -384,8 +407,120 @@ void TestMapPage::options()
     QCOMPARE(shapes("s.label.text", "s.visible && s.label"), "P1 P2 Start");
 }
 
+void TestMapPage::drawsScene()
+{
+    load(standIn());
+    run(call("initMap", {QStringLiteral("0°, 0°")}));
+    run(call("drawTwoLaps", {lap(), lap(1)}) + u';' + call("drawScene", {scene()}));
+    // The other lap dashed below, then the line in its colours on a casing.
+    QCOMPARE(shapes("`${s.strokeWeight}${s.strokeColor}${s.icons ? 'dashed' : ''}`", "s.path"),
+             "5#404040 3#ff8000dashed 7#404040 5#000000 5#808080 5#ffffff");
+    QCOMPARE(shapes("s.label.text", "s.label && s.visible"), "+0.41 1 +0.01 2");
+    QCOMPARE(
+        text(QStringLiteral("document.getElementById('line').innerText.replace(/\\s+/g, ' ')")),
+        "gaining losing reference, lap 6 brakes on the gas 200 m");
+    // A click on a sign, and the cursor as a dot.
+    QSignalSpy picked(m_view, &MapViewController::zonePicked);
+    run(QStringLiteral("shapes.find(s => s.label?.text === '2').click()"));
+    QTRY_COMPARE(picked.value(0).value(0).toInt(), 4);
+    run(call("drawCursor", {point(0.002, 0)}) + u';' + call("drawSecondCursor", {point(0.001, 1)}));
+    QCOMPARE(shapes("`${s.icon.fillColor}@${s.position.lng}`", "s.zIndex > 99999"),
+             "#0000ff@0.002 #ff8000@0.001");
+    run(call("drawOneLap", {lap()}));
+    QCOMPARE(shapes("s.icons", "s.icons"), "");
+    // Taken back, everything is as without it.
+    run(call("drawScene", {QStringLiteral("{}")}));
+    QCOMPARE(shapes("`${s.path.length}/${s.strokeWeight}`", "s.path"), "2/5 2/5 2/5");
+    QCOMPARE(shapes("s.label.text", "s.visible && s.label"), "57 201 P1 P2 Start");
+}
+
+// A whole session comes with the scene; a click means the sample of the recording.
+void TestMapPage::drawsRide()
+{
+    QString ride = scene();
+    ride.insert(1, QStringLiteral(R"("path":[[0,0],[0,0.001],[0,0.002],[null,null],[0,0.003]],)"
+                                  R"("step":10,)"));
+    run(call("drawScene", {ride}));
+    QCOMPARE(shapes("s.path.length", "s.path"), "4 2 2 2");
+    QSignalSpy picked(m_view, &MapViewController::samplePicked);
+    run(QStringLiteral("map.click({latLng: new google.maps.LatLng(0, 0.0021)})"));
+    QTRY_COMPARE(picked.value(0).value(0).toInt(), 20);
+    run(call("drawScene", {QStringLiteral("{}")}));
+}
+
+void TestMapPage::placesSigns_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QByteArray>("placed");
+
+    // A straight line to the right, signs above it; each told by its middle, "n" for its number
+    // alone, "-" for none.
+    const auto row
+        =
+            [](const char *name, const char *wishes, const char *bounds, const char *placed) {
+                QTest::newRow(name)
+                    << QStringLiteral(
+                           "const wish = (x, more) => ({x, y: 0, dx: 0, dy: -1, w: 60, small: 20,"
+                           " h: 20, weight: 0, optional: false, ...more});"
+                           "const track = [...Array(100).keys()].map((i) => ({x: 4 * i, y: 0}));"
+                           "placeSigns(%1, track, 5, %2).map((p) => p === null ? '-' : "
+                           "`${Math.round(p.box.x)},${Math.round(p.box.y)}"
+                           "${p.isWhole ? '' : 'n'}${p.leader ? 'l' : ''}`).join(' ')")
+                           .arg(QString::fromLatin1(wishes), QString::fromLatin1(bounds))
+                    << QByteArray(placed);
+            };
+    row("alone", "[wish(200)]", "null", "200,-23");
+    row("side by side", "[wish(200), wish(270)]", "null", "200,-23 270,-23");
+    row("the larger one first", "[wish(200), wish(230, {weight: 1})]", "null", "161,-23l 230,-23");
+    row("below, for lack of room", "[wish(200)]", "{left: 0, right: 400, top: -20, bottom: 99}",
+        "200,23");
+    row("its number only", "[wish(200)]", "{left: 185, right: 215, top: -99, bottom: 99}",
+        "200,-23n");
+    row("never dropped", "[wish(200), wish(200)]", "{left: 189, right: 211, top: -34, bottom: 9}",
+        "200,-23n 200,0n");
+    row("dropped when it may", "[wish(200), wish(200, {optional: true, farthest: 13})]",
+        "{left: 189, right: 211, top: -34, bottom: 9}", "200,-23n -");
+    row("out of sight", "[wish(500)]", "{left: 0, right: 400, top: -99, bottom: 99}", "-");
+}
+
+void TestMapPage::placesSigns()
+{
+    QFETCH(const QString, script);
+    QFETCH(const QByteArray, placed);
+    QCOMPARE(text(u'{' + script + u'}'), placed);
+}
+
+// Whatever the size of the view, a lap fills it; the view stays while the cursor is in sight.
+void TestMapPage::fillsItsView()
+{
+    qputenv("ZUNO_MAP_KEY", "");
+    load({});
+    m_view->initOnlineMap({}, -1);
+    run(call("drawOneLap", {lap()}) + u';' + call("drawScene", {scene()}));
+    const QString width
+        = QStringLiteral("(map.leaflet.latLngToContainerPoint([0, 0.003]).x"
+                         " - map.leaflet.latLngToContainerPoint([0, 0]).x) / innerWidth");
+    for (const QSize &size : {QSize(900, 700), QSize(530, 420), QSize(760, 330)}) {
+        m_window->resize(size);
+        QTRY_VERIFY(std::abs(run(QStringLiteral("innerWidth")).toInt() - size.width()) < 60);
+        QTRY_VERIFY2(run(width).toDouble() > 0.7, text(width).constData());
+    }
+    const QString centre = QStringLiteral("map.leaflet.getCenter().lng.toFixed(4)");
+    const QByteArray before = text(centre);
+    run(call("drawCursor", {point(0.0029, 0)}));
+    QCOMPARE(text(centre), before);
+    run(call("drawCursor", {point(0.01, 0)}));
+    QCOMPARE(text(centre), "0.0100");
+    QCOMPARE(text(QStringLiteral("document.getElementById('note').offsetHeight")), "0");
+    // The road is as wide as in metres, at any zoom.
+    run(QStringLiteral("map.leaflet.setZoom(20, {animate: false})"));
+    QTRY_VERIFY(run(QStringLiteral("roadLines[1].line.options.weight > 70")).toBool());
+}
+
 void TestMapPage::picksSamples()
 {
+    load(standIn());
+    run(call("initMap", {QStringLiteral("0°, 0°")}) + u';' + call("drawOneLap", {lap()}));
     QSignalSpy picked(m_view, &MapViewController::samplePicked);
     const auto click = [this](double lat, double lng) {
         run(QStringLiteral("map.click({latLng: new google.maps.LatLng(%1, %2)})")

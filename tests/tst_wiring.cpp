@@ -20,9 +20,11 @@
 #include <app/ending.h>
 #include <library/exportdialogs.h>
 #include <maps/editor/mapeditor.h>
+#include <maps/page/lineswitch.h>
 #include <maps/page/mapwebpage.h>
 #include <session/csvexport.h>
 #include <session/sessionfile.h>
+#include <theme/themes.h>
 #include <track/mapfile.h>
 #include <views/charts/lapchart.h>
 #include <views/charts/lapcharts.h>
@@ -139,8 +141,8 @@ private Q_SLOTS:
         QCOMPARE(first->lapNumber(), 3);
         QVERIFY(sent[0][0].toString().contains(
             u"\"dataTimeStamp\":%1,"_s.arg(first->points().front().dataTimeStamp)));
-        QCOMPARE(paddock.window->label("lb_compareFirst"), u"Lap 3"_s);
-        QCOMPARE(paddock.window->label("lb_compareSecond"), u"Lap 5"_s);
+        QCOMPARE(std::as_const(paddock.state()).second()->lapNumber(), 5);
+        QVERIFY(paddock.window->label("diffTime").contains(u"on the lap 5"_s));
     }
 
     // Of another session of the circuit; its laps are there as long as they are looked at.
@@ -174,6 +176,32 @@ private Q_SLOTS:
         QTest::keyClick(chart, Qt::Key_Right);
         QCOMPARE(paddock.state().cursor(), 51U);
         QCOMPARE(moved.count(), 2);
+    }
+
+    // Line mode and corner that are chosen on the map, and the theme, reach the page as a scene.
+    void scenes()
+    {
+        const Paddock paddock;
+        paddock.choose(4);
+        paddock.table().selectRow(2);
+        QSignalSpy sent(&paddock.page->connector(), &JSConnector::drawScene);
+        QTRY_VERIFY(paddock.page->connector().isConnected());
+        QTRY_VERIFY(!sent.isEmpty());
+        const auto mode = [&sent] { return sent.last()[0].toString().section(u'"', 3, 3); };
+        QTRY_COMPARE(mode(), u"gain"_s);
+        auto &line = paddock.window->part<LineSwitch>("lineSwitch");
+        line.showNext();
+        QTRY_COMPARE(mode(), u"speed"_s);
+        const QString dark = sent.last()[0].toString();
+        Themes::instance().choose(ThemeChoice::Light);
+        QTRY_VERIFY(sent.last()[0].toString() != dark);
+        Themes::instance().choose(ThemeChoice::Dark);
+        TrackZones zones(2);
+        zones[1].from = 20;
+        zones[1].to = 30;
+        paddock.state().setZones(zones);
+        Q_EMIT paddock.page->zonePicked(1);
+        QCOMPARE(paddock.state().shownZone(), std::optional<std::size_t>(1));
     }
 
     // In the charts: forwards is to the right.

@@ -23,6 +23,7 @@
 #include <app/emptypage.h>
 #include <app/help.h>
 #include <app/keysheet.h>
+#include <app/mapscene.h>
 #include <app/themebutton.h>
 #include <base/signedtext.h>
 #include <library/exportdialogs.h>
@@ -237,6 +238,7 @@ void ZunoAnalyzer::connectViews()
     const MapViewController *map = &m_map->view();
     const ChartState *state = &m_charts->state();
     connect(table, &LapsView::sectorChosen, state, &ChartState::showSector);
+    new MapScene(m_charts->state(), *m_map, m_charts);
     connect(map, &MapViewController::samplePicked, state, &ChartState::pinSample);
     connect(state, &ChartState::stretchShown, map, &MapViewController::showStretch);
     connect(m_charts, &LapCharts::cursorMoved, map, &MapViewController::drawCursor);

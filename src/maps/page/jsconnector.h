@@ -40,6 +40,7 @@ Q_SIGNALS:
     void resetFirstCursorRabbit();
     void resetFirstCursorTarget();
     void loadFinished();
+    void drawScene(const QString &scene);
     void setOptions(const QString &options);
     void editPath(const QString &path);
     void editDraft(const QString &draft);

@@ -6,8 +6,11 @@
 #include "ui_mappane.h"
 
 #include <QLocale>
+#include <QResizeEvent>
+#include <QShortcut>
 
 #include <base/numbers.h>
+#include <maps/page/lineswitch.h>
 #include <maps/page/mapviewcontroller.h>
 #include <session/session.h>
 #include <track/map.h>
@@ -18,8 +21,11 @@ MapPane::MapPane(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::MapPane>())
     , m_view(new MapViewController(this))
+    , m_line(new LineSwitch(this))
 {
     m_ui->setupUi(this);
+    m_ui->mapHeadLayout->addWidget(m_line);
+    makeKeys();
     m_view->init(this, m_ui->webview_layout);
     m_ui->lb_errorMap->setText(
         tr("No map found, please try to select one from the Map configuraton panel"));
@@ -27,6 +33,28 @@ MapPane::MapPane(QWidget *parent)
 }
 
 MapPane::~MapPane() = default;
+
+// They act as long as the map has the keyboard.
+void MapPane::makeKeys()
+{
+    const auto add = [this](Qt::Key key, auto act) {
+        auto *shortcut = new QShortcut(key, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    add(Qt::Key_L, [this] { m_line->showNext(); });
+    add(Qt::Key_Escape, [this] { Q_EMIT wholeLapAsked(); });
+}
+
+// The names of the map come first.
+void MapPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    constexpr int Margin = 40;
+    const int names
+        = m_ui->lb_mapSelected->sizeHint().width() + m_ui->lb_mapLength->sizeHint().width();
+    m_line->fitInto(width() - names - Margin);
+}
 
 void MapPane::showSession(const Session *session)
 {

@@ -9,6 +9,7 @@
 
 namespace zuno {
 
+class LineSwitch;
 class MapViewController;
 class Session;
 
@@ -26,6 +27,8 @@ public:
     ~MapPane() override;
 
     [[nodiscard]] MapViewController &view() { return *m_view; }
+    /// What the colours of the line tell.
+    [[nodiscard]] LineSwitch &line() { return *m_line; }
 
     /// Shows name and length of a session's map; nullptr for no session.
     void showSession(const Session *session);
@@ -33,10 +36,18 @@ public:
 Q_SIGNALS:
     /// The rider wants a map to be made from the session.
     void newMapRequested();
+    /// The rider wants to see the whole lap again.
+    void wholeLapAsked();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void makeKeys();
+
     std::unique_ptr<Ui::MapPane> m_ui;
     MapViewController *m_view;
+    LineSwitch *m_line;
 };
 
 } // namespace zuno

@@ -81,6 +81,7 @@ void MapViewController::init(QWidget *window, QLayout *layout)
             &MapViewController::onPageConnected);
     connect(m_page, &MapWebPage::drawn, this, &MapViewController::lapDrawn);
     connect(m_page, &MapWebPage::samplePicked, this, &MapViewController::samplePicked);
+    connect(m_page, &MapWebPage::zonePicked, this, &MapViewController::zonePicked);
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::onPageDied);
     connectEditing();
     m_view->setPage(m_page);
@@ -115,6 +116,8 @@ void MapViewController::onPageConnected()
 {
     m_isReady = false;
     m_life.start();
+    if (!m_scene.isEmpty())
+        Q_EMIT m_page->connector().drawScene(m_scene);
     Q_EMIT mapReady();
     sendPath();
     sendDraft(OutlineForm::Sent);
@@ -164,6 +167,13 @@ void MapViewController::drawSecondCursor(const QString &text)
 {
     if (m_view != nullptr)
         Q_EMIT m_page->connector().drawSecondCursor(text);
+}
+
+void MapViewController::drawScene(const QString &scene)
+{
+    m_scene = scene;
+    if (m_view != nullptr && m_page->connector().isConnected())
+        Q_EMIT m_page->connector().drawScene(m_scene);
 }
 
 void MapViewController::showStretch(const Points &points)

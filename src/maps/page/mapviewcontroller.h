@@ -61,6 +61,9 @@ public:
     /// Move the cursor of the first lap and of the second to a point payload.
     void drawCursor(const QString &text);
     void drawSecondCursor(const QString &text);
+    /// How the laps are drawn, as scenePayload() gives it. It is kept for a page that is loaded
+    /// again.
+    void drawScene(const QString &scene);
     /// Zooms to a stretch of a lap; nothing without a point that has a position.
     void showStretch(const Points &points);
     /// Tells the page the options that the settings file at @p settingsPath holds, or their
@@ -91,6 +94,8 @@ Q_SIGNALS:
     void lapDrawn();
     /// The rider clicked the first lap's line next to this sample.
     void samplePicked(int index);
+    /// The rider clicked the sign of a corner; the number is that of its zone in the scene.
+    void zonePicked(int zone);
 
     /// The rider drags a point of the draft, StartPointNumber or a timing point's index, and lets
     /// it go with @p done. The place is where the mouse is: whoever listens moves the point to the
@@ -126,6 +131,7 @@ private:
     MapWebPage *m_page = nullptr;
     PageFailure *m_failure = nullptr;
     std::optional<Editing> m_editing;
+    QString m_scene;
     bool m_isReady = false;
     // Of the page that lives now.
     QElapsedTimer m_life;

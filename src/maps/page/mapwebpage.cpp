@@ -129,6 +129,9 @@ void MapWebPage::onMessage(const QString &text)
     case PageMessage::Event::Picked:
         Q_EMIT samplePicked(message.index);
         break;
+    case PageMessage::Event::ZonePicked:
+        Q_EMIT zonePicked(message.index);
+        break;
     case PageMessage::Event::PointMoved:
         Q_EMIT pointMoved(message.point, message.place, message.done);
         break;

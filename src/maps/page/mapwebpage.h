@@ -35,6 +35,8 @@ Q_SIGNALS:
     void drawn();
     /// The rider clicked the first lap's line next to this sample.
     void samplePicked(int index);
+    /// The rider clicked the sign of a corner, by the number of its zone.
+    void zonePicked(int zone);
     /// The rider drags a draft's point, -1 for the start point; @p done when it is let go.
     void pointMoved(int point, const QGeoCoordinate &place, bool done);
     /// The rider drags a gate's circle; metres as a map's gate size.

@@ -57,6 +57,8 @@ PageMessage parsePageMessage(const QString &text)
         return {.event = Event::Drawn};
     if (event == u"picked")
         return only(index >= 0, {.event = Event::Picked, .index = index});
+    if (event == u"zonePicked")
+        return only(index >= 0, {.event = Event::ZonePicked, .index = index});
     if (event == u"pointMoved") {
         return only(hasPoint && place.isValid(),
                     {.event = Event::PointMoved, .point = point, .place = place, .done = done});

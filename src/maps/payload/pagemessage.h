@@ -20,6 +20,8 @@ struct PageMessage
         Drawn,
         /// The sample `index` of the first lap was clicked.
         Picked,
+        /// The sign of the zone `index` was clicked.
+        ZonePicked,
         /// A draft's point is dragged to `place`; `done` when it is let go.
         PointMoved,
         /// A draft's point was clicked or taken hold of.
@@ -40,9 +42,10 @@ struct PageMessage
     bool done = false;
 };
 
-/// Understands a JSON object whose "event" is "drawn", "picked", "pointMoved", "pointSelected",
-/// "gateResized" or "trackClicked". Anything can run in a page: what is no such object, is longer
-/// than such a message can be, or lacks what its event needs, in its range, gives no event.
+/// Understands a JSON object whose "event" is "drawn", "picked", "zonePicked", "pointMoved",
+/// "pointSelected", "gateResized" or "trackClicked". Anything can run in a page: what is no such
+/// object, is longer than such a message can be, or lacks what its event needs, in its range, gives
+/// no event.
 [[nodiscard]] PageMessage parsePageMessage(const QString &text);
 
 } // namespace zuno
