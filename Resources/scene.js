@@ -23,6 +23,8 @@ const MostFitMargin = 44;
 
 /** @type {ScenePayload | null} */
 let scene = null;
+/** The session without laps that it shows. @type {LapPayload | null} */
+let ride = null;
 /** What of it stands on the map. @type {google.maps.Polyline[]} */
 let sceneLines = [];
 /** @type {google.maps.Polyline[]} */
@@ -516,8 +518,9 @@ function drawScene(text) {
     if (scene === null)
         clearScene();
     clearSceneCursors();
-    if (scene?.path && scene.path.length > 0)
-        [firstLap, secondLap] = [rideOf(scene.path), null];
+    ride = scene?.path && scene.path.length > 0 ? rideOf(scene.path) : null;
+    if (ride !== null)
+        [firstLap, secondLap] = [ride, null];
     showSceneLegend();
     if (!wasShown && scene !== null)
         fitWanted = true;

@@ -447,7 +447,9 @@ function setOptions(text) {
 
 /** @param {string} text a lap */
 function drawOneLap(text) {
-    firstLap = JSON.parse(text);
+    const lap = JSON.parse(text);
+    // A session without laps stays where there is no lap.
+    firstLap = lap.lapPoints.length === 0 && ride !== null ? ride : lap;
     secondLap = null;
     redraw();
 }

@@ -441,6 +441,8 @@ void TestMapPage::drawsRide()
     ride.insert(1, QStringLiteral(R"("path":[[0,0],[0,0.001],[0,0.002],[null,null],[0,0.003]],)"
                                   R"("step":10,)"));
     run(call("drawScene", {ride}));
+    // It stays where no lap is said to be there.
+    run(call("drawOneLap", {QStringLiteral(R"({"lapPoints":[],"landmarks":[]})")}));
     QCOMPARE(shapes("s.path.length", "s.path"), "4 2 2 2");
     QSignalSpy picked(m_view, &MapViewController::samplePicked);
     run(QStringLiteral("map.click({latLng: new google.maps.LatLng(0, 0.0021)})"));

@@ -48,6 +48,7 @@ void MapScene::send()
     }
     m_map.line().setVisible(m_state.first() != nullptr);
     const auto mode = static_cast<LineMode>(m_map.line().mode());
+    m_map.line().showMode(static_cast<int>(shownMode(mode, m_state)));
     m_map.view().drawScene(QString::fromUtf8(scenePayload(m_state, mode)));
 }
 

@@ -39,17 +39,24 @@ LineSwitch::LineSwitch(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_row);
     layout->addWidget(m_menu);
-    m_modes->actions().constFirst()->setChecked(true);
-    m_menu->setText(m_modes->actions().constFirst()->text());
-    connect(m_modes, &QActionGroup::triggered, this, [this](const QAction *action) {
-        m_menu->setText(action->text());
-        Q_EMIT modeChosen(mode());
+    showMode(m_wanted);
+    connect(m_modes, &QActionGroup::triggered, this, [this](QAction *action) {
+        choose(static_cast<int>(m_modes->actions().indexOf(action)));
     });
 }
 
-int LineSwitch::mode() const
+void LineSwitch::choose(int mode)
 {
-    return static_cast<int>(m_modes->actions().indexOf(m_modes->checkedAction()));
+    m_wanted = mode;
+    showMode(mode);
+    Q_EMIT modeChosen(mode);
+}
+
+void LineSwitch::showMode(int mode)
+{
+    QAction *shown = m_modes->actions().at(mode);
+    shown->setChecked(true);
+    m_menu->setText(shown->text());
 }
 
 void LineSwitch::setAvailable(int mode, bool available)
@@ -60,8 +67,9 @@ void LineSwitch::setAvailable(int mode, bool available)
 void LineSwitch::showNext()
 {
     const QList<QAction *> all = m_modes->actions();
+    const qsizetype shown = all.indexOf(m_modes->checkedAction());
     for (qsizetype i = 1; i <= all.size(); ++i) {
-        QAction *next = all.at((mode() + i) % all.size());
+        QAction *next = all.at((shown + i) % all.size());
         if (next->isEnabled()) {
             next->trigger();
             return;

@@ -20,8 +20,10 @@ class LineSwitch final : public QWidget
 public:
     explicit LineSwitch(QWidget *parent = nullptr);
 
-    /// 0 gain and loss, 1 speed, 2 lean, 3 acceleration.
-    [[nodiscard]] int mode() const;
+    /// What the rider has chosen: 0 gain and loss, 1 speed, 2 lean, 3 acceleration.
+    [[nodiscard]] int mode() const { return m_wanted; }
+    /// Which one is shown, since there may be nothing to show of what was chosen.
+    void showMode(int mode);
     /// Which modes there is something to show of.
     void setAvailable(int mode, bool available);
     /// The next one there is, and after the last the first.
@@ -33,6 +35,9 @@ Q_SIGNALS:
     void modeChosen(int mode);
 
 private:
+    void choose(int mode);
+
+    int m_wanted = 0;
     QActionGroup *m_modes;
     QWidget *m_row;
     QToolButton *m_menu;

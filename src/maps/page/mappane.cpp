@@ -46,14 +46,23 @@ void MapPane::makeKeys()
     add(Qt::Key_Escape, [this] { Q_EMIT wholeLapAsked(); });
 }
 
-// The names of the map come first.
 void MapPane::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    arrangeHead();
+}
+
+// What is said of the map comes first.
+void MapPane::arrangeHead()
+{
     constexpr int Margin = 40;
-    const int names
-        = m_ui->lb_mapSelected->sizeHint().width() + m_ui->lb_mapLength->sizeHint().width();
-    m_line->fitInto(width() - names - Margin);
+    int room = width() - Margin;
+    for (const QWidget *part : std::initializer_list<QWidget *> {
+             m_ui->lb_mapSelected, m_ui->lb_mapLength, m_ui->lb_errorMap, m_ui->pb_newMapHere}) {
+        if (!part->isHidden())
+            room -= part->sizeHint().width();
+    }
+    m_line->fitInto(room);
 }
 
 void MapPane::showSession(const Session *session)
@@ -64,11 +73,14 @@ void MapPane::showSession(const Session *session)
     m_ui->lb_mapLength->setVisible(map != nullptr);
     m_ui->lb_errorMap->setVisible(lacksMap);
     m_ui->pb_newMapHere->setVisible(lacksMap && session->sampleCount() > 0);
-    if (map == nullptr)
+    if (map == nullptr) {
+        arrangeHead();
         return;
+    }
     m_ui->lb_mapSelected->setText(tr("Map : %1").arg(map->displayName()));
     m_ui->lb_mapLength->setText(
         tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
+    arrangeHead();
 }
 
 } // namespace zuno

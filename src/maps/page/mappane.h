@@ -44,6 +44,7 @@ protected:
 
 private:
     void makeKeys();
+    void arrangeHead();
 
     std::unique_ptr<Ui::MapPane> m_ui;
     MapViewController *m_view;

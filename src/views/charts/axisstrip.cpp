@@ -38,6 +38,15 @@ AxisStrip::AxisStrip(const ChartState &state, QWidget *parent)
     m_cursor->setTextFormat(Qt::PlainText);
     m_cursor->setAlignment(Qt::AlignCenter);
     m_cursor->setAttribute(Qt::WA_TransparentForMouseEvents);
+    connect(&Themes::instance(), &Themes::changed, this, &AxisStrip::colourCursor);
+    colourCursor();
+}
+
+void AxisStrip::colourCursor()
+{
+    m_cursor->setStyleSheet(
+        QStringLiteral("font-weight: bold; color: %1; background: %2")
+            .arg(theme().colour(Colour::Pane).name(), theme().colour(Colour::Cursor).name()));
 }
 
 QSize AxisStrip::sizeHint() const
@@ -97,21 +106,30 @@ void AxisStrip::paintEvent(QPaintEvent * /*event*/)
     const ChartLayout layout(fontMetrics());
     const PixelScale scale = layout.scale(m_state, width());
     const double step = layout.step(m_state, width());
+    const std::vector<SectionTag> tags = sectionTags();
     painter.setPen(now.colour(Colour::Text));
     for (const double place : layout.ticks(m_state, width())) {
         const QString text = numberText(place, step);
         const int space = fontMetrics().horizontalAdvance(text);
         const double left
             = std::min(scale.pixelOf(place) - (space / 2.0), static_cast<double>(width() - space));
-        painter.drawText(QRectF(left, 0, space, height()), Qt::AlignCenter, text);
+        const QRectF box(left, 0, space, height());
+        const bool isTaken = std::ranges::any_of(
+            tags, [&box](const SectionTag &tag) { return tag.box.intersects(box); });
+        if (!isTaken)
+            painter.drawText(box, Qt::AlignCenter, text);
     }
-    drawSections(painter);
+    for (const SectionTag &tag : tags) {
+        painter.fillRect(tag.box, now.colour(Colour::Raised));
+        painter.setPen(now.colour(Colour::SecondText));
+        painter.drawText(tag.box, Qt::AlignCenter, tag.text);
+    }
 }
 
-// A sign stands over a number that it would touch: the sections are fewer, and fixed.
-void AxisStrip::drawSections(QPainter &painter) const
+// The ends of the sections; a number that would touch one is left out.
+std::vector<AxisStrip::SectionTag> AxisStrip::sectionTags() const
 {
-    const Theme &now = theme();
+    std::vector<SectionTag> tags;
     const PixelScale scale = ChartLayout(fontMetrics()).scale(m_state, width());
     const auto &sectors = m_state.first()->sectors();
     for (std::size_t i = 0; i + 1 < sectors.size(); ++i) {
@@ -120,11 +138,10 @@ void AxisStrip::drawSections(QPainter &painter) const
             continue;
         const QString text = QStringLiteral("P%1").arg(sectors[i].sector + 1);
         const int space = fontMetrics().horizontalAdvance(text) + (2 * TagMargin);
-        const QRectF tag(scale.pixelOf(place) - (space / 2.0), 2, space, height() - 4);
-        painter.fillRect(tag, now.colour(Colour::Raised));
-        painter.setPen(now.colour(Colour::SecondText));
-        painter.drawText(tag, Qt::AlignCenter, text);
+        tags.push_back(
+            {QRectF(scale.pixelOf(place) - (space / 2.0), 2, space, height() - 4), text});
     }
+    return tags;
 }
 
 } // namespace zuno

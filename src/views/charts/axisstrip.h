@@ -3,6 +3,9 @@
 
 #pragma once
 
+#include <vector>
+
+#include <QRectF>
 #include <QWidget>
 
 class QLabel;
@@ -30,7 +33,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void drawSections(QPainter &painter) const;
+    struct SectionTag
+    {
+        QRectF box;
+        QString text;
+    };
+
+    void colourCursor();
+    [[nodiscard]] std::vector<SectionTag> sectionTags() const;
     [[nodiscard]] QString numberText(double place, double step) const;
 
     const ChartState &m_state;

@@ -31,7 +31,7 @@ constexpr int LeastHeight = 40;
 constexpr QSize UsualSize(600, 90);
 
 // Between two numbers of the vertical axis, in heights of a line of text.
-constexpr double VerticalSpacing = 1.5;
+constexpr double VerticalSpacing = 1.15;
 
 constexpr int BandAlpha = 0x38;
 constexpr int GroundAlpha = 0x48;
