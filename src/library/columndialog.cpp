@@ -27,13 +27,12 @@ namespace zuno {
 
 namespace {
 
-enum Cell { Name, Values, QuantityCell, UnitCell, CellCount };
+enum Cell { Name, Value, QuantityCell, UnitCell, CellCount };
 
 constexpr int Unused = -1;
 // What is enough for a few laps, and is read at once.
 constexpr qint64 PreviewSize = 2 * 1024 * 1024;
-constexpr std::size_t ValuesShown = 3;
-constexpr int Width = 100; // characters
+constexpr int Width = 125; // characters
 constexpr int Height = 36; // lines
 
 std::vector<RidePreview::Point> pointsOf(const ConvertedRide &ride)
@@ -99,14 +98,16 @@ QString ColumnDialog::key() const
 void ColumnDialog::fillTable(const ColumnMapping &mapping)
 {
     m_table->setColumnCount(CellCount);
-    m_table->setHorizontalHeaderLabels({tr("Column"), tr("Values"), tr("Quantity"), tr("Unit")});
+    m_table->setHorizontalHeaderLabels({tr("Column"), tr("Value"), tr("Quantity"), tr("Unit")});
     m_table->verticalHeader()->hide();
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setRowCount(static_cast<int>(m_sheet.heading.names.size()));
     for (int column = 0; column < m_table->rowCount(); ++column)
         addRow(column, mapping);
-    m_table->resizeColumnsToContents();
-    m_table->horizontalHeader()->setSectionResizeMode(Values, QHeaderView::Stretch);
+    m_table->setWordWrap(false);
+    // Boxes are as wide as their texts, which change with the quantity.
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(Value, QHeaderView::Stretch);
 }
 
 void ColumnDialog::addRow(int column, const ColumnMapping &mapping)
@@ -116,16 +117,16 @@ void ColumnDialog::addRow(int column, const ColumnMapping &mapping)
     m_table->setItem(
         column, Name,
         new QTableWidgetItem(unit.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, unit)));
-    QStringList values;
+    QString value;
     for (const auto &row : m_sheet.rows) {
         const auto i = static_cast<std::size_t>(column);
-        if (i < row.size() && !row[i].trimmed().isEmpty()
-            && static_cast<std::size_t>(values.size()) < ValuesShown)
-            values.append(QString::fromUtf8(row[i].trimmed()));
+        if (value.isEmpty() && i < row.size())
+            value = QString::fromUtf8(row[i].trimmed());
     }
-    m_table->setItem(column, Values, new QTableWidgetItem(values.join(QStringLiteral("   "))));
+    m_table->setItem(column, Value, new QTableWidgetItem(value));
     auto *quantities = new QComboBox;
     auto *units = new QComboBox;
+    units->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     quantities->addItem(tr("not used"), Unused);
     for (int i = 0; i < static_cast<int>(QuantityCount); ++i) {
         quantities->addItem(nameOfQuantity(static_cast<Quantity>(i)), i);
