@@ -36,7 +36,7 @@ QByteArray madeUpVbo()
     for (int i = 0; text.size() < Size; ++i) {
         const double angle = 0.004 * i;
         const int second = i / 25;
-        const auto number = [](double value, int decimals) {
+        const auto number = [](double value, int decimals) -> QByteArray {
             return (value < 0 ? QByteArray("-") : QByteArray("+"))
                    + QByteArray::number(std::abs(value), 'f', decimals);
         };
