@@ -420,6 +420,21 @@ private Q_SLOTS:
         QCOMPARE(reading.facts.damage.lines, 0);
     }
 
+    void lapNumbers()
+    {
+        const auto marks = [](int first, int second) {
+            QByteArray text = "time,latitude,longitude,lap_number\n";
+            for (int i = 0; i < 100; ++i) {
+                text += QByteArray::number(0.1 * i, 'f', 1) + ",45.0,9.0,"
+                        + (i < first ? QByteArray() : QByteArray::number(i < second ? 1 : 2))
+                        + '\n';
+            }
+            return read(text).facts.lapMarks;
+        };
+        QCOMPARE(marks(40, 70), (std::vector<double> {4.0, 7.0}));
+        QCOMPARE(marks(5, 70), (std::vector<double> {7.0}));
+    }
+
     void dateOfSixDigits()
     {
         const QByteArray row = ",201211,13,20,5,45.0,9.0\n";

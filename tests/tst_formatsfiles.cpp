@@ -72,6 +72,21 @@ private Q_SLOTS:
         QVERIFY(session->notes().contains(u"Sign turned: lateral acceleration"_s));
     }
 
+    // The file's own date stands in for one; a time of day stays, and what comes later is later.
+    void withoutDate()
+    {
+        QCOMPARE(imported("racecapture-old")->recording().time, u"10:20:30"_s);
+        QByteArray outings = "time,latitude,longitude\n";
+        for (int i = 0; i < 400; ++i) {
+            outings += QByteArray::number(0.1 * i + (i < 200 ? 0 : 1000), 'f', 1) + ','
+                       + QByteArray::number(45 + 1e-5 * i, 'f', 6) + ",9.0\n";
+        }
+        putFile(path(u"outings.csv"_s), outings);
+        const ImportOutcome outcome = importInto(path(u"outings"_s), path(u"outings.csv"_s));
+        QCOMPARE(outcome.sessions.size(), std::size_t(2));
+        QCOMPARE(outcome.sessions[0].begin.secsTo(outcome.sessions[1].begin), 1020);
+    }
+
     // The same file is not imported again, also when it has another name, nor written over another.
     void again()
     {

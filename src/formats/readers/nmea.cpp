@@ -66,6 +66,7 @@ private:
 ReadEnd Nmea::read()
 {
     m_facts.logger = QStringLiteral("NMEA");
+    m_facts.isTimeOfDay = true;
     while (!m_sink.isCancelled()) {
         const auto line = m_lines.next();
         if (!line)

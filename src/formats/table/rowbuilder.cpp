@@ -12,6 +12,8 @@ namespace zuno {
 namespace {
 
 constexpr double Day = 86400;
+// Seconds; whatever is told at all is told as often.
+constexpr double SparseRows = 2.5;
 
 QDateTime utc(QDate date, double seconds = 0)
 {
@@ -157,11 +159,16 @@ void RowBuilder::noteBegin(const Cells &cells, double seconds)
     m_facts.clockZero = utc(date, (std::isnan(timeOfDay) ? 0.0 : timeOfDay) - seconds);
 }
 
+// Before the first lap the number is missing; but a number that is not told in every row is missing
+// in the first ones, too.
 void RowBuilder::noteLap(double lap, double time)
 {
+    if (std::isnan(m_begin))
+        m_begin = time;
     if (std::isnan(lap) || std::isnan(time))
         return;
-    if (!std::isnan(m_lap) && lap != m_lap)
+    const bool isFirst = std::isnan(m_lap);
+    if (isFirst ? time - m_begin > SparseRows : lap != m_lap)
         m_facts.lapMarks.push_back(time);
     m_lap = lap;
 }

@@ -42,6 +42,7 @@ private:
     QDate m_firstDate;
     double m_dateOffset = 0.0;
     double m_lap = NoValue;
+    double m_begin = NoValue;
     int m_lastColumn = -1;
     bool m_isBad = false;
 };
