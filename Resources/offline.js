@@ -65,6 +65,7 @@
                 // Lines beside the view are drawn too, so that moving it uncovers no gap.
                 renderer: L.canvas({ padding: 0.5 }),
                 attributionControl: false,
+                zoomControl: false,
                 // Any zoom, so that what is fitted into the view fills it.
                 zoomSnap: 0,
                 zoomDelta: 0.5,
@@ -74,6 +75,7 @@
             });
             // Beside the canvas, which would draw all its lines again for each change of a circle.
             this.circles = L.svg({ padding: 0.5 });
+            L.control.zoom({ position: "bottomleft" }).addTo(this.leaflet);
             L.control.scale({ imperial: false }).addTo(this.leaflet);
             const centre = /** @type {google.maps.LatLngLiteral} */ (options.center);
             this.leaflet.setView(toLeaflet(centre), options.zoom ?? undefined);

@@ -305,6 +305,13 @@ function trackSpots(zoom) {
     return spots;
 }
 
+/** The buttons of either map: below on the left, or on the right. @param {Bounds} bounds */
+function buttonBlocks(bounds) {
+    const [w, h] = isOffline() ? [48, 84] : [60, 120];
+    const x = isOffline() ? bounds.left + w / 2 : bounds.right - w / 2;
+    return [{ x, y: bounds.bottom - h / 2, w, h }];
+}
+
 /** Places all signs for the zoom there is. */
 function drawSigns() {
     remove([...sceneSigns, ...leaderLines]);
@@ -319,7 +326,7 @@ function drawSigns() {
         spot.x > bounds.left - 50 && spot.x < bounds.right + 50
         && spot.y > bounds.top - 50 && spot.y < bounds.bottom + 50);
     const placed = placeSigns(shown.signs.map((sign) => wishOf(sign, zoom)), near,
-        roadPixels() / 2, bounds);
+        roadPixels() / 2, bounds, bounds === null ? [] : buttonBlocks(bounds));
     shown.signs.forEach((sign, i) => {
         const found = placed[i];
         if (found === null)
@@ -388,6 +395,7 @@ function watchMap() {
 function moveSceneCursor(which, position) {
     const colours = /** @type {ScenePayload} */ (scene).colours;
     const cursor = sceneCursors[which];
+    // The first lap's stands above the other, also where that one is nearer to the lower edge.
     if (cursor !== null) {
         cursor.setPosition(position);
         return;
@@ -397,7 +405,7 @@ function moveSceneCursor(which, position) {
         fillColor: which === 0 ? colours.lap1 : colours.lap2,
         strokeColor: colours.text,
         strokeWeight: 2,
-    }, null, 1000000 - which);
+    }, null, 1000000 - 10000 * which);
 }
 
 /** The text of a point that the cursor is at. @param {number} which @param {string} text */
@@ -458,12 +466,12 @@ function showSceneLegend() {
     document.body.style.setProperty("--edge", colours.edge);
     const bar = legendPart("bar", "");
     bar.style.background = `linear-gradient(to right, ${stops.join(", ")})`;
-    const parts = [legendPart("", legend.from), bar, legendPart("", legend.to)];
+    const parts = [legendPart("text", legend.from), bar, legendPart("text", legend.to)];
     const sample = (/** @type {string} */ kind, /** @type {string} */ colour,
         /** @type {string} */ text) => {
         const sign = legendPart(kind, "");
         sign.style.setProperty("--sign", colour);
-        parts.push(sign, legendPart("", text));
+        parts.push(sign, legendPart("text", text));
     };
     if (secondLap !== null)
         sample("dash", colours.lap2, legend.other);

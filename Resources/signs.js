@@ -147,10 +147,12 @@ function forcedPlace(wish, field) {
  * @param {Spot[]} track places on the line, at most some pixels apart
  * @param {number} road half the width of what must stay free, pixels
  * @param {Bounds | null} bounds of what is seen
+ * @param {Box[]} blocks what stands there already, as buttons
  * @returns {(PlacedSign | null)[]} in the order of the wishes
  */
-function placeSigns(wishes, track, road, bounds) {
+function placeSigns(wishes, track, road, bounds, blocks = []) {
     const field = new SignField(track, road, bounds);
+    field.boxes.push(...blocks);
     /** @type {(PlacedSign | null)[]} */
     const placed = wishes.map(() => null);
     const order = wishes.map((_, i) => i);

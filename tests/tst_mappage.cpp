@@ -482,6 +482,7 @@ void TestMapPage::placesSigns_data()
         "200,-23n 200,0n");
     row("dropped when it may", "[wish(200), wish(200, {optional: true, farthest: 13})]",
         "{left: 189, right: 211, top: -34, bottom: 9}", "200,-23n -");
+    row("beside a button", "[wish(200)]", "null, [{x: 200, y: -30, w: 90, h: 30}]", "289,-24l");
     row("out of sight", "[wish(500)]", "{left: 0, right: 400, top: -99, bottom: 99}", "-");
 }
 

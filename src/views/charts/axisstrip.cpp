@@ -114,8 +114,9 @@ void AxisStrip::paintEvent(QPaintEvent * /*event*/)
         const double left
             = std::min(scale.pixelOf(place) - (space / 2.0), static_cast<double>(width() - space));
         const QRectF box(left, 0, space, height());
+        const QRectF wide = box.adjusted(-TagMargin, 0, TagMargin, 0);
         const bool isTaken = std::ranges::any_of(
-            tags, [&box](const SectionTag &tag) { return tag.box.intersects(box); });
+            tags, [&wide](const SectionTag &tag) { return tag.box.intersects(wide); });
         if (!isTaken)
             painter.drawText(box, Qt::AlignCenter, text);
     }
