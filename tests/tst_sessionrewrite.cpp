@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <atomic>
 #include <csignal>
+#include <thread>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #ifdef Q_OS_UNIX
 #include <sys/resource.h>
@@ -240,6 +243,39 @@ private Q_SLOTS:
         expected.bestLap = "00:03.500";
         expected.invalidLaps = "\x03\x04";
         QCOMPARE(informationBlock(*session), expected.bytes());
+    }
+
+    // Somebody writes the file in the same moment: it is left to him, and nothing of his is lost.
+    // Meanwhile other copies of the program are locked out, by a lock that is the rider's own.
+    void writtenMeanwhile()
+    {
+        const QTemporaryDir runtime;
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+        const QByteArray before = withoutLists({}) + QByteArray(1 << 25, 'x');
+        putFile(m_path, before);
+        const OpenedSession opened = openSession(m_path);
+        opened.session->setNotes(u"dry"_s);
+        std::atomic<qint64> added = 0;
+        std::atomic<bool> isOver = false;
+        bool wasLocked = false;
+        std::thread other([&] {
+            QFile file(m_path);
+            (void)file.open(QIODevice::Append | QIODevice::Unbuffered);
+            while (!isOver) {
+                added += file.write("y");
+                wasLocked |= !QDir(runtime.path()).isEmpty();
+                QThread::usleep(100);
+            }
+        });
+        while (added == 0)
+            QThread::usleep(100);
+        const RewriteOutcome outcome = rewriteSessionFile(*opened.session).outcome;
+        isOver = true;
+        other.join();
+        QCOMPARE(outcome, RewriteOutcome::BeingWritten);
+        QCOMPARE(contents(m_path).size(), before.size() + added);
+        QVERIFY(wasLocked);
+        QVERIFY(QDir(runtime.path()).isEmpty());
     }
 
     // Two copies of the program on one library: neither undoes what the other has written.
