@@ -10,11 +10,16 @@
 #include <QTimer>
 
 #include <base/settings.h>
+#include <formats/import/importer.h>
+#include <formats/sessionride.h>
 #include <library/acquisitionlibrary.h>
 #include <library/informationwriter.h>
 #include <library/sessiondisplay.h>
 #include <maps/editor/mapedit.h>
 #include <maps/editor/mapmaker.h>
+#include <session/session.h>
+#include <session/sessionfile.h>
+#include <track/map.h>
 #include <track/mapfile.h>
 #include <track/mapname.h>
 
@@ -224,6 +229,36 @@ private Q_SLOTS:
         QCOMPARE(shownMap(), QString());
         QVERIFY(settings.mapChoice(AtValmora).isNull());
         QVERIFY(QFile::exists(root.filePath(u"Trash/files/Turn.map"_s)));
+    }
+
+    // A new map of an imported session has the line that the imported file names.
+    void importedLine()
+    {
+        const QTemporaryDir root;
+        const Settings settings(root.path());
+        const OpenedSession demo = decodeSession(demoFile(AtValmora), AtValmora);
+        RideToExport ride = rideOf(*demo.session);
+        const PointAcquisition &sample = ride.samples[ride.samples.size() / 2];
+        const QGeoCoordinate line(sample.dataCoordY, sample.dataCoordX);
+        ride.gates = {{u"Line"_s, line, line, true, true}};
+        putFile(root.filePath(u"a.vbo"_s), rideAsVbo(ride));
+        ImportOptions options;
+        options.folder = settings.acquisitionFolder();
+        const ImportOutcome outcome = importRecording(root.filePath(u"a.vbo"_s), options);
+        QCOMPARE(outcome.sessions.size(), std::size_t(1));
+        AcquisitionLibrary library;
+        library.load(settings.acquisitionFolder());
+        const MapLibrary maps;
+        InformationWriter writer;
+        SessionDisplay display({library, maps, settings, writer});
+        display.display(outcome.sessions[0].path);
+        MapMaker maker({library, maps, display, settings}, nullptr);
+        answer({u"Own"_s});
+        maker.newMap();
+        const auto map = readMapFile(settings.mapsFolder() + u"/Own.map", settings.mapsFolder());
+        QVERIFY(map != nullptr);
+        QVERIFY2(map->startPoint().distanceTo(line) < 10,
+                 qPrintable(QString::number(map->startPoint().distanceTo(line))));
     }
 
 private:

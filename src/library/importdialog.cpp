@@ -92,8 +92,12 @@ void ImportDialog::add(const QStringList &paths)
 
 void ImportDialog::read(const QString &path)
 {
+    const bool isFirst = !m_reader.isBusy();
     m_reader.read(path, m_columns.all());
     refresh();
+    // A large file is looked for in the library before anything can be told of it.
+    if (isFirst)
+        showProgress(path, 0);
 }
 
 void ImportDialog::take(const QString &path, const ImportOutcome &outcome)
