@@ -151,7 +151,11 @@
             this.line = line;
         }
         /** @param {{ strokeWeight: number }} options */
-        setOptions(options) { this.line.setStyle({ weight: options.strokeWeight }); }
+        setOptions(options) {
+            // The library fails on a line without points.
+            if (!this.line.isEmpty())
+                this.line.setStyle({ weight: options.strokeWeight });
+        }
     }
 
     class Circle extends Shape {

@@ -159,7 +159,7 @@ function roadPixels() {
 /** The grey road, as wide as it is in metres; a satellite map has the real one. */
 function drawRoad(/** @type {google.maps.LatLngLiteral[]} */ path,
                   /** @type {ScenePayload} */ shown) {
-    if (!isOffline())
+    if (!isOffline() || path.length < 2)
         return [];
     return [drawSolid(path, shown.colours.roadEdge, roadPixels() + 2),
         drawSolid(path, shown.colours.road, roadPixels())];

@@ -518,6 +518,12 @@ void TestMapPage::fillsItsView()
     // The road is as wide as in metres, at any zoom.
     run(QStringLiteral("map.leaflet.setZoom(20, {animate: false})"));
     QTRY_VERIFY(run(QStringLiteral("roadLines[1].line.options.weight > 70")).toBool());
+    // A lap without positions is none, at any zoom, and the next one is drawn again.
+    run(call("drawOneLap", {QStringLiteral(R"({"lapPoints":[],"landmarks":[]})")}));
+    run(QStringLiteral("map.leaflet.setZoom(16, {animate: false})"));
+    QSignalSpy drawn(m_view, &MapViewController::lapDrawn);
+    run(call("drawOneLap", {lap()}));
+    QTRY_VERIFY(!drawn.isEmpty());
 }
 
 void TestMapPage::picksSamples()
