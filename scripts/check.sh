@@ -2,13 +2,13 @@
 # SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
-# Every check that runs nothing of the program: layout, static analysis, the map page's scripts, the
+# Every check that runs nothing of the program: layout, static analysis, colours, the map page's scripts, the
 # translations, the manual. All of them run; the script fails when one of them does.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 failed=()
-for what in format static page translations manual; do
+for what in format static colours page translations manual; do
     started=$SECONDS
     echo "=== $what"
     "scripts/check-$what.sh" || failed+=("$what")

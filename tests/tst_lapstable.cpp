@@ -4,7 +4,6 @@
 #include <memory>
 
 #include <QAbstractItemModelTester>
-#include <QColor>
 #include <QFile>
 #include <QMenu>
 #include <QSignalSpy>
@@ -14,6 +13,7 @@
 
 #include <base/settings.h>
 #include <session/session.h>
+#include <theme/themes.h>
 #include <track/map.h>
 #include <views/laps/lapselection.h>
 #include <views/laps/lapstablemodel.h>
@@ -69,9 +69,9 @@ QString rowText(const QAbstractItemModel &model, int row)
 /// The backgrounds of a row's cells, a letter each.
 QString colours(const QAbstractItemModel &model, int row)
 {
-    const QMap<QString, QString> letters {{QColor(Qt::red).name(), u"r"_s},
-                                          {QColor(Qt::darkGreen).name(), u"g"_s},
-                                          {QColor(Qt::darkMagenta).name(), u"m"_s}};
+    const QMap<QString, QString> letters {{theme().colour(Colour::ThrownOut).name(), u"r"_s},
+                                          {theme().colour(Colour::BestLap).name(), u"g"_s},
+                                          {theme().colour(Colour::BestSection).name(), u"m"_s}};
     QString text;
     for (int column = 0; column < model.columnCount(); ++column) {
         const QVariant background = model.index(row, column).data(Qt::BackgroundRole);

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -100,6 +102,35 @@ private Q_SLOTS:
         QVERIFY(!theme().isDark());
         QCOMPARE(units().speedName(), u"mph"_s);
         QVERIFY(question.contains(u"language"_s));
+        ShownUnits::instance().choose({});
+    }
+
+    // The same temperature in the other unit; typed in it, it is stored in degrees Celsius.
+    void temperature_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("stored");
+        QTest::newRow("freezing") << u"32"_s << 0;
+        QTest::newRow("warm") << u"77"_s << 25;
+        QTest::newRow("highest") << u"489"_s << 254;
+        QTest::newRow("not possible") << u"600"_s << 16;
+    }
+
+    void temperature()
+    {
+        QFETCH(const QString, typed);
+        m_window->select(m_home->path(AtValmora));
+        m_window->part<QTabWidget>("tabWidget").setCurrentIndex(1);
+        auto &box = m_window->part<QSpinBox>("sb_trackTemp");
+        box.setValue(20);
+        ShownUnits::instance().choose({.temperatureUnit = Units::Temperature::Fahrenheit});
+        QCOMPARE(box.text(), u"68"_s);
+        QCOMPARE(m_window->label("l_degrees"), u"\u00b0F"_s);
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClicks(&box, typed);
+        QTest::keyClick(&box, Qt::Key_Return);
+        QTEST(box.value(), "stored");
         ShownUnits::instance().choose({});
     }
 

@@ -107,6 +107,7 @@ private Q_SLOTS:
         QTest::newRow("best section") << QList {BestSectionText} << QList {BestSection} << 4.5;
         QTest::newRow("selected") << QList {SelectedText, SelectedLoss} << QList {SelectedRow}
                                   << 4.5;
+        QTest::newRow("thrown out") << QList {Text} << QList {ThrownOut} << 4.5;
         QTest::newRow("warning") << QList {WarningInk} << QList {Warning} << 4.5;
         QTest::newRow("error") << QList {Error} << QList {Window, Pane, Card} << 4.5;
         QTest::newRow("laps' lines")

@@ -115,7 +115,11 @@ QList<KeyHelp> chartKeys()
         {{Qt::Key_Home, Qt::Key_End}, KeySheet::tr("Cursor to the begin or end")},
         {{Qt::Key_Plus, Qt::Key_Minus}, KeySheet::tr("Zoom in or out around the cursor")},
         {{Qt::Key_PageUp, Qt::Key_PageDown}, KeySheet::tr("A page back or on")},
+        {{Qt::Key_1, Qt::Key_2, Qt::Key_3}, KeySheet::tr("The biggest losses")},
+        {{Qt::Key_Comma, Qt::Key_Period}, KeySheet::tr("The corner before or after")},
         {{Qt::Key_Escape}, KeySheet::tr("The whole lap")},
+        {{Qt::Key_D, Qt::Key_T}, KeySheet::tr("Over the distance or the time")},
+        {{Qt::Key_M}, KeySheet::tr("Measure between two places")},
     };
 }
 

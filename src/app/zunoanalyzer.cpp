@@ -130,6 +130,7 @@ void ZunoAnalyzer::createActions()
     add(QStringLiteral("   ?   "), QKeySequence(Qt::SHIFT | Qt::Key_F1), &ZunoAnalyzer::openAbout);
     menuBar()->setCornerWidget(new ThemeButton(m_settings, menuBar()));
     auto *const keys = new QAction(tr("All keys"), this);
+    keys->setObjectName(QStringLiteral("action_keys"));
     keys->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Slash), QKeySequence(Qt::Key_Question)});
     connect(keys, &QAction::triggered, this, [this] { KeySheet(keysOf(*this), this).exec(); });
     addAction(keys);
@@ -518,6 +519,8 @@ void ZunoAnalyzer::openStatistics()
         connect(&m_library, &AcquisitionLibrary::sessionsChanged, m_statistics,
                 [this] { m_statistics->setSessions(m_library.sessions()); });
         connect(m_infos, &SessionInfos::saved, m_statistics, &SessionsStats::refreshSoon);
+        connect(&ShownUnits::instance(), &ShownUnits::changed, m_statistics,
+                &SessionsStats::refreshSoon);
         connect(&m_laps->table(), &LapsView::validityChanged, m_statistics,
                 &SessionsStats::refreshSoon);
         connect(&m_display, &SessionDisplay::mapApplied, m_statistics, &SessionsStats::refreshSoon);

@@ -15,6 +15,7 @@
 #include <session/idealtimetext.h>
 #include <session/session.h>
 #include <stats/informationnotice.h>
+#include <theme/shownunits.h>
 #include <track/map.h>
 #include <widgets/makerlinks.h>
 #include <widgets/plaintexts.h>
@@ -135,6 +136,8 @@ void SessionInfos::connectEdits()
         m_ui->l_degrees->setVisible(degrees != SessionInformation::UnknownTemperature);
     });
     connect(m_ui->te_infos, &QTextEdit::textChanged, this, &SessionInfos::onNotesChanged);
+    connect(&ShownUnits::instance(), &ShownUnits::changed, this, &SessionInfos::showUnit);
+    showUnit();
     connect(&m_storable, &StorableEdits::replaced, this, &SessionInfos::showHint);
     m_ui->te_infos->installEventFilter(this);
     const std::array<QWidget *, 2> turned {m_ui->cb_weather, m_ui->sb_trackTemp};
@@ -194,6 +197,14 @@ void SessionInfos::fillTemperature(int degrees)
     if (isTyped(m_ui->sb_trackTemp))
         return;
     m_ui->sb_trackTemp->setValue(degrees);
+    m_filled[m_ui->sb_trackTemp] = m_ui->sb_trackTemp->text();
+}
+
+void SessionInfos::showUnit()
+{
+    const bool isCelsius = units().temperatureUnit == Units::Temperature::Celsius;
+    m_ui->l_degrees->setText(isCelsius ? tr("degres") : units().temperatureName());
+    // The same value reads otherwise now, and nobody has typed it.
     m_filled[m_ui->sb_trackTemp] = m_ui->sb_trackTemp->text();
 }
 

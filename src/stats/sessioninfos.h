@@ -66,6 +66,7 @@ private:
     template<typename Edit>
     void fill(Edit *edit, const QString &text);
     void fillTemperature(int degrees);
+    void showUnit();
     void fillLabels();
     void storeEvent();
     void storeTexts();

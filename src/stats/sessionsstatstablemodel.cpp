@@ -11,6 +11,7 @@
 
 #include <session/session.h>
 #include <stats/sessionfilter.h>
+#include <theme/shownunits.h>
 
 namespace zuno {
 
@@ -33,7 +34,12 @@ std::optional<qint32> temperatureOf(const Session &session)
 QString temperatureText(const Session &session)
 {
     const auto degrees = temperatureOf(session);
-    return degrees ? QString::number(*degrees) : QString();
+    if (!degrees)
+        return {};
+    // As it is typed; what differs from that says so.
+    return units().temperatureUnit == Units::Temperature::Celsius
+               ? QString::number(*degrees)
+               : units().temperatureText(*degrees);
 }
 
 /// What a cell is sorted by; none for a cell that is no value.

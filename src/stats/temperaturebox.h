@@ -7,7 +7,8 @@
 
 namespace zuno {
 
-/// A spin box for the track's temperature in degrees, 0 to 255 as the file stores it. The value
+/// A spin box for the track's temperature: its value is in degrees Celsius, 0 to 255 as the file
+/// stores it, and shown and typed in the rider's unit. The value
 /// that stands for a temperature nobody noted reads "unknown", and can be typed so.
 class TemperatureBox final : public QSpinBox
 {
@@ -23,6 +24,9 @@ protected:
     [[nodiscard]] QString textFromValue(int value) const override;
     [[nodiscard]] int valueFromText(const QString &text) const override;
     QValidator::State validate(QString &input, int &pos) const override;
+
+private:
+    [[nodiscard]] QValidator::State validateNumber(QString &input, int &pos) const;
 };
 
 } // namespace zuno

@@ -65,6 +65,7 @@ constexpr std::array<Entry, ColourCount> Table {{
     {Colour::BestSection, u"bestSection", 0xff7a2e9e, 0xffe6cff3},
     {Colour::BestSectionText, u"bestSectionText", 0xffffffff, 0xff36104a},
     {Colour::BestSectionBar, u"bestSectionBar", 0xffe9c4ff, 0xff7a2e9e},
+    {Colour::ThrownOut, u"thrownOut", 0xff7c1d22, 0xfff6cfd0},
     {Colour::SelectedRow, u"selectedRow", 0xff1464a1, 0xffcfe4fa},
     {Colour::SelectedText, u"selectedText", 0xffffffff, 0xff0e1720},
     {Colour::SelectedLoss, u"selectedLoss", 0xffffffff, 0xff9a3a00},

@@ -68,6 +68,7 @@ enum class Colour {
     BestSection,
     BestSectionText,
     BestSectionBar,
+    ThrownOut,
     SelectedRow,
     SelectedText,
     SelectedLoss,

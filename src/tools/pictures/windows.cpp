@@ -154,6 +154,7 @@ struct Window
 
 constexpr Window Windows[] {
     {"settings", [](Stage &stage) { stage.menu(Settings).trigger(); }},
+    {"keys", [](Stage &stage) { stage.part<QAction>("action_keys").trigger(); }},
     {"maps", [](Stage &stage) { stage.menu(Maps).trigger(); }},
     {"statistics", openStatistics},
     {"ideal-time", openIdealTime},

@@ -3,6 +3,7 @@
 
 #include <views/laps/customtableviewdelegate.h>
 
+#include <theme/themes.h>
 #include <views/laps/lapstablemodel.h>
 
 namespace zuno {
@@ -13,9 +14,9 @@ void CustomTableViewDelegate::paint(QPainter *painter, const QStyleOptionViewIte
     QStyleOptionViewItem coloured = option;
     // The fall-back of both roles is a colour, which reads as false.
     if (index.data(LapsTableModel::SelectedRecordRole).toBool())
-        coloured.palette.setBrush(QPalette::Highlight, QColor(Qt::darkGreen));
+        coloured.palette.setBrush(QPalette::Highlight, theme().colour(Colour::BestLap));
     if (index.data(LapsTableModel::SelectedSectionRole).toBool())
-        coloured.palette.setBrush(QPalette::Highlight, QColor(Qt::darkMagenta));
+        coloured.palette.setBrush(QPalette::Highlight, theme().colour(Colour::BestSection));
     QStyledItemDelegate::paint(painter, coloured, index);
 }
 

@@ -10,6 +10,7 @@
 #include <base/laptimes.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
+#include <theme/shownunits.h>
 #include <track/map.h>
 #include <views/laps/lapselection.h>
 #include <views/laps/lapsview.h>
@@ -27,6 +28,10 @@ LapsPane::LapsPane(LapSelection &selection, const Settings &settings, QWidget *p
     connect(m_table, &LapsView::validityChanged, this, &LapsPane::showFigures);
     connect(m_ui->pb_newMap, &QPushButton::clicked, this, &LapsPane::newMapRequested);
     connect(m_ui->pb_chooseFolder, &QPushButton::clicked, this, &LapsPane::folderWanted);
+    connect(&ShownUnits::instance(), &ShownUnits::changed, this, [this] {
+        showFigures();
+        m_ui->tw_tours->viewport()->update();
+    });
     connect(&selection, &LapSelection::referenceChanged, this, &LapsPane::showFirstLap);
     showFirstLap();
 }

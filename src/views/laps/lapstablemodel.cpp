@@ -7,12 +7,13 @@
 #include <array>
 #include <cmath>
 
-#include <QColor>
 #include <QItemSelectionModel>
 #include <QLocale>
 
 #include <base/laptimes.h>
 #include <session/session.h>
+#include <theme/shownunits.h>
+#include <theme/themes.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -41,7 +42,7 @@ QString decimals(std::optional<float> value)
 
 QString speedText(qint32 speed)
 {
-    return QStringLiteral("%1 km/h").arg(speed);
+    return units().speedText(speed);
 }
 
 QString angleText(qint32 angle)
@@ -213,11 +214,11 @@ QVariant LapsTableModel::background(const Lap &lap, int column)
 {
     switch (distinctionOf(lap, column)) {
     case Distinction::Invalid:
-        return QColor(Qt::red);
+        return theme().colour(Colour::ThrownOut);
     case Distinction::Record:
-        return QColor(Qt::darkGreen);
+        return theme().colour(Colour::BestLap);
     case Distinction::BestSection:
-        return QColor(Qt::darkMagenta);
+        return theme().colour(Colour::BestSection);
     case Distinction::None:
         break;
     }

@@ -10,6 +10,7 @@
 #include <session/recording/gpsquality.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
+#include <theme/shownunits.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -60,8 +61,10 @@ QString SessionSummary::idealTimeText(const Session &session)
 
 QString SessionSummary::distanceText(const Session &session)
 {
-    const QString distance
-        = tr("Traveled distance : %1 m").arg(QLocale().toString(session.results().distance));
+    const auto metres = session.results().distance;
+    const QString distance = units().distanceUnit == Units::Distance::Metres
+                                 ? tr("Traveled distance : %1 m").arg(QLocale().toString(metres))
+                                 : tr("Traveled distance : %1").arg(units().distanceText(metres));
     const QString gps = gpsText(session);
     return gps.isEmpty() ? distance : distance + u"   (" + gps + u')';
 }
