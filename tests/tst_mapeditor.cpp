@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -12,9 +13,11 @@
 #include <base/settings.h>
 #include <formats/import/importer.h>
 #include <formats/sessionride.h>
+#include <insight/cornerfile.h>
 #include <library/acquisitionlibrary.h>
 #include <library/informationwriter.h>
 #include <library/sessiondisplay.h>
+#include <maps/editor/cornerspane.h>
 #include <maps/editor/mapedit.h>
 #include <maps/editor/mapmaker.h>
 #include <session/session.h>
@@ -24,6 +27,7 @@
 #include <track/mapname.h>
 
 #include "builders.h"
+#include "testcircuit.h"
 
 using namespace zuno;
 using namespace zuno::test;
@@ -86,6 +90,9 @@ QString textOf(const MapEdit &edit)
 }
 
 } // namespace
+
+// Instead of typing a name into the map editor.
+const QString NameCorner = u"!"_s;
 
 class TestMapEditor : public QObject
 {
@@ -224,11 +231,84 @@ private Q_SLOTS:
                  QStringList({u"Karoosberg 2.map"_s, u"Karoosberg.map"_s, u"Turn.map"_s}));
         QCOMPARE(contents(folder + u"/Karoosberg.map"), foreign);
 
+        // Corners lie beside the map, also beside one that is not ours, and go where it goes.
+        const auto nameIn = [&folder](const QString &file) {
+            const CornerEdits edits = readCornerFile(folder + u'/' + file).edits;
+            return edits.isEmpty() ? QString() : edits.constFirst().name;
+        };
+        answer({NameCorner});
+        maker.editMap(u"/Karoosberg.map"_s);
+        QCOMPARE(nameIn(u"Karoosberg.corners"_s), u"Loop"_s);
+        QCOMPARE(contents(folder + u"/Karoosberg.map"), foreign);
+        putFile(folder + u"/Turned.corners", "of a map that is gone");
+        answer({NameCorner});
+        maker.editMap(u"/Turn.map"_s);
+        answer({u"Turned"_s});
+        maker.renameMap(u"/Turn.map"_s);
+        QCOMPARE(nameIn(u"Turned.corners"_s), u"Loop"_s);
+        answer({u"Turn"_s});
+        maker.editMap(u"/Turned.map"_s);
+        QCOMPARE(nameIn(u"Turn.corners"_s), u"Loop"_s);
+        QCOMPARE(filesIn(folder).keys(),
+                 QStringList({u"Karoosberg 2.map"_s, u"Karoosberg.corners"_s, u"Karoosberg.map"_s,
+                              u"Turn.corners"_s, u"Turn.map"_s}));
+
         answer({u""_s});
         maker.deleteMap(u"/Turn.map"_s);
         QCOMPARE(shownMap(), QString());
         QVERIFY(settings.mapChoice(AtValmora).isNull());
         QVERIFY(QFile::exists(root.filePath(u"Trash/files/Turn.map"_s)));
+        QVERIFY(!QFile::exists(folder + u"/Turn.corners"));
+    }
+
+    // As the rider does it: with the table and its buttons, each step to be undone.
+    void corners()
+    {
+        MapEdit edit(MapDraft::of(*TestCircuit(u"S300 R50:180 S800 R50:180 S500"_s).map()));
+        CornersPane pane;
+        connect(&pane, &CornersPane::editRequested, &edit, &MapEdit::editCorner);
+        connect(&pane, &CornersPane::resetRequested, &edit, &MapEdit::forgetCornerEdits);
+        connect(&edit, &MapEdit::changed, &pane, [&] { pane.showCorners(edit); });
+        pane.refuse({});
+        pane.showCorners(edit);
+        auto *table = pane.findChild<QTableWidget *>();
+        const auto names = [table] {
+            QStringList texts;
+            for (int row = 0; row < table->rowCount(); ++row)
+                texts.append(table->item(row, 0)->text());
+            return texts.join(u' ');
+        };
+        const auto click = [&pane, table](int row, const QString &text) {
+            table->setCurrentCell(row, 0);
+            const auto buttons = pane.findChildren<QPushButton *>();
+            for (QPushButton *button : buttons) {
+                if (button->text() == text)
+                    button->click();
+            }
+        };
+        QCOMPARE(names(), u"1 2"_s);
+        table->item(1, 0)->setText(u" Long  one "_s);
+        QCOMPARE(names(), u"1 Long one"_s);
+        click(0, u"Split"_s);
+        QCOMPARE(names(), u"1 2 Long one"_s);
+        click(1, u"Join"_s);
+        QCOMPARE(names(), u"1 Long one"_s);
+        click(0, u"Delete"_s);
+        QCOMPARE(names(), u"Long one"_s);
+        table->item(0, 0)->setText(u"1"_s);
+        QCOMPARE(names(), u"1"_s);
+        click(0, u"As found"_s);
+        QCOMPARE(names(), u"1 2"_s);
+        QVERIFY(edit.corners().isEmpty());
+        for (int step = 0; step < 3; ++step)
+            edit.history().undo();
+        QCOMPARE(names(), u"1 Long one"_s);
+        while (edit.history().canUndo())
+            edit.history().undo();
+        QVERIFY(edit.corners().isEmpty());
+        pane.refuse(u"not yours"_s);
+        click(0, u"Delete"_s);
+        QCOMPARE(names(), u"1 2"_s);
     }
 
     // A new map of an imported session has the line that the imported file names.
@@ -274,8 +354,12 @@ private:
                 return;
             }
             auto *edit = dialog->findChild<QLineEdit *>();
-            if (!names[0].isNull())
+            if (names[0] == NameCorner) {
+                MapEdit &map = qobject_cast<MapEditor *>(dialog)->edit();
+                map.editCorner({CornerEdit::Kind::Rename, map.draft().start, u"Loop"_s});
+            } else if (!names[0].isNull()) {
                 edit->setText(names[0]);
+            }
             // A name that cannot be had leaves the dialog open, or brings a message.
             if (names.size() > 1)
                 answer(names.mid(1));

@@ -45,7 +45,7 @@ public:
         if (next->m_gesture != m_gesture)
             return false;
         m_after = next->m_after;
-        setObsolete(m_after.draft == m_before.draft);
+        setObsolete(m_after.draft == m_before.draft && m_after.corners == m_before.corners);
         return true;
     }
 
@@ -57,13 +57,14 @@ private:
     int m_gesture;
 };
 
-MapEdit::MapEdit(MapDraft draft, QObject *parent) : QObject(parent)
+MapEdit::MapEdit(MapDraft draft, CornerEdits corners, QObject *parent) : QObject(parent)
 {
     m_state.path = std::make_shared<TrackRing>(draft.outline);
     m_state.start = m_state.path->nearest(draft.start).along;
     for (const QGeoCoordinate &place : draft.timingPoints)
         m_state.points.append(m_state.path->nearest(place).along);
     m_state.draft = std::move(draft);
+    m_state.corners = std::move(corners);
 }
 
 // The history's steps point at this.
@@ -120,7 +121,7 @@ void MapEdit::beginGesture()
 
 void MapEdit::apply(State state, const QString &text, int kind)
 {
-    if (state.draft == m_state.draft)
+    if (state.draft == m_state.draft && state.corners == m_state.corners)
         return;
     auto step = std::make_unique<Step>(*this, m_state, std::move(state), kind);
     step->setText(text);
@@ -287,6 +288,20 @@ void MapEdit::setOutline(const QList<QGeoCoordinate> &outline)
     }
     sortPoints(state, NoPoint);
     apply(std::move(state), tr("Change outline"), SingleStep);
+}
+
+void MapEdit::editCorner(const CornerEdit &edit)
+{
+    State state = m_state;
+    state.corners.append(edit);
+    apply(std::move(state), tr("Change corner"), SingleStep);
+}
+
+void MapEdit::forgetCornerEdits()
+{
+    State state = m_state;
+    state.corners.clear();
+    apply(std::move(state), tr("Corners as found"), SingleStep);
 }
 
 } // namespace zuno

@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <insight/corneredits.h>
 #include <track/mapdraft.h>
 #include <track/trackring.h>
 
@@ -33,10 +34,12 @@ public:
     static constexpr double SmallestGate = 1.0;
     static constexpr double LargestGate = 200.0;
 
-    explicit MapEdit(MapDraft draft, QObject *parent = nullptr);
+    explicit MapEdit(MapDraft draft, CornerEdits corners = {}, QObject *parent = nullptr);
     ~MapEdit() override;
 
     [[nodiscard]] const MapDraft &draft() const { return m_state.draft; }
+    /// What the rider changed in the corners of the outline.
+    [[nodiscard]] const CornerEdits &corners() const { return m_state.corners; }
     /// The way around that points are moved along; the same object for as long as it is the same
     /// way.
     [[nodiscard]] const TrackRing &path() const { return *m_state.path; }
@@ -77,6 +80,10 @@ public:
     /// Takes another way around as the outline; line and timing points move to where they are
     /// nearest to it.
     void setOutline(const QList<QGeoCoordinate> &outline);
+    /// Changes a corner; the edit joins those before.
+    void editCorner(const CornerEdit &edit);
+    /// Takes back all changes of corners.
+    void forgetCornerEdits();
 
 Q_SIGNALS:
     /// The draft is another, by a change, undo or redo.
@@ -87,6 +94,7 @@ private:
     struct State
     {
         MapDraft draft;
+        CornerEdits corners;
         std::shared_ptr<const TrackRing> path;
         /// Metres along the path.
         double start = 0.0;

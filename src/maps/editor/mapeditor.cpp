@@ -66,7 +66,7 @@ MapEditor::MapEditor(Content content, QWidget *parent)
                           | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint)
     , m_ui(std::make_unique<Ui::MapEditor>())
     , m_content(std::move(content))
-    , m_edit(m_content.draft)
+    , m_edit(m_content.draft, m_content.corners)
     , m_gestures(m_edit)
 {
     m_ui->setupUi(this);
@@ -104,6 +104,7 @@ void MapEditor::fillForm()
     m_ui->cb_folder->lineEdit()->setPlaceholderText(tr("none"));
     m_ui->cb_session->addItems(m_content.sessions);
     m_ui->cb_session->setCurrentIndex(m_content.session);
+    m_ui->cornersPane->refuse(m_content.cornersRefused);
     m_ui->sb_gate->setRange(MapEdit::SmallestGate, MapEdit::LargestGate);
     m_outlines = std::make_unique<OutlineChoice>(*m_ui->cb_outline, m_edit, m_samples);
 }
@@ -165,6 +166,9 @@ void MapEditor::connectForm()
     connect(m_ui->pointsPane, &MapPointsPane::addRequested, &m_gestures, &MapGestures::addPoint);
     connect(m_ui->pointsPane, &MapPointsPane::removeRequested, &m_gestures,
             &MapGestures::removePoint);
+    connect(m_ui->cornersPane, &CornersPane::editRequested, &m_edit, &MapEdit::editCorner);
+    connect(m_ui->cornersPane, &CornersPane::resetRequested, &m_edit, &MapEdit::forgetCornerEdits);
+    connect(m_ui->cornersPane, &CornersPane::cornerSelected, this, &MapEditor::showCorner);
     connect(m_ui->checkPane, &MapCheckPane::pointSelected, &m_gestures, &MapGestures::select);
     connect(m_ui->checkPane, &MapCheckPane::warningsChanged, this, &MapEditor::showOnMap);
     connect(&m_gestures, &MapGestures::pointsTouched, this, &MapEditor::showPoints);
@@ -237,8 +241,14 @@ void MapEditor::showOnMap()
     m_map->editDraft(m_edit.draft(), m_gestures.selected(), warned);
 }
 
+void MapEditor::showCorner(const QList<QGeoCoordinate> &way)
+{
+    m_map->showStretch(pointsOf(way));
+}
+
 void MapEditor::showCheck()
 {
+    m_ui->cornersPane->showCorners(m_edit);
     m_ui->checkPane->check(m_samples, m_edit.draft(), isLow());
 }
 
@@ -251,7 +261,7 @@ MapDraft MapEditor::draft() const
 
 bool MapEditor::isChanged() const
 {
-    return draft() != m_content.draft;
+    return draft() != m_content.draft || m_edit.corners() != m_content.corners;
 }
 
 bool MapEditor::eventFilter(QObject *watched, QEvent *event)

@@ -37,6 +37,10 @@ public:
     {
         /// Its name is the one to propose.
         MapDraft draft;
+        /// What the rider changed in its corners, and why they cannot be changed any more; empty
+        /// when they can.
+        CornerEdits corners = {};
+        QString cornersRefused = {};
         /// What the rider should know before he begins; may be empty.
         QString note;
         /// Names of the sessions, the one that is shown first (-1 for none), and the smoothed
@@ -77,6 +81,7 @@ private:
     void showSession(int session);
     void chooseOutline(int index);
     void tellFull();
+    void showCorner(const QList<QGeoCoordinate> &way);
 
     void showEdit();
     void showPoints();

@@ -14,6 +14,7 @@
 
 #include <base/settings.h>
 #include <base/trash.h>
+#include <insight/cornerfile.h>
 #include <library/acquisitionlibrary.h>
 #include <library/sessiondisplay.h>
 #include <maps/proposal/mapproposal.h>
@@ -56,6 +57,29 @@ Points smoothedSamples(const QString &path)
     opened.session->smooth();
     const std::span<const PointAcquisition> samples = opened.session->wholeSamples();
     return {samples.begin(), samples.end()};
+}
+
+// A rider's names of corners are hard to get back: to the trash where there is one.
+void removeFile(const QString &path)
+{
+    if (QFile::exists(path) && !moveToTrash(path))
+        QFile::remove(path);
+}
+
+// Why corners cannot be changed: what stands in their file would be lost.
+QString refusal(CornerFile::State state)
+{
+    switch (state) {
+    case CornerFile::State::Missing:
+    case CornerFile::State::Good:
+        break;
+    case CornerFile::State::Damaged:
+        return MapMaker::tr("The file of the map's corners cannot be read, and is left alone.");
+    case CornerFile::State::Newer:
+        return MapMaker::tr("A later version of the program changed the map's corners; they are "
+                            "left alone.");
+    }
+    return {};
 }
 
 QString describe(NoProposal reason)
@@ -139,18 +163,37 @@ MapEditor::Content MapMaker::content(const MapDraft &draft, const QString &mapNa
     return content;
 }
 
-QString MapMaker::run(MapEditor::Content content, const QString &original, const FileGates &gates)
+QString MapMaker::run(const MapEditor::Content &content, const QString &original,
+                      const QString &source, const FileGates &gates)
 {
     QString saved;
-    MapEditor editor(std::move(content), owner());
+    MapEditor editor(content, owner());
     connect(&editor, &MapEditor::saveRequested, this, [&](const MapDraft &draft) {
-        saved = save(draft, original);
-        if (!saved.isEmpty())
-            editor.accept();
+        const CornerEdits &corners = editor.edit().corners();
+        const bool isCornersOnly = original.isEmpty() && !source.isEmpty() && draft == content.draft
+                                   && corners != content.corners;
+        saved = isCornersOnly ? source : save(draft, original);
+        if (saved.isEmpty())
+            return;
+        if (content.cornersRefused.isEmpty() || saved != original)
+            saveCorners(corners, saved);
+        editor.accept();
     });
     editor.edit().takeGates(gates.start, gates.splits);
     editor.exec();
     return saved;
+}
+
+void MapMaker::saveCorners(const CornerEdits &edits, const QString &name) const
+{
+    const QString file = cornerFilePath(path(name));
+    if (edits.isEmpty()) {
+        removeFile(file);
+        return;
+    }
+    const QString problem = writeCornerFile(file, edits);
+    if (!problem.isEmpty())
+        tell(tr("The corners could not be saved: %1").arg(problem));
 }
 
 void MapMaker::newMap()
@@ -180,7 +223,7 @@ void MapMaker::newMap()
                  "line that was found in the laps. Give it a name and save it, or drag its "
                  "points.");
     }
-    const QString saved = run(std::move(made), {}, gates);
+    const QString saved = run(made, {}, {}, gates);
     if (saved.isEmpty())
         return;
     m_parts.settings.setMapChoice(file, saved);
@@ -204,17 +247,23 @@ void MapMaker::editMap(const QString &name)
         draft.mapNumber = MapDraft::OwnMapNumber;
         note = tr("The map \"%1\" was not made with this program and stays as it is. You are "
                   "changing a copy of it.")
-                   .arg(nameOfMap(name));
+                   .arg(nameOfMap(name))
+               + u' ' + tr("Its corners alone can be changed without a copy.");
     }
     MapEditor::Content opened = content(draft, name);
     opened.note = note;
-    const QString saved = run(std::move(opened), isOwn ? name : QString());
+    const CornerFile corners = readCornerFile(cornerFilePath(path(name)));
+    opened.corners = corners.edits;
+    opened.cornersRefused = refusal(corners.state);
+    const QString saved = run(opened, isOwn ? name : QString(), name);
     if (saved.isEmpty())
         return;
     // A map of ours that got another name in the editor has moved there. The points may be others
     // as well, so the old file is kept where the rider can get it back.
-    if (isOwn && saved != name && (moveToTrash(path(name)) || QFile::remove(path(name))))
+    if (isOwn && saved != name && (moveToTrash(path(name)) || QFile::remove(path(name)))) {
         m_parts.settings.renameMapChoices(name, saved);
+        removeFile(cornerFilePath(path(name)));
+    }
     if (isShown)
         m_parts.settings.setMapChoice(file, saved);
     Q_EMIT mapsChanged();
@@ -275,6 +324,13 @@ void MapMaker::renameMap(const QString &name)
         return;
     }
     m_parts.settings.renameMapChoices(name, renamed);
+    // What lies there is of a map that is gone.
+    const QString corners = cornerFilePath(path(name));
+    if (QFile::exists(corners)) {
+        removeFile(cornerFilePath(path(renamed)));
+        if (!QFile::rename(corners, cornerFilePath(path(renamed))))
+            tell(tr("The corners of the map \"%1\" could not be renamed.").arg(nameOfMap(name)));
+    }
     Q_EMIT mapsChanged();
 }
 
@@ -290,6 +346,7 @@ void MapMaker::deleteMap(const QString &name)
             return;
         }
     }
+    removeFile(cornerFilePath(path(name)));
     m_parts.settings.removeMapChoices(name);
     Q_EMIT mapsChanged();
 }

@@ -56,14 +56,18 @@ private:
     [[nodiscard]] QString path(const QString &name) const;
     [[nodiscard]] MapEditor::Content content(const MapDraft &draft, const QString &mapName) const;
     /// Opens the editor with @p gates as the first change, which can be undone. The name under
-    /// which the rider has saved; empty when he has not.
-    [[nodiscard]] QString run(MapEditor::Content content, const QString &original,
-                              const FileGates &gates = {});
+    /// which the rider has saved; empty when he has not. Of a map from elsewhere, @p source, whose
+    /// corners alone were changed no copy is made.
+    [[nodiscard]] QString run(const MapEditor::Content &content, const QString &original,
+                              const QString &source, const FileGates &gates = {});
     [[nodiscard]] QString askName(const QString &name) const;
     /// Writes @p draft into the maps folder; asks before another map than @p original, a name below
     /// the folder, is replaced. Tells the rider what goes wrong. The name under which it was
     /// written; empty when it was not.
     [[nodiscard]] QString save(const MapDraft &draft, const QString &original);
+    /// Puts the rider's changes of corners beside the map of that name; without any there is no
+    /// file.
+    void saveCorners(const CornerEdits &edits, const QString &name) const;
     [[nodiscard]] bool ask(const QString &question) const;
     void tell(const QString &problem) const;
 
