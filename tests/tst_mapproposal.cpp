@@ -121,7 +121,7 @@ private Q_SLOTS:
         row("25 rougher positions a second", u"kart 0.3-4.7 every 40 drift 5"_s,
             u"473: 695 141 473 / 3.5, lap 1 of 1, 715 m in 727; SlowPass -1 below 67"_s);
         row("rough positions", u"kart 0.3-15 every 200 drift 4"_s,
-            u"643: 465 536 643 / 10.5, lap 14 of 14, 680 m in 88"_s);
+            u"560: 643 465 560 / 9.5, lap 1 of 14, 685 m in 88"_s);
         row("rougher positions, some lost", u"kart 0.05-8.25 drift 5 off 1 pit -9 lost 1.54-1.74"_s,
             u"20: 456 628 20 / 8.5, lap 4 of 7 but 1, 685 m in 89; Missed 0 #2 #8; Missed 1 #7; Missed 2 #4; OtherWay -1 #1; SlowPass -1 below 65"_s);
         row("pit lane in the gates", u"kart 0.98-8.7 off 1 every 200 pit 7 drift 1"_s,
@@ -157,14 +157,14 @@ private Q_SLOTS:
             u"1583: 2002 659 1583 / 8, lap 1 of 1, 3804 m in 477"_s);
         row("side by side, slow, two a second",
             u"twins 0.05-8.25 every 500 drift 3 pit -12 box 1.95-2.2 slow ~0.75-0.9/0.3 wide 1.54-1.74/-12"_s,
-            u"2910: 3655 1739 2910 / 23, lap 3 of 7 but 1, 3822 m in 479"_s);
+            u"2910: 3655 985 2910 / 20, lap 3 of 7 but 1, 3822 m in 479"_s);
         row("side by side, slow, one a second",
             u"twins 0.6-8.8 every 1000 off 4 lost ~0.76-0.81 slow ~0.15-0.3/0.3"_s,
             u"1103: 3566 715 1103 / 38, lap 5 of 7, 3806 m in 477"_s);
         row("a lane there and back", u"lane 0.4-5.3"_s,
             u"2081: 2538 167 739 1718 2081 / 12, lap 4 of 4, 2817 m in 354"_s);
         row("oval", u"oval 0.3-15.4 every 200 drift 2"_s,
-            u"556: 813 104 311 556 / 11, lap 10 of 14, 858 m in 108"_s);
+            u"556: 813 104 311 556 / 10.5, lap 10 of 14, 858 m in 108"_s);
         row("oval, rough and dense", u"oval 0.3-30.4 every 40 drift 3"_s,
             u"122: 288 717 122 / 4.5, lap 24 of 29, 854 m in 109; Twice -1 #6 #20 #29; Missed 0 #10 #23 #27; Missed 1 #7 #9 #19; Missed 2 #4 #8 #21; SlowPass -1 below 86"_s);
         row("wide line, lost at the pits", u"kart 0.3-4.7 every 40 off 4 pit 18 lost ~0.17-0.22"_s,

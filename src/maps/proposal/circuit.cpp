@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numbers>
 
 #include <base/numbers.h>
@@ -29,7 +30,18 @@ constexpr double LapTolerance = 0.1;
 constexpr std::size_t HeadingStations = 2;
 
 // He who is slower than this part of the usual speed is on his way out or in.
-constexpr double RidingPart = 0.6;
+constexpr double RidingPart = 0.45;
+
+// Of those who were no slower than @p least.
+double slowestRider(const std::vector<double> &speeds, double least)
+{
+    double slowest = std::numeric_limits<double>::infinity();
+    for (const double speed : speeds) {
+        if (speed >= least)
+            slowest = std::min(slowest, speed);
+    }
+    return std::isfinite(slowest) ? slowest : least;
+}
 
 double quantile(std::vector<double> values, double part)
 {
@@ -145,7 +157,7 @@ void Circuit::measure(Station &station) const
     const auto offsets = valuesOf(passes, [](const Pass &pass) { return std::fabs(pass.offset); });
     station.speed = middle(speeds);
     station.slowest = quantile(speeds, 0.0);
-    station.slow = std::max(quantile(speeds, 0.15), RidingPart * station.speed);
+    station.slow = slowestRider(speeds, RidingPart * station.speed);
     station.spread = quantile(offsets, 1.0);
     station.need = quantile(needs, 1.0);
     station.usualNeed = quantile(needs, 0.8);

@@ -17,7 +17,7 @@ struct Station
     PlaneVector heading;
     /// The passes, but for those in the pit lane.
     std::vector<Pass> passes;
-    /// Metres per second: the median of the passes, the slowest one, and the slowest but for a few.
+    /// Metres per second: the median of the passes, the slowest one, and the slowest who rode.
     double speed = 0.0;
     double slowest = 0.0;
     double slow = 0.0;
