@@ -69,6 +69,125 @@
     </message>
 </context>
 <context>
+    <name>Columns</name>
+    <message>
+        <source>s since 1970</source>
+        <translation>s seit 1970</translation>
+    </message>
+    <message>
+        <source>ms since 1970</source>
+        <translation>ms seit 1970</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <translation>Knoten</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>°, west positive</source>
+        <translation>°, Westen positiv</translation>
+    </message>
+    <message>
+        <source>minutes, west positive</source>
+        <translation>Minuten, Westen positiv</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Sekunde</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>North or south</source>
+        <translation>Nord oder Süd</translation>
+    </message>
+    <message>
+        <source>East or west</source>
+        <translation>Ost oder West</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation>Kurs</translation>
+    </message>
+    <message>
+        <source>Longitudinal acceleration</source>
+        <translation>Längsbeschleunigung</translation>
+    </message>
+    <message>
+        <source>Lateral acceleration</source>
+        <translation>Querbeschleunigung</translation>
+    </message>
+    <message>
+        <source>Acceleration, first axis</source>
+        <translation>Beschleunigung, erste Achse</translation>
+    </message>
+    <message>
+        <source>Acceleration, second axis</source>
+        <translation>Beschleunigung, zweite Achse</translation>
+    </message>
+    <message>
+        <source>Acceleration, third axis</source>
+        <translation>Beschleunigung, dritte Achse</translation>
+    </message>
+    <message>
+        <source>Lean angle</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Front suspension</source>
+        <translation>Federung vorn</translation>
+    </message>
+    <message>
+        <source>Rear suspension</source>
+        <translation>Federung hinten</translation>
+    </message>
+    <message>
+        <source>New position (1 or 0)</source>
+        <translation>Neue Position (1 oder 0)</translation>
+    </message>
+    <message>
+        <source>Lap number</source>
+        <translation>Nummer der Runde</translation>
+    </message>
+    <message>
+        <source>Positions a second</source>
+        <translation>Positionen pro Sekunde</translation>
+    </message>
+</context>
+<context>
     <name>Deletion</name>
     <message>
         <source>%1 and %2 more</source>
@@ -93,6 +212,13 @@
     <message>
         <source>This stays, as it is not in your library: %1</source>
         <translation>Das bleibt, denn es ist nicht in Ihrer Bibliothek: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSessions</name>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>„%1“ konnte nicht geschrieben werden: %2</translation>
     </message>
 </context>
 <context>
@@ -258,6 +384,53 @@
     <message>
         <source>Under another name, as another session has theirs:</source>
         <translation>Unter anderem Namen, da eine andere Session so heißt:</translation>
+    </message>
+</context>
+<context>
+    <name>LapScene</name>
+    <message>
+        <source>gaining</source>
+        <translation>Gewinn</translation>
+    </message>
+    <message>
+        <source>losing %1 s / 100 m</source>
+        <translation>Verlust %1 s / 100 m</translation>
+    </message>
+    <message>
+        <source>braking</source>
+        <translation>Bremsen</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>Beschleunigen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>reference, lap %1</source>
+        <translation>Referenz, Runde %1</translation>
+    </message>
+    <message>
+        <source>brakes</source>
+        <translation>bremst</translation>
+    </message>
+    <message>
+        <source>on the gas</source>
+        <translation>am Gas</translation>
+    </message>
+    <message>
+        <source>Offline map</source>
+        <translation>Offline-Karte</translation>
+    </message>
+    <message>
+        <source>first sample</source>
+        <translation>erster Messpunkt</translation>
+    </message>
+    <message>
+        <source>last sample</source>
+        <translation>letzter Messpunkt</translation>
     </message>
 </context>
 <context>
@@ -445,6 +618,101 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::AppearanceSettings</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Design</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distanz</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>Fuß</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your sessions</source>
+        <translation>Ordner Ihrer Sessions wählen</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Wählen...</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Karten</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your maps</source>
+        <translation>Ordner Ihrer Karten wählen</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Ordner Ihrer Sessions</translation>
+    </message>
+    <message>
+        <source>Folder of your maps</source>
+        <translation>Ordner Ihrer Karten</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AxisStrip</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Cause</name>
     <message>
         <source>arrives %1 km/h slower</source>
@@ -488,6 +756,29 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::ChartHead</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Runde %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>Runde %1 war nicht hier</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Rückstand auf Runde %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Vorsprung auf Runde %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -496,6 +787,45 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>(empty)</source>
         <translation>(leer)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ColumnDialog</name>
+    <message>
+        <source>Columns of %1</source>
+        <translation>Spalten von %1</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>nicht verwendet</translation>
+    </message>
+    <message>
+        <source>Time, latitude and longitude are needed.</source>
+        <translation>Zeit, Breite und Länge werden gebraucht.</translation>
+    </message>
+    <message>
+        <source>These columns give no ride of a second.</source>
+        <translation>Diese Spalten ergeben keine Sekunde einer Fahrt.</translation>
+    </message>
+    <message>
+        <source>%1 s of a ride from the begin of the file; lines that cannot be read: %2</source>
+        <translation>%1 s einer Fahrt ab dem Anfang der Datei; nicht lesbare Zeilen: %2</translation>
     </message>
 </context>
 <context>
@@ -594,51 +924,28 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
-    <name>zuno::CursorLabels</name>
+    <name>zuno::CornerStrip</name>
     <message>
-        <source>Lap %1</source>
-        <translation>Runde %1</translation>
+        <source>Corners of the lap</source>
+        <translation>Kurven der Runde</translation>
     </message>
     <message>
-        <source>Difference</source>
-        <translation>Differenz</translation>
+        <source>Corner %1</source>
+        <translation>Kurve %1</translation>
     </message>
     <message>
-        <source>%1   %2 m</source>
-        <comment>time and distance since the start of the lap</comment>
-        <translation>%1   %2 m</translation>
+        <source>Straight</source>
+        <translation>Gerade</translation>
     </message>
     <message>
-        <source>Lap %1 was not here</source>
-        <translation>Runde %1 war nicht hier</translation>
+        <source>%1: %2 s</source>
+        <comment>a corner and its time</comment>
+        <translation>%1: %2 s</translation>
     </message>
     <message>
-        <source>Delay on the lap %1</source>
-        <translation>Rückstand auf Runde %1</translation>
-    </message>
-    <message>
-        <source>Ahead on the lap %1 (%2 - %3)</source>
-        <translation>Vorsprung auf Runde %1 (%2 - %3)</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Tempo</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Schräglage</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Beschl./Verzög.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Fed. vorn</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Fed. hinten</translation>
+        <source>%1: %2 s, %3 s</source>
+        <comment>a corner, its time, the difference to the other lap</comment>
+        <translation>%1: %2 s, %3 s</translation>
     </message>
 </context>
 <context>
@@ -654,6 +961,41 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::EmptyPage</name>
+    <message>
+        <source>There are no sessions yet.</source>
+        <translation>Es gibt noch keine Sessions.</translation>
+    </message>
+    <message>
+        <source>Drop the session files (.ra1) of your logger here, or a whole folder.</source>
+        <translation>Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher oder einen ganzen Ordner.</translation>
+    </message>
+    <message>
+        <source>Import (Ctrl+I)</source>
+        <translation>Importieren (Strg+I)</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importieren...</translation>
+    </message>
+    <message>
+        <source>Show the demo</source>
+        <translation>Demo zeigen</translation>
+    </message>
+    <message>
+        <source>The demo: invented sessions of three riders on three circuits. They can be taken away again with one click.</source>
+        <translation>Die Demo: erfundene Sessions von drei Fahrern auf drei Strecken. Ein Klick entfernt sie wieder.</translation>
+    </message>
+    <message>
+        <source>1  Import a session      2  Its circuit is found, laps are cut      3  See where the time is</source>
+        <translation>1  Eine Session importieren      2  Die Strecke wird gefunden, Runden werden geteilt      3  Sehen, wo die Zeit liegt</translation>
+    </message>
+    <message>
+        <source>Files can also be copied to %1</source>
+        <translation>Dateien lassen sich auch nach %1 kopieren</translation>
     </message>
 </context>
 <context>
@@ -693,6 +1035,18 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
         <translation>„%1“ konnte nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Für andere Programme exportieren</translation>
+    </message>
+    <message>
+        <source>%1 sessions were exported to &quot;%2&quot;.</source>
+        <translation>%1 Sessions wurden nach „%2“ exportiert.</translation>
+    </message>
+    <message>
+        <source>CSV with units (*.csv)</source>
+        <translation>CSV mit Einheiten (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -826,6 +1180,88 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::ImportDialog</name>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Sessions are made of these recordings; the files themselves stay as they are.</source>
+        <translation>Aus diesen Aufzeichnungen werden Sessions gemacht; die Dateien selbst bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Columns...</source>
+        <translation>Spalten...</translation>
+    </message>
+    <message>
+        <source>Says what the columns of the selected table hold</source>
+        <translation>Legt fest, was die Spalten der gewählten Tabelle enthalten</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>1 session will be imported.</source>
+        <translation>1 Session wird importiert.</translation>
+    </message>
+    <message>
+        <source>%1 sessions will be imported.</source>
+        <translation>%1 Sessions werden importiert.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ImportTable</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Circuit</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Messrate</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Runden</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Bemerkungen</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>no map of this circuit</source>
+        <translation>keine Karte dieser Strecke</translation>
+    </message>
+    <message>
+        <source>was imported before, as &quot;%1&quot;</source>
+        <translation>wurde schon importiert, als „%1“</translation>
+    </message>
+    <message>
+        <source>%1; say what its columns are</source>
+        <translation>%1; legen Sie fest, was die Spalten sind</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationNotice</name>
     <message>
         <source>Put it back</source>
@@ -866,27 +1302,56 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
         <translation>%1 wurde inzwischen von einem anderen Programm geändert. Wo Sie beide getippt haben, gilt Ihr Text; die Seite „Session-Infos“ bietet den anderen an.</translation>
     </message>
+    <message>
+        <source>the file is not in your library</source>
+        <translation>die Datei ist nicht in Ihrer Bibliothek</translation>
+    </message>
 </context>
 <context>
-    <name>zuno::LapChart</name>
+    <name>zuno::KeySheet</name>
     <message>
-        <source>%1 m</source>
-        <comment>metres</comment>
-        <translation>%1 m</translation>
+        <source>In the list of sessions</source>
+        <translation>In der Liste der Sessions</translation>
     </message>
     <message>
-        <source>%1 s</source>
-        <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <source>In the laps table</source>
+        <translation>In der Rundentabelle</translation>
     </message>
     <message>
-        <source>Section %1</source>
-        <translation>Sektor %1</translation>
+        <source>Everywhere</source>
+        <translation>Überall</translation>
     </message>
     <message>
-        <source>S%1</source>
-        <comment>section, short</comment>
-        <translation>S%1</translation>
+        <source>About ZUNO Analyzer</source>
+        <translation>Über ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>In the charts</source>
+        <translation>In den Diagrammen</translation>
+    </message>
+    <message>
+        <source>Cursor to the sample before or after</source>
+        <translation>Cursor zum Messpunkt davor oder danach</translation>
+    </message>
+    <message>
+        <source>Cursor to the begin or end</source>
+        <translation>Cursor zum Anfang oder Ende</translation>
+    </message>
+    <message>
+        <source>Zoom in or out around the cursor</source>
+        <translation>Um den Cursor vergrößern oder verkleinern</translation>
+    </message>
+    <message>
+        <source>A page back or on</source>
+        <translation>Eine Seite zurück oder weiter</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>Die ganze Runde</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
     </message>
 </context>
 <context>
@@ -919,6 +1384,68 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Compare time</source>
         <translation>Zeit vergleichen</translation>
     </message>
+    <message>
+        <source>Distance</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Distanz</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>the whole session</source>
+        <translation>die ganze Session</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Messen</translation>
+    </message>
+    <message>
+        <source>Measure between two places (M)</source>
+        <translation>Zwischen zwei Stellen messen (M)</translation>
+    </message>
+    <message>
+        <source>Whole lap</source>
+        <translation>Ganze Runde</translation>
+    </message>
+    <message>
+        <source>Show the whole lap (Esc)</source>
+        <translation>Die ganze Runde zeigen (Esc)</translation>
+    </message>
+    <message>
+        <source>Previous corner (,)</source>
+        <translation>Kurve davor (,)</translation>
+    </message>
+    <message>
+        <source>Previous corner</source>
+        <translation>Kurve davor</translation>
+    </message>
+    <message>
+        <source>Next corner (.)</source>
+        <translation>Kurve danach (.)</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Kurve danach</translation>
+    </message>
+    <message>
+        <source>Whole session</source>
+        <translation>Ganze Session</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Kurve %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapFlag</name>
@@ -949,6 +1476,25 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>held up</source>
         <translation>aufgehalten</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapReason</name>
+    <message>
+        <source>held up</source>
+        <translation>aufgehalten</translation>
+    </message>
+    <message>
+        <source>missed the line</source>
+        <translation>Linie verfehlt</translation>
+    </message>
+    <message>
+        <source>warm-up</source>
+        <translation>Aufwärmrunde</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>anderer Grund</translation>
     </message>
 </context>
 <context>
@@ -1096,8 +1642,31 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <translation>Das ist die erste Runde selbst; wählen Sie eine andere zum Vergleichen.</translation>
     </message>
     <message>
-        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
-        <translation>Nur Runden derselben Karte werden verglichen; die erste wurde auf „%1“ gefahren.</translation>
+        <source>Draw no longer besides</source>
+        <translation>Nicht mehr zusätzlich zeichnen</translation>
+    </message>
+    <message>
+        <source>Draw besides</source>
+        <translation>Zusätzlich zeichnen</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Höchstens sechs Runden werden gezeichnet; nehmen Sie erst eine weg.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryPane</name>
+    <message>
+        <source>Demo sessions</source>
+        <translation>Demo-Sessions</translation>
+    </message>
+    <message>
+        <source>Takes the demo sessions and their maps away</source>
+        <translation>Entfernt die Demo-Sessions und ihre Karten</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -1186,6 +1755,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>There is no trash that takes this:</source>
         <translation>Kein Papierkorb nimmt das an:</translation>
     </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Für andere Programme exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LineSwitch</name>
+    <message>
+        <source>Gain/loss</source>
+        <translation>Gewinn/Verlust</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Beschl./Verzög.</translation>
+    </message>
+    <message>
+        <source>Colour the line by: %1 (L)</source>
+        <translation>Linie färben nach: %1 (L)</translation>
+    </message>
+    <message>
+        <source>What the colours of the line tell (L)</source>
+        <translation>Was die Farben der Linie sagen (L)</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1253,6 +1853,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Change outline</source>
         <translation>Verlauf ändern</translation>
+    </message>
+    <message>
+        <source>Take the gates of the file</source>
+        <translation>Tore der Datei übernehmen</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +2003,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>Die Karte „%1“ konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
+        <translation>Das ist ein Vorschlag mit der Startlinie der importierten Datei; Rückgängig nimmt die Linie, die in den Runden gefunden wurde. Benennen und speichern, oder die Punkte ziehen.</translation>
     </message>
 </context>
 <context>
@@ -1610,6 +2218,83 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Reload maps</source>
         <translation>Karten neu laden</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MeasureLine</name>
+    <message>
+        <source>%1 to %2: %3</source>
+        <comment>places, and the distance between them</comment>
+        <translation>%1 bis %2: %3</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Speed min</source>
+        <translation>Tempo min.</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max.</translation>
+    </message>
+    <message>
+        <source>End measuring (Esc)</source>
+        <translation>Messen beenden (Esc)</translation>
+    </message>
+    <message>
+        <source>Click two places in a chart, or draw from one to the other.</source>
+        <translation>Klicken Sie zwei Stellen in einem Diagramm an, oder ziehen Sie von der einen zur anderen.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::PageFailure</name>
+    <message>
+        <source>The map has stopped several times, and was left alone. Everything else goes on working.</source>
+        <translation>Die Karte ist mehrmals stehen geblieben und wird nicht mehr gestartet. Alles andere geht weiter.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Reference</name>
+    <message>
+        <source>No lap serves as reference yet.</source>
+        <translation>Noch keine Runde dient als Referenz.</translation>
+    </message>
+    <message>
+        <source>The file of the reference, &quot;%1&quot;, is gone.</source>
+        <translation>Die Datei der Referenz, „%1“, ist weg.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no lap %2 on this circuit any more.</source>
+        <translation>„%1“ hat auf dieser Strecke keine Runde %2 mehr.</translation>
+    </message>
+    <message>
+        <source>The session does not say which vehicle it was.</source>
+        <translation>Die Session sagt nicht, welches Motorrad es war.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::RidePreview</name>
+    <message>
+        <source>Path</source>
+        <translation>Weg</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>bis %1</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +2529,25 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::ThemeButton</name>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light theme, for the sun (%1)</source>
+        <translation>Helles Design, für die Sonne (%1)</translation>
+    </message>
+    <message>
+        <source>Dark theme (%1)</source>
+        <translation>Dunkles Design (%1)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::UnsavedChanges</name>
     <message>
         <source>Unsaved changes</source>
@@ -2029,6 +2733,30 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
     <message>
         <source>Map and Laps</source>
         <translation>Karte und Runden</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored in %1: the disk is full, or the folder cannot be written to.</source>
+        <translation>In %1 lässt sich nichts speichern: Der Datenträger ist voll, oder in den Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Alle Tasten</translation>
+    </message>
+    <message>
+        <source>Recordings (%1)</source>
+        <translation>Aufzeichnungen (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>The other language is there when the program starts again. Do you want to start it again now?</source>
+        <translation>Die andere Sprache erscheint, wenn das Programm neu startet. Möchten Sie es jetzt neu starten?</translation>
+    </message>
+    <message>
+        <source>Demo files that could not be removed: %1</source>
+        <translation>Demo-Dateien, die nicht entfernt werden konnten: %1</translation>
     </message>
 </context>
 </TS>

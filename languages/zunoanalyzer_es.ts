@@ -69,6 +69,125 @@
     </message>
 </context>
 <context>
+    <name>Columns</name>
+    <message>
+        <source>s since 1970</source>
+        <translation>s desde 1970</translation>
+    </message>
+    <message>
+        <source>ms since 1970</source>
+        <translation>ms desde 1970</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <translation>nudos</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>no se conoce</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>minutos</translation>
+    </message>
+    <message>
+        <source>°, west positive</source>
+        <translation>°, oeste positivo</translation>
+    </message>
+    <message>
+        <source>minutes, west positive</source>
+        <translation>minutos, oeste positivo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minuto</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Segundo</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitud</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>North or south</source>
+        <translation>Norte o sur</translation>
+    </message>
+    <message>
+        <source>East or west</source>
+        <translation>Este u oeste</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation>Rumbo</translation>
+    </message>
+    <message>
+        <source>Longitudinal acceleration</source>
+        <translation>Aceleración longitudinal</translation>
+    </message>
+    <message>
+        <source>Lateral acceleration</source>
+        <translation>Aceleración lateral</translation>
+    </message>
+    <message>
+        <source>Acceleration, first axis</source>
+        <translation>Aceleración, primer eje</translation>
+    </message>
+    <message>
+        <source>Acceleration, second axis</source>
+        <translation>Aceleración, segundo eje</translation>
+    </message>
+    <message>
+        <source>Acceleration, third axis</source>
+        <translation>Aceleración, tercer eje</translation>
+    </message>
+    <message>
+        <source>Lean angle</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Front suspension</source>
+        <translation>Suspensión delantera</translation>
+    </message>
+    <message>
+        <source>Rear suspension</source>
+        <translation>Suspensión trasera</translation>
+    </message>
+    <message>
+        <source>New position (1 or 0)</source>
+        <translation>Posición nueva (1 o 0)</translation>
+    </message>
+    <message>
+        <source>Lap number</source>
+        <translation>Número de vuelta</translation>
+    </message>
+    <message>
+        <source>Positions a second</source>
+        <translation>Posiciones por segundo</translation>
+    </message>
+</context>
+<context>
     <name>Deletion</name>
     <message>
         <source>%1 and %2 more</source>
@@ -93,6 +212,13 @@
     <message>
         <source>This stays, as it is not in your library: %1</source>
         <translation>Esto se queda, porque no está en su biblioteca: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSessions</name>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>No se pudo escribir «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -258,6 +384,53 @@
     <message>
         <source>Under another name, as another session has theirs:</source>
         <translation>Con otro nombre, porque otra sesión tiene el suyo:</translation>
+    </message>
+</context>
+<context>
+    <name>LapScene</name>
+    <message>
+        <source>gaining</source>
+        <translation>ganancia</translation>
+    </message>
+    <message>
+        <source>losing %1 s / 100 m</source>
+        <translation>pérdida %1 s / 100 m</translation>
+    </message>
+    <message>
+        <source>braking</source>
+        <translation>frenada</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>aceleración</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>reference, lap %1</source>
+        <translation>referencia, vuelta %1</translation>
+    </message>
+    <message>
+        <source>brakes</source>
+        <translation>frena</translation>
+    </message>
+    <message>
+        <source>on the gas</source>
+        <translation>gas</translation>
+    </message>
+    <message>
+        <source>Offline map</source>
+        <translation>Mapa sin conexión</translation>
+    </message>
+    <message>
+        <source>first sample</source>
+        <translation>primera muestra</translation>
+    </message>
+    <message>
+        <source>last sample</source>
+        <translation>última muestra</translation>
     </message>
 </context>
 <context>
@@ -445,6 +618,101 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::AppearanceSettings</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Aspecto</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como el escritorio</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Unidades</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>Metros</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>Pies</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sesiones</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your sessions</source>
+        <translation>Elegir la carpeta de sus sesiones</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Elegir...</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Mapas</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your maps</source>
+        <translation>Elegir la carpeta de sus mapas</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Carpeta de sus sesiones</translation>
+    </message>
+    <message>
+        <source>Folder of your maps</source>
+        <translation>Carpeta de sus mapas</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AxisStrip</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Cause</name>
     <message>
         <source>arrives %1 km/h slower</source>
@@ -488,6 +756,29 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::ChartHead</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Vuelta %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>La vuelta %1 no pasó por aquí</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Retraso respecto a la vuelta %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Ventaja sobre la vuelta %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -496,6 +787,45 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>(empty)</source>
         <translation>(vacío)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ColumnDialog</name>
+    <message>
+        <source>Columns of %1</source>
+        <translation>Columnas de %1</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Columna</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Magnitud</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>sin usar</translation>
+    </message>
+    <message>
+        <source>Time, latitude and longitude are needed.</source>
+        <translation>Se necesitan tiempo, latitud y longitud.</translation>
+    </message>
+    <message>
+        <source>These columns give no ride of a second.</source>
+        <translation>Estas columnas no dan ni un segundo de marcha.</translation>
+    </message>
+    <message>
+        <source>%1 s of a ride from the begin of the file; lines that cannot be read: %2</source>
+        <translation>%1 s de marcha desde el principio del archivo; líneas ilegibles: %2</translation>
     </message>
 </context>
 <context>
@@ -594,51 +924,28 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
-    <name>zuno::CursorLabels</name>
+    <name>zuno::CornerStrip</name>
     <message>
-        <source>Lap %1</source>
-        <translation>Vuelta %1</translation>
+        <source>Corners of the lap</source>
+        <translation>Curvas de la vuelta</translation>
     </message>
     <message>
-        <source>Difference</source>
-        <translation>Diferencia</translation>
+        <source>Corner %1</source>
+        <translation>Curva %1</translation>
     </message>
     <message>
-        <source>%1   %2 m</source>
-        <comment>time and distance since the start of the lap</comment>
-        <translation>%1   %2 m</translation>
+        <source>Straight</source>
+        <translation>Recta</translation>
     </message>
     <message>
-        <source>Lap %1 was not here</source>
-        <translation>La vuelta %1 no pasó por aquí</translation>
+        <source>%1: %2 s</source>
+        <comment>a corner and its time</comment>
+        <translation>%1: %2 s</translation>
     </message>
     <message>
-        <source>Delay on the lap %1</source>
-        <translation>Retraso respecto a la vuelta %1</translation>
-    </message>
-    <message>
-        <source>Ahead on the lap %1 (%2 - %3)</source>
-        <translation>Ventaja sobre la vuelta %1 (%2 - %3)</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocidad</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Inclinación</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Acel./Decel.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Susp. del.</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Susp. tras.</translation>
+        <source>%1: %2 s, %3 s</source>
+        <comment>a corner, its time, the difference to the other lap</comment>
+        <translation>%1: %2 s, %3 s</translation>
     </message>
 </context>
 <context>
@@ -654,6 +961,41 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::EmptyPage</name>
+    <message>
+        <source>There are no sessions yet.</source>
+        <translation>Todavía no hay sesiones.</translation>
+    </message>
+    <message>
+        <source>Drop the session files (.ra1) of your logger here, or a whole folder.</source>
+        <translation>Suelte aquí los archivos de sesión (.ra1) de su registrador, o una carpeta entera.</translation>
+    </message>
+    <message>
+        <source>Import (Ctrl+I)</source>
+        <translation>Importar (Ctrl+I)</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importar...</translation>
+    </message>
+    <message>
+        <source>Show the demo</source>
+        <translation>Mostrar la demo</translation>
+    </message>
+    <message>
+        <source>The demo: invented sessions of three riders on three circuits. They can be taken away again with one click.</source>
+        <translation>La demo: sesiones inventadas de tres pilotos en tres circuitos. Se quitan con un clic.</translation>
+    </message>
+    <message>
+        <source>1  Import a session      2  Its circuit is found, laps are cut      3  See where the time is</source>
+        <translation>1  Importe una sesión      2  Se encuentra el circuito y se dividen las vueltas      3  Vea dónde está el tiempo</translation>
+    </message>
+    <message>
+        <source>Files can also be copied to %1</source>
+        <translation>Los archivos también se pueden copiar en %1</translation>
     </message>
 </context>
 <context>
@@ -693,6 +1035,18 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
         <translation>No se pudo escribir «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Exportar para otros programas</translation>
+    </message>
+    <message>
+        <source>%1 sessions were exported to &quot;%2&quot;.</source>
+        <translation>%1 sesiones exportadas a «%2».</translation>
+    </message>
+    <message>
+        <source>CSV with units (*.csv)</source>
+        <translation>CSV con unidades (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -826,6 +1180,88 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::ImportDialog</name>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Sessions are made of these recordings; the files themselves stay as they are.</source>
+        <translation>De estas grabaciones se crean sesiones; los archivos mismos se quedan como están.</translation>
+    </message>
+    <message>
+        <source>Columns...</source>
+        <translation>Columnas...</translation>
+    </message>
+    <message>
+        <source>Says what the columns of the selected table hold</source>
+        <translation>Indica qué contienen las columnas de la tabla elegida</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Leyendo %1</translation>
+    </message>
+    <message>
+        <source>1 session will be imported.</source>
+        <translation>Se importará 1 sesión.</translation>
+    </message>
+    <message>
+        <source>%1 sessions will be imported.</source>
+        <translation>Se importarán %1 sesiones.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ImportTable</name>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Circuit</source>
+        <translation>Circuito</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Vueltas</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Observaciones</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>no map of this circuit</source>
+        <translation>sin mapa de este circuito</translation>
+    </message>
+    <message>
+        <source>was imported before, as &quot;%1&quot;</source>
+        <translation>ya se importó, como «%1»</translation>
+    </message>
+    <message>
+        <source>%1; say what its columns are</source>
+        <translation>%1; indique qué son sus columnas</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationNotice</name>
     <message>
         <source>Put it back</source>
@@ -866,27 +1302,56 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
         <translation>Otro programa modificó %1 entretanto. Donde han escrito los dos queda su texto; la página «Datos de la sesión» ofrece el otro.</translation>
     </message>
+    <message>
+        <source>the file is not in your library</source>
+        <translation>el archivo no está en su biblioteca</translation>
+    </message>
 </context>
 <context>
-    <name>zuno::LapChart</name>
+    <name>zuno::KeySheet</name>
     <message>
-        <source>%1 m</source>
-        <comment>metres</comment>
-        <translation>%1 m</translation>
+        <source>In the list of sessions</source>
+        <translation>En la lista de sesiones</translation>
     </message>
     <message>
-        <source>%1 s</source>
-        <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <source>In the laps table</source>
+        <translation>En la tabla de vueltas</translation>
     </message>
     <message>
-        <source>Section %1</source>
-        <translation>Sector %1</translation>
+        <source>Everywhere</source>
+        <translation>En todas partes</translation>
     </message>
     <message>
-        <source>S%1</source>
-        <comment>section, short</comment>
-        <translation>S%1</translation>
+        <source>About ZUNO Analyzer</source>
+        <translation>Acerca de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>In the charts</source>
+        <translation>En los gráficos</translation>
+    </message>
+    <message>
+        <source>Cursor to the sample before or after</source>
+        <translation>Cursor a la muestra anterior o siguiente</translation>
+    </message>
+    <message>
+        <source>Cursor to the begin or end</source>
+        <translation>Cursor al principio o al final</translation>
+    </message>
+    <message>
+        <source>Zoom in or out around the cursor</source>
+        <translation>Ampliar o reducir en torno al cursor</translation>
+    </message>
+    <message>
+        <source>A page back or on</source>
+        <translation>Una página atrás o adelante</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>La vuelta entera</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
     </message>
 </context>
 <context>
@@ -919,6 +1384,68 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Compare time</source>
         <translation>Comparar tiempo</translation>
     </message>
+    <message>
+        <source>Distance</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>the whole session</source>
+        <translation>toda la sesión</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Medir</translation>
+    </message>
+    <message>
+        <source>Measure between two places (M)</source>
+        <translation>Medir entre dos lugares (M)</translation>
+    </message>
+    <message>
+        <source>Whole lap</source>
+        <translation>Vuelta entera</translation>
+    </message>
+    <message>
+        <source>Show the whole lap (Esc)</source>
+        <translation>Mostrar la vuelta entera (Esc)</translation>
+    </message>
+    <message>
+        <source>Previous corner (,)</source>
+        <translation>Curva anterior (,)</translation>
+    </message>
+    <message>
+        <source>Previous corner</source>
+        <translation>Curva anterior</translation>
+    </message>
+    <message>
+        <source>Next corner (.)</source>
+        <translation>Curva siguiente (.)</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Curva siguiente</translation>
+    </message>
+    <message>
+        <source>Whole session</source>
+        <translation>Toda la sesión</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Curva %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapFlag</name>
@@ -949,6 +1476,25 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>held up</source>
         <translation>estorbado</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapReason</name>
+    <message>
+        <source>held up</source>
+        <translation>estorbado</translation>
+    </message>
+    <message>
+        <source>missed the line</source>
+        <translation>sin pasar por la línea</translation>
+    </message>
+    <message>
+        <source>warm-up</source>
+        <translation>calentamiento</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>otro</translation>
     </message>
 </context>
 <context>
@@ -1096,8 +1642,31 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <translation>Es la primera vuelta misma; elija otra para compararla.</translation>
     </message>
     <message>
-        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
-        <translation>Solo se comparan vueltas del mismo mapa; la primera se hizo en «%1».</translation>
+        <source>Draw no longer besides</source>
+        <translation>No dibujar más además</translation>
+    </message>
+    <message>
+        <source>Draw besides</source>
+        <translation>Dibujar además</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Se dibujan seis vueltas como máximo; quite antes una.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryPane</name>
+    <message>
+        <source>Demo sessions</source>
+        <translation>Sesiones de demo</translation>
+    </message>
+    <message>
+        <source>Takes the demo sessions and their maps away</source>
+        <translation>Quita las sesiones de demo y sus mapas</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>
@@ -1186,6 +1755,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>There is no trash that takes this:</source>
         <translation>Ninguna papelera admite esto:</translation>
     </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Exportar para otros programas</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LineSwitch</name>
+    <message>
+        <source>Gain/loss</source>
+        <translation>Ganancia/pérdida</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Acel./Decel.</translation>
+    </message>
+    <message>
+        <source>Colour the line by: %1 (L)</source>
+        <translation>Colorear la línea por: %1 (L)</translation>
+    </message>
+    <message>
+        <source>What the colours of the line tell (L)</source>
+        <translation>Qué dicen los colores de la línea (L)</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1253,6 +1853,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Change outline</source>
         <translation>cambiar el trazado</translation>
+    </message>
+    <message>
+        <source>Take the gates of the file</source>
+        <translation>tomar las puertas del archivo</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +2003,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>No se pudo eliminar el mapa «%1».</translation>
+    </message>
+    <message>
+        <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
+        <translation>Es una propuesta con la línea de meta del archivo importado; Deshacer toma la que se halló en las vueltas. Póngale nombre y guárdela, o arrastre sus puntos.</translation>
     </message>
 </context>
 <context>
@@ -1610,6 +2218,83 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Reload maps</source>
         <translation>Recargar mapas</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MeasureLine</name>
+    <message>
+        <source>%1 to %2: %3</source>
+        <comment>places, and the distance between them</comment>
+        <translation>%1 a %2: %3</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Speed min</source>
+        <translation>Velocidad mín.</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>media</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>máx.</translation>
+    </message>
+    <message>
+        <source>End measuring (Esc)</source>
+        <translation>Terminar de medir (Esc)</translation>
+    </message>
+    <message>
+        <source>Click two places in a chart, or draw from one to the other.</source>
+        <translation>Haga clic en dos lugares de un gráfico, o arrastre de uno a otro.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::PageFailure</name>
+    <message>
+        <source>The map has stopped several times, and was left alone. Everything else goes on working.</source>
+        <translation>El mapa se ha parado varias veces y ya no se reinicia. Todo lo demás sigue funcionando.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Volver a intentar</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Reference</name>
+    <message>
+        <source>No lap serves as reference yet.</source>
+        <translation>Ninguna vuelta sirve aún de referencia.</translation>
+    </message>
+    <message>
+        <source>The file of the reference, &quot;%1&quot;, is gone.</source>
+        <translation>El archivo de la referencia, «%1», ya no existe.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no lap %2 on this circuit any more.</source>
+        <translation>«%1» ya no tiene una vuelta %2 en este circuito.</translation>
+    </message>
+    <message>
+        <source>The session does not say which vehicle it was.</source>
+        <translation>La sesión no dice qué moto era.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::RidePreview</name>
+    <message>
+        <source>Path</source>
+        <translation>Trayectoria</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>hasta %1</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +2529,25 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::ThemeButton</name>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>Light theme, for the sun (%1)</source>
+        <translation>Tema claro, para el sol (%1)</translation>
+    </message>
+    <message>
+        <source>Dark theme (%1)</source>
+        <translation>Tema oscuro (%1)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::UnsavedChanges</name>
     <message>
         <source>Unsaved changes</source>
@@ -2029,6 +2733,30 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
     <message>
         <source>Map and Laps</source>
         <translation>Mapa y vueltas</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored in %1: the disk is full, or the folder cannot be written to.</source>
+        <translation>No se puede guardar nada en %1: el disco está lleno, o no se puede escribir en la carpeta.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Todas las teclas</translation>
+    </message>
+    <message>
+        <source>Recordings (%1)</source>
+        <translation>Grabaciones (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>The other language is there when the program starts again. Do you want to start it again now?</source>
+        <translation>El otro idioma aparece al reiniciar el programa. ¿Desea reiniciarlo ahora?</translation>
+    </message>
+    <message>
+        <source>Demo files that could not be removed: %1</source>
+        <translation>Archivos de demo que no se pudieron quitar: %1</translation>
     </message>
 </context>
 </TS>

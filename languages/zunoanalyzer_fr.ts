@@ -69,6 +69,125 @@
     </message>
 </context>
 <context>
+    <name>Columns</name>
+    <message>
+        <source>s since 1970</source>
+        <translation>s depuis 1970</translation>
+    </message>
+    <message>
+        <source>ms since 1970</source>
+        <translation>ms depuis 1970</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <translation>nœuds</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnue</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>minutes</translation>
+    </message>
+    <message>
+        <source>°, west positive</source>
+        <translation>°, ouest positif</translation>
+    </message>
+    <message>
+        <source>minutes, west positive</source>
+        <translation>minutes, ouest positif</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Seconde</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>North or south</source>
+        <translation>Nord ou sud</translation>
+    </message>
+    <message>
+        <source>East or west</source>
+        <translation>Est ou ouest</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation>Cap</translation>
+    </message>
+    <message>
+        <source>Longitudinal acceleration</source>
+        <translation>Accélération longitudinale</translation>
+    </message>
+    <message>
+        <source>Lateral acceleration</source>
+        <translation>Accélération latérale</translation>
+    </message>
+    <message>
+        <source>Acceleration, first axis</source>
+        <translation>Accélération, premier axe</translation>
+    </message>
+    <message>
+        <source>Acceleration, second axis</source>
+        <translation>Accélération, deuxième axe</translation>
+    </message>
+    <message>
+        <source>Acceleration, third axis</source>
+        <translation>Accélération, troisième axe</translation>
+    </message>
+    <message>
+        <source>Lean angle</source>
+        <translation>Angle d&apos;inclinaison</translation>
+    </message>
+    <message>
+        <source>Front suspension</source>
+        <translation>Suspension avant</translation>
+    </message>
+    <message>
+        <source>Rear suspension</source>
+        <translation>Suspension arrière</translation>
+    </message>
+    <message>
+        <source>New position (1 or 0)</source>
+        <translation>Nouvelle position (1 ou 0)</translation>
+    </message>
+    <message>
+        <source>Lap number</source>
+        <translation>Numéro du tour</translation>
+    </message>
+    <message>
+        <source>Positions a second</source>
+        <translation>Positions par seconde</translation>
+    </message>
+</context>
+<context>
     <name>Deletion</name>
     <message>
         <source>%1 and %2 more</source>
@@ -93,6 +212,13 @@
     <message>
         <source>This stays, as it is not in your library: %1</source>
         <translation>Ceci reste, car ce n&apos;est pas dans votre bibliothèque&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSessions</name>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>« %1 » n&apos;a pas pu être écrit : %2</translation>
     </message>
 </context>
 <context>
@@ -258,6 +384,53 @@
     <message>
         <source>Under another name, as another session has theirs:</source>
         <translation>Sous un autre nom, car une autre session porte le leur&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>LapScene</name>
+    <message>
+        <source>gaining</source>
+        <translation>gain</translation>
+    </message>
+    <message>
+        <source>losing %1 s / 100 m</source>
+        <translation>perte %1 s / 100 m</translation>
+    </message>
+    <message>
+        <source>braking</source>
+        <translation>freinage</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>accélération</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>reference, lap %1</source>
+        <translation>référence, tour %1</translation>
+    </message>
+    <message>
+        <source>brakes</source>
+        <translation>freine</translation>
+    </message>
+    <message>
+        <source>on the gas</source>
+        <translation>gaz</translation>
+    </message>
+    <message>
+        <source>Offline map</source>
+        <translation>Carte hors ligne</translation>
+    </message>
+    <message>
+        <source>first sample</source>
+        <translation>premier point</translation>
+    </message>
+    <message>
+        <source>last sample</source>
+        <translation>dernier point</translation>
     </message>
 </context>
 <context>
@@ -445,6 +618,101 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::AppearanceSettings</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Unités</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>Mètres</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>Pieds</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Dossiers</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your sessions</source>
+        <translation>Choisir le dossier de vos sessions</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Choisir...</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Cartes</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your maps</source>
+        <translation>Choisir le dossier de vos cartes</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Dossier de vos sessions</translation>
+    </message>
+    <message>
+        <source>Folder of your maps</source>
+        <translation>Dossier de vos cartes</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AxisStrip</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Cause</name>
     <message>
         <source>arrives %1 km/h slower</source>
@@ -488,6 +756,29 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::ChartHead</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Tour %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Écart</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>Le tour %1 n&apos;est pas passé ici</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Retard sur le tour %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Avance sur le tour %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -496,6 +787,45 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>(empty)</source>
         <translation>(vide)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ColumnDialog</name>
+    <message>
+        <source>Columns of %1</source>
+        <translation>Colonnes de %1</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Grandeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>non utilisée</translation>
+    </message>
+    <message>
+        <source>Time, latitude and longitude are needed.</source>
+        <translation>Il faut le temps, la latitude et la longitude.</translation>
+    </message>
+    <message>
+        <source>These columns give no ride of a second.</source>
+        <translation>Ces colonnes ne donnent pas une seconde de roulage.</translation>
+    </message>
+    <message>
+        <source>%1 s of a ride from the begin of the file; lines that cannot be read: %2</source>
+        <translation>%1 s de roulage dès le début du fichier ; lignes illisibles : %2</translation>
     </message>
 </context>
 <context>
@@ -594,51 +924,28 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
-    <name>zuno::CursorLabels</name>
+    <name>zuno::CornerStrip</name>
     <message>
-        <source>Lap %1</source>
-        <translation>Tour %1</translation>
+        <source>Corners of the lap</source>
+        <translation>Virages du tour</translation>
     </message>
     <message>
-        <source>Difference</source>
-        <translation>Écart</translation>
+        <source>Corner %1</source>
+        <translation>Virage %1</translation>
     </message>
     <message>
-        <source>%1   %2 m</source>
-        <comment>time and distance since the start of the lap</comment>
-        <translation>%1   %2 m</translation>
+        <source>Straight</source>
+        <translation>Ligne droite</translation>
     </message>
     <message>
-        <source>Lap %1 was not here</source>
-        <translation>Le tour %1 n&apos;est pas passé ici</translation>
+        <source>%1: %2 s</source>
+        <comment>a corner and its time</comment>
+        <translation>%1 : %2 s</translation>
     </message>
     <message>
-        <source>Delay on the lap %1</source>
-        <translation>Retard sur le tour %1</translation>
-    </message>
-    <message>
-        <source>Ahead on the lap %1 (%2 - %3)</source>
-        <translation>Avance sur le tour %1 (%2 - %3)</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Vitesse</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Angle</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Accél./Décél.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Susp. avant</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Susp. arrière</translation>
+        <source>%1: %2 s, %3 s</source>
+        <comment>a corner, its time, the difference to the other lap</comment>
+        <translation>%1 : %2 s, %3 s</translation>
     </message>
 </context>
 <context>
@@ -654,6 +961,41 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::EmptyPage</name>
+    <message>
+        <source>There are no sessions yet.</source>
+        <translation>Il n&apos;y a pas encore de sessions.</translation>
+    </message>
+    <message>
+        <source>Drop the session files (.ra1) of your logger here, or a whole folder.</source>
+        <translation>Déposez ici les fichiers de session (.ra1) de votre boîtier, ou un dossier entier.</translation>
+    </message>
+    <message>
+        <source>Import (Ctrl+I)</source>
+        <translation>Importer (Ctrl+I)</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importer...</translation>
+    </message>
+    <message>
+        <source>Show the demo</source>
+        <translation>Montrer la démo</translation>
+    </message>
+    <message>
+        <source>The demo: invented sessions of three riders on three circuits. They can be taken away again with one click.</source>
+        <translation>La démo : des sessions inventées de trois pilotes sur trois circuits. Un clic suffit pour les retirer.</translation>
+    </message>
+    <message>
+        <source>1  Import a session      2  Its circuit is found, laps are cut      3  See where the time is</source>
+        <translation>1  Importez une session      2  Son circuit est trouvé, les tours sont découpés      3  Voyez où est le temps</translation>
+    </message>
+    <message>
+        <source>Files can also be copied to %1</source>
+        <translation>Les fichiers peuvent aussi être copiés dans %1</translation>
     </message>
 </context>
 <context>
@@ -693,6 +1035,18 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
         <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être écrit&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Exporter pour d&apos;autres programmes</translation>
+    </message>
+    <message>
+        <source>%1 sessions were exported to &quot;%2&quot;.</source>
+        <translation>%1 sessions exportées vers « %2 ».</translation>
+    </message>
+    <message>
+        <source>CSV with units (*.csv)</source>
+        <translation>CSV avec unités (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -826,6 +1180,88 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::ImportDialog</name>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Sessions are made of these recordings; the files themselves stay as they are.</source>
+        <translation>Des sessions sont créées à partir de ces enregistrements ; les fichiers eux-mêmes restent tels quels.</translation>
+    </message>
+    <message>
+        <source>Columns...</source>
+        <translation>Colonnes...</translation>
+    </message>
+    <message>
+        <source>Says what the columns of the selected table hold</source>
+        <translation>Indique ce que contiennent les colonnes du tableau sélectionné</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lecture de %1</translation>
+    </message>
+    <message>
+        <source>1 session will be imported.</source>
+        <translation>1 session sera importée.</translation>
+    </message>
+    <message>
+        <source>%1 sessions will be imported.</source>
+        <translation>%1 sessions seront importées.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ImportTable</name>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Circuit</source>
+        <translation>Circuit</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Tours</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>no map of this circuit</source>
+        <translation>pas de carte de ce circuit</translation>
+    </message>
+    <message>
+        <source>was imported before, as &quot;%1&quot;</source>
+        <translation>a déjà été importé, comme « %1 »</translation>
+    </message>
+    <message>
+        <source>%1; say what its columns are</source>
+        <translation>%1 ; indiquez ce que sont ses colonnes</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationNotice</name>
     <message>
         <source>Put it back</source>
@@ -866,27 +1302,56 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
         <translation>%1 a été modifié entre-temps par un autre programme. Là où vous avez tapé tous deux, votre texte reste&#xa0;; la page «&#xa0;Infos de la session&#xa0;» propose l&apos;autre.</translation>
     </message>
+    <message>
+        <source>the file is not in your library</source>
+        <translation>le fichier n&apos;est pas dans votre bibliothèque</translation>
+    </message>
 </context>
 <context>
-    <name>zuno::LapChart</name>
+    <name>zuno::KeySheet</name>
     <message>
-        <source>%1 m</source>
-        <comment>metres</comment>
-        <translation>%1 m</translation>
+        <source>In the list of sessions</source>
+        <translation>Dans la liste des sessions</translation>
     </message>
     <message>
-        <source>%1 s</source>
-        <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <source>In the laps table</source>
+        <translation>Dans le tableau des tours</translation>
     </message>
     <message>
-        <source>Section %1</source>
-        <translation>Secteur %1</translation>
+        <source>Everywhere</source>
+        <translation>Partout</translation>
     </message>
     <message>
-        <source>S%1</source>
-        <comment>section, short</comment>
-        <translation>S%1</translation>
+        <source>About ZUNO Analyzer</source>
+        <translation>À propos de ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>In the charts</source>
+        <translation>Dans les graphiques</translation>
+    </message>
+    <message>
+        <source>Cursor to the sample before or after</source>
+        <translation>Curseur au point précédent ou suivant</translation>
+    </message>
+    <message>
+        <source>Cursor to the begin or end</source>
+        <translation>Curseur au début ou à la fin</translation>
+    </message>
+    <message>
+        <source>Zoom in or out around the cursor</source>
+        <translation>Agrandir ou réduire autour du curseur</translation>
+    </message>
+    <message>
+        <source>A page back or on</source>
+        <translation>Une page en arrière ou en avant</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>Le tour entier</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
     </message>
 </context>
 <context>
@@ -919,6 +1384,68 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Compare time</source>
         <translation>Comparer le temps</translation>
     </message>
+    <message>
+        <source>Distance</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canaux</translation>
+    </message>
+    <message>
+        <source>the whole session</source>
+        <translation>toute la session</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Mesurer</translation>
+    </message>
+    <message>
+        <source>Measure between two places (M)</source>
+        <translation>Mesurer entre deux endroits (M)</translation>
+    </message>
+    <message>
+        <source>Whole lap</source>
+        <translation>Tour entier</translation>
+    </message>
+    <message>
+        <source>Show the whole lap (Esc)</source>
+        <translation>Afficher le tour entier (Échap)</translation>
+    </message>
+    <message>
+        <source>Previous corner (,)</source>
+        <translation>Virage précédent (,)</translation>
+    </message>
+    <message>
+        <source>Previous corner</source>
+        <translation>Virage précédent</translation>
+    </message>
+    <message>
+        <source>Next corner (.)</source>
+        <translation>Virage suivant (.)</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Virage suivant</translation>
+    </message>
+    <message>
+        <source>Whole session</source>
+        <translation>Toute la session</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Virage</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Virage %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapFlag</name>
@@ -949,6 +1476,25 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>held up</source>
         <translation>gêné</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapReason</name>
+    <message>
+        <source>held up</source>
+        <translation>gêné</translation>
+    </message>
+    <message>
+        <source>missed the line</source>
+        <translation>ligne manquée</translation>
+    </message>
+    <message>
+        <source>warm-up</source>
+        <translation>tour de chauffe</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>autre</translation>
     </message>
 </context>
 <context>
@@ -1096,8 +1642,31 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <translation>C&apos;est le premier tour lui-même ; choisissez-en un autre à comparer.</translation>
     </message>
     <message>
-        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
-        <translation>Seuls des tours de la même carte sont comparés ; le premier a été fait sur « %1 ».</translation>
+        <source>Draw no longer besides</source>
+        <translation>Ne plus tracer en plus</translation>
+    </message>
+    <message>
+        <source>Draw besides</source>
+        <translation>Tracer en plus</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Six tours sont tracés au plus ; retirez-en d&apos;abord un.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryPane</name>
+    <message>
+        <source>Demo sessions</source>
+        <translation>Sessions de démo</translation>
+    </message>
+    <message>
+        <source>Takes the demo sessions and their maps away</source>
+        <translation>Retire les sessions de démo et leurs cartes</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
     </message>
 </context>
 <context>
@@ -1186,6 +1755,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>There is no trash that takes this:</source>
         <translation>Aucune corbeille n&apos;accepte ceci&#xa0;:</translation>
     </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Exporter pour d&apos;autres programmes</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LineSwitch</name>
+    <message>
+        <source>Gain/loss</source>
+        <translation>Gain/perte</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accél./Décél.</translation>
+    </message>
+    <message>
+        <source>Colour the line by: %1 (L)</source>
+        <translation>Colorer la ligne selon : %1 (L)</translation>
+    </message>
+    <message>
+        <source>What the colours of the line tell (L)</source>
+        <translation>Ce que disent les couleurs de la ligne (L)</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1253,6 +1853,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Change outline</source>
         <translation>le changement de tracé</translation>
+    </message>
+    <message>
+        <source>Take the gates of the file</source>
+        <translation>la reprise des portes du fichier</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +2003,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>La carte «&#xa0;%1&#xa0;» n&apos;a pas pu être supprimée.</translation>
+    </message>
+    <message>
+        <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
+        <translation>Ceci est une proposition avec la ligne de départ du fichier importé ; Défaire prend la ligne trouvée dans les tours. Nommez-la et enregistrez-la, ou déplacez ses points.</translation>
     </message>
 </context>
 <context>
@@ -1610,6 +2218,83 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Reload maps</source>
         <translation>Recharger les cartes</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MeasureLine</name>
+    <message>
+        <source>%1 to %2: %3</source>
+        <comment>places, and the distance between them</comment>
+        <translation>%1 à %2 : %3</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Speed min</source>
+        <translation>Vitesse min.</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>moyenne</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max.</translation>
+    </message>
+    <message>
+        <source>End measuring (Esc)</source>
+        <translation>Terminer la mesure (Échap)</translation>
+    </message>
+    <message>
+        <source>Click two places in a chart, or draw from one to the other.</source>
+        <translation>Cliquez deux endroits dans un graphique, ou tirez de l&apos;un à l&apos;autre.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::PageFailure</name>
+    <message>
+        <source>The map has stopped several times, and was left alone. Everything else goes on working.</source>
+        <translation>La carte s&apos;est arrêtée plusieurs fois et n&apos;est plus relancée. Tout le reste continue de fonctionner.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Reference</name>
+    <message>
+        <source>No lap serves as reference yet.</source>
+        <translation>Aucun tour ne sert encore de référence.</translation>
+    </message>
+    <message>
+        <source>The file of the reference, &quot;%1&quot;, is gone.</source>
+        <translation>Le fichier de la référence, « %1 », a disparu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no lap %2 on this circuit any more.</source>
+        <translation>« %1 » n&apos;a plus de tour %2 sur ce circuit.</translation>
+    </message>
+    <message>
+        <source>The session does not say which vehicle it was.</source>
+        <translation>La session ne dit pas de quelle moto il s&apos;agit.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::RidePreview</name>
+    <message>
+        <source>Path</source>
+        <translation>Trajectoire</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>jusqu&apos;à %1</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +2529,25 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::ThemeButton</name>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light theme, for the sun (%1)</source>
+        <translation>Thème clair, pour le soleil (%1)</translation>
+    </message>
+    <message>
+        <source>Dark theme (%1)</source>
+        <translation>Thème sombre (%1)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::UnsavedChanges</name>
     <message>
         <source>Unsaved changes</source>
@@ -2029,6 +2733,30 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     <message>
         <source>Map and Laps</source>
         <translation>Carte et tours</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored in %1: the disk is full, or the folder cannot be written to.</source>
+        <translation>Rien ne peut être enregistré dans %1 : le disque est plein, ou le dossier n&apos;est pas accessible en écriture.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Toutes les touches</translation>
+    </message>
+    <message>
+        <source>Recordings (%1)</source>
+        <translation>Enregistrements (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>The other language is there when the program starts again. Do you want to start it again now?</source>
+        <translation>L&apos;autre langue apparaît au redémarrage du programme. Voulez-vous le redémarrer maintenant ?</translation>
+    </message>
+    <message>
+        <source>Demo files that could not be removed: %1</source>
+        <translation>Fichiers de démo qui n&apos;ont pas pu être retirés : %1</translation>
     </message>
 </context>
 </TS>

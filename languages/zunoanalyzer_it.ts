@@ -69,6 +69,125 @@
     </message>
 </context>
 <context>
+    <name>Columns</name>
+    <message>
+        <source>s since 1970</source>
+        <translation>s dal 1970</translation>
+    </message>
+    <message>
+        <source>ms since 1970</source>
+        <translation>ms dal 1970</translation>
+    </message>
+    <message>
+        <source>knots</source>
+        <translation>nodi</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>non nota</translation>
+    </message>
+    <message>
+        <source>minutes</source>
+        <translation>minuti</translation>
+    </message>
+    <message>
+        <source>°, west positive</source>
+        <translation>°, ovest positivo</translation>
+    </message>
+    <message>
+        <source>minutes, west positive</source>
+        <translation>minuti, ovest positivo</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minuto</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Secondo</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitudine</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitudine</translation>
+    </message>
+    <message>
+        <source>North or south</source>
+        <translation>Nord o sud</translation>
+    </message>
+    <message>
+        <source>East or west</source>
+        <translation>Est o ovest</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Course</source>
+        <translation>Direzione</translation>
+    </message>
+    <message>
+        <source>Longitudinal acceleration</source>
+        <translation>Accelerazione longitudinale</translation>
+    </message>
+    <message>
+        <source>Lateral acceleration</source>
+        <translation>Accelerazione laterale</translation>
+    </message>
+    <message>
+        <source>Acceleration, first axis</source>
+        <translation>Accelerazione, primo asse</translation>
+    </message>
+    <message>
+        <source>Acceleration, second axis</source>
+        <translation>Accelerazione, secondo asse</translation>
+    </message>
+    <message>
+        <source>Acceleration, third axis</source>
+        <translation>Accelerazione, terzo asse</translation>
+    </message>
+    <message>
+        <source>Lean angle</source>
+        <translation>Angolo di piega</translation>
+    </message>
+    <message>
+        <source>Front suspension</source>
+        <translation>Sospensione anteriore</translation>
+    </message>
+    <message>
+        <source>Rear suspension</source>
+        <translation>Sospensione posteriore</translation>
+    </message>
+    <message>
+        <source>New position (1 or 0)</source>
+        <translation>Nuova posizione (1 o 0)</translation>
+    </message>
+    <message>
+        <source>Lap number</source>
+        <translation>Numero del giro</translation>
+    </message>
+    <message>
+        <source>Positions a second</source>
+        <translation>Posizioni al secondo</translation>
+    </message>
+</context>
+<context>
     <name>Deletion</name>
     <message>
         <source>%1 and %2 more</source>
@@ -93,6 +212,13 @@
     <message>
         <source>This stays, as it is not in your library: %1</source>
         <translation>Questo resta, perché non è nella tua libreria: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DemoSessions</name>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Non è stato possibile scrivere «%1»: %2</translation>
     </message>
 </context>
 <context>
@@ -258,6 +384,53 @@
     <message>
         <source>Under another name, as another session has theirs:</source>
         <translation>Con un altro nome, perché il loro è di un&apos;altra sessione:</translation>
+    </message>
+</context>
+<context>
+    <name>LapScene</name>
+    <message>
+        <source>gaining</source>
+        <translation>guadagno</translation>
+    </message>
+    <message>
+        <source>losing %1 s / 100 m</source>
+        <translation>perdita %1 s / 100 m</translation>
+    </message>
+    <message>
+        <source>braking</source>
+        <translation>frenata</translation>
+    </message>
+    <message>
+        <source>accelerating</source>
+        <translation>accelerazione</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>reference, lap %1</source>
+        <translation>riferimento, giro %1</translation>
+    </message>
+    <message>
+        <source>brakes</source>
+        <translation>frena</translation>
+    </message>
+    <message>
+        <source>on the gas</source>
+        <translation>gas</translation>
+    </message>
+    <message>
+        <source>Offline map</source>
+        <translation>Mappa offline</translation>
+    </message>
+    <message>
+        <source>first sample</source>
+        <translation>primo campione</translation>
+    </message>
+    <message>
+        <source>last sample</source>
+        <translation>ultimo campione</translation>
     </message>
 </context>
 <context>
@@ -445,6 +618,101 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::AppearanceSettings</name>
+    <message>
+        <source>Appearance</source>
+        <translation>Aspetto</translation>
+    </message>
+    <message>
+        <source>Theme</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Come il desktop</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Scuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Chiaro</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Unità</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>km/h</source>
+        <translation>km/h</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distanza</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>Metri</translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation>Piedi</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Cartelle</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessioni</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your sessions</source>
+        <translation>Scegli la cartella delle sessioni</translation>
+    </message>
+    <message>
+        <source>Choose...</source>
+        <translation>Scegli...</translation>
+    </message>
+    <message>
+        <source>Maps</source>
+        <translation>Mappe</translation>
+    </message>
+    <message>
+        <source>Choose the folder of your maps</source>
+        <translation>Scegli la cartella delle mappe</translation>
+    </message>
+    <message>
+        <source>Folder of your sessions</source>
+        <translation>Cartella delle sessioni</translation>
+    </message>
+    <message>
+        <source>Folder of your maps</source>
+        <translation>Cartella delle mappe</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::AxisStrip</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Cause</name>
     <message>
         <source>arrives %1 km/h slower</source>
@@ -488,6 +756,29 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::ChartHead</name>
+    <message>
+        <source>Lap %1</source>
+        <translation>Giro %1</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenza</translation>
+    </message>
+    <message>
+        <source>Lap %1 was not here</source>
+        <translation>Il giro %1 non è passato di qui</translation>
+    </message>
+    <message>
+        <source>Delay on the lap %1</source>
+        <translation>Ritardo sul giro %1</translation>
+    </message>
+    <message>
+        <source>Ahead on the lap %1 (%2 - %3)</source>
+        <translation>Vantaggio sul giro %1 (%2 - %3)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CheckableComboBox</name>
     <message>
         <source>All</source>
@@ -496,6 +787,45 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>(empty)</source>
         <translation>(vuoto)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ColumnDialog</name>
+    <message>
+        <source>Columns of %1</source>
+        <translation>Colonne di %1</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Colonna</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Grandezza</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unità</translation>
+    </message>
+    <message>
+        <source>not used</source>
+        <translation>non usata</translation>
+    </message>
+    <message>
+        <source>Time, latitude and longitude are needed.</source>
+        <translation>Servono tempo, latitudine e longitudine.</translation>
+    </message>
+    <message>
+        <source>These columns give no ride of a second.</source>
+        <translation>Queste colonne non danno un secondo di guida.</translation>
+    </message>
+    <message>
+        <source>%1 s of a ride from the begin of the file; lines that cannot be read: %2</source>
+        <translation>%1 s di guida dall&apos;inizio del file; righe illeggibili: %2</translation>
     </message>
 </context>
 <context>
@@ -594,51 +924,28 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
-    <name>zuno::CursorLabels</name>
+    <name>zuno::CornerStrip</name>
     <message>
-        <source>Lap %1</source>
-        <translation>Giro %1</translation>
+        <source>Corners of the lap</source>
+        <translation>Curve del giro</translation>
     </message>
     <message>
-        <source>Difference</source>
-        <translation>Differenza</translation>
+        <source>Corner %1</source>
+        <translation>Curva %1</translation>
     </message>
     <message>
-        <source>%1   %2 m</source>
-        <comment>time and distance since the start of the lap</comment>
-        <translation>%1   %2 m</translation>
+        <source>Straight</source>
+        <translation>Rettilineo</translation>
     </message>
     <message>
-        <source>Lap %1 was not here</source>
-        <translation>Il giro %1 non è passato di qui</translation>
+        <source>%1: %2 s</source>
+        <comment>a corner and its time</comment>
+        <translation>%1: %2 s</translation>
     </message>
     <message>
-        <source>Delay on the lap %1</source>
-        <translation>Ritardo sul giro %1</translation>
-    </message>
-    <message>
-        <source>Ahead on the lap %1 (%2 - %3)</source>
-        <translation>Vantaggio sul giro %1 (%2 - %3)</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocità</translation>
-    </message>
-    <message>
-        <source>Angle</source>
-        <translation>Piega</translation>
-    </message>
-    <message>
-        <source>Accel/Decel</source>
-        <translation>Accel./Decel.</translation>
-    </message>
-    <message>
-        <source>Front susp.</source>
-        <translation>Sosp. ant.</translation>
-    </message>
-    <message>
-        <source>Rear susp.</source>
-        <translation>Sosp. post.</translation>
+        <source>%1: %2 s, %3 s</source>
+        <comment>a corner, its time, the difference to the other lap</comment>
+        <translation>%1: %2 s, %3 s</translation>
     </message>
 </context>
 <context>
@@ -654,6 +961,41 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::EmptyPage</name>
+    <message>
+        <source>There are no sessions yet.</source>
+        <translation>Non ci sono ancora sessioni.</translation>
+    </message>
+    <message>
+        <source>Drop the session files (.ra1) of your logger here, or a whole folder.</source>
+        <translation>Trascina qui i file di sessione (.ra1) del tuo logger, o un&apos;intera cartella.</translation>
+    </message>
+    <message>
+        <source>Import (Ctrl+I)</source>
+        <translation>Importa (Ctrl+I)</translation>
+    </message>
+    <message>
+        <source>Import...</source>
+        <translation>Importa...</translation>
+    </message>
+    <message>
+        <source>Show the demo</source>
+        <translation>Mostra la demo</translation>
+    </message>
+    <message>
+        <source>The demo: invented sessions of three riders on three circuits. They can be taken away again with one click.</source>
+        <translation>La demo: sessioni inventate di tre piloti su tre circuiti. Basta un clic per rimuoverle.</translation>
+    </message>
+    <message>
+        <source>1  Import a session      2  Its circuit is found, laps are cut      3  See where the time is</source>
+        <translation>1  Importa una sessione      2  Il circuito viene trovato, i giri divisi      3  Guarda dov&apos;è il tempo</translation>
+    </message>
+    <message>
+        <source>Files can also be copied to %1</source>
+        <translation>I file si possono anche copiare in %1</translation>
     </message>
 </context>
 <context>
@@ -693,6 +1035,18 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
         <translation>Non è stato possibile scrivere «%1»: %2</translation>
+    </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Esporta per altri programmi</translation>
+    </message>
+    <message>
+        <source>%1 sessions were exported to &quot;%2&quot;.</source>
+        <translation>%1 sessioni esportate in «%2».</translation>
+    </message>
+    <message>
+        <source>CSV with units (*.csv)</source>
+        <translation>CSV con unità (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -826,6 +1180,88 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::ImportDialog</name>
+    <message>
+        <source>Import</source>
+        <translation>Importa</translation>
+    </message>
+    <message>
+        <source>Sessions are made of these recordings; the files themselves stay as they are.</source>
+        <translation>Da queste registrazioni si ricavano sessioni; i file stessi restano come sono.</translation>
+    </message>
+    <message>
+        <source>Columns...</source>
+        <translation>Colonne...</translation>
+    </message>
+    <message>
+        <source>Says what the columns of the selected table hold</source>
+        <translation>Indica che cosa contengono le colonne della tabella selezionata</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lettura di %1</translation>
+    </message>
+    <message>
+        <source>1 session will be imported.</source>
+        <translation>Verrà importata 1 sessione.</translation>
+    </message>
+    <message>
+        <source>%1 sessions will be imported.</source>
+        <translation>Verranno importate %1 sessioni.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ImportTable</name>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Circuit</source>
+        <translation>Circuito</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Rate</source>
+        <translation>Frequenza</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Giri</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Osservazioni</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>no map of this circuit</source>
+        <translation>nessuna mappa di questo circuito</translation>
+    </message>
+    <message>
+        <source>was imported before, as &quot;%1&quot;</source>
+        <translation>è già stato importato, come «%1»</translation>
+    </message>
+    <message>
+        <source>%1; say what its columns are</source>
+        <translation>%1; indica che cosa sono le colonne</translation>
+    </message>
+</context>
+<context>
     <name>zuno::InformationNotice</name>
     <message>
         <source>Put it back</source>
@@ -866,27 +1302,56 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>%1 was changed by another program meanwhile. Where you both typed, your text stands; the page &quot;Session infos&quot; offers the other one.</source>
         <translation>%1 è stato modificato nel frattempo da un altro programma. Dove avete scritto entrambi resta il tuo testo; la scheda «Info sessione» offre l&apos;altro.</translation>
     </message>
+    <message>
+        <source>the file is not in your library</source>
+        <translation>il file non è nella tua libreria</translation>
+    </message>
 </context>
 <context>
-    <name>zuno::LapChart</name>
+    <name>zuno::KeySheet</name>
     <message>
-        <source>%1 m</source>
-        <comment>metres</comment>
-        <translation>%1 m</translation>
+        <source>In the list of sessions</source>
+        <translation>Nell&apos;elenco delle sessioni</translation>
     </message>
     <message>
-        <source>%1 s</source>
-        <comment>seconds</comment>
-        <translation>%1 s</translation>
+        <source>In the laps table</source>
+        <translation>Nella tabella dei giri</translation>
     </message>
     <message>
-        <source>Section %1</source>
-        <translation>Settore %1</translation>
+        <source>Everywhere</source>
+        <translation>Ovunque</translation>
     </message>
     <message>
-        <source>S%1</source>
-        <comment>section, short</comment>
-        <translation>S%1</translation>
+        <source>About ZUNO Analyzer</source>
+        <translation>Informazioni su ZUNO Analyzer</translation>
+    </message>
+    <message>
+        <source>In the charts</source>
+        <translation>Nei grafici</translation>
+    </message>
+    <message>
+        <source>Cursor to the sample before or after</source>
+        <translation>Cursore al campione prima o dopo</translation>
+    </message>
+    <message>
+        <source>Cursor to the begin or end</source>
+        <translation>Cursore all&apos;inizio o alla fine</translation>
+    </message>
+    <message>
+        <source>Zoom in or out around the cursor</source>
+        <translation>Ingrandisci o riduci attorno al cursore</translation>
+    </message>
+    <message>
+        <source>A page back or on</source>
+        <translation>Una pagina indietro o avanti</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>Il giro intero</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasti</translation>
     </message>
 </context>
 <context>
@@ -919,6 +1384,68 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Compare time</source>
         <translation>Confronta il tempo</translation>
     </message>
+    <message>
+        <source>Distance</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Distanza</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <comment>the charts&apos; axis</comment>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canali</translation>
+    </message>
+    <message>
+        <source>the whole session</source>
+        <translation>tutta la sessione</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Misura</translation>
+    </message>
+    <message>
+        <source>Measure between two places (M)</source>
+        <translation>Misura tra due punti (M)</translation>
+    </message>
+    <message>
+        <source>Whole lap</source>
+        <translation>Giro intero</translation>
+    </message>
+    <message>
+        <source>Show the whole lap (Esc)</source>
+        <translation>Mostra il giro intero (Esc)</translation>
+    </message>
+    <message>
+        <source>Previous corner (,)</source>
+        <translation>Curva precedente (,)</translation>
+    </message>
+    <message>
+        <source>Previous corner</source>
+        <translation>Curva precedente</translation>
+    </message>
+    <message>
+        <source>Next corner (.)</source>
+        <translation>Curva successiva (.)</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Curva successiva</translation>
+    </message>
+    <message>
+        <source>Whole session</source>
+        <translation>Tutta la sessione</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Curva %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::LapFlag</name>
@@ -949,6 +1476,25 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>held up</source>
         <translation>ostacolato</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LapReason</name>
+    <message>
+        <source>held up</source>
+        <translation>ostacolato</translation>
+    </message>
+    <message>
+        <source>missed the line</source>
+        <translation>traguardo mancato</translation>
+    </message>
+    <message>
+        <source>warm-up</source>
+        <translation>giro di riscaldamento</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>altro</translation>
     </message>
 </context>
 <context>
@@ -1096,8 +1642,31 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <translation>Questo è il primo giro stesso; ne scelga un altro da confrontare.</translation>
     </message>
     <message>
-        <source>Only laps of the same map are compared; the first lap was ridden on &quot;%1&quot;.</source>
-        <translation>Si confrontano solo giri della stessa mappa; il primo è stato fatto su «%1».</translation>
+        <source>Draw no longer besides</source>
+        <translation>Non disegnare più in aggiunta</translation>
+    </message>
+    <message>
+        <source>Draw besides</source>
+        <translation>Disegna in aggiunta</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Si disegnano al massimo sei giri; togline prima uno.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LibraryPane</name>
+    <message>
+        <source>Demo sessions</source>
+        <translation>Sessioni demo</translation>
+    </message>
+    <message>
+        <source>Takes the demo sessions and their maps away</source>
+        <translation>Rimuove le sessioni demo e le loro mappe</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -1186,6 +1755,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>There is no trash that takes this:</source>
         <translation>Nessun cestino accetta questo:</translation>
     </message>
+    <message>
+        <source>Export for other programs</source>
+        <translation>Esporta per altri programmi</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LineSwitch</name>
+    <message>
+        <source>Gain/loss</source>
+        <translation>Guad./perdita</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>Accel/Decel</source>
+        <translation>Accel./Decel.</translation>
+    </message>
+    <message>
+        <source>Colour the line by: %1 (L)</source>
+        <translation>Colora la linea per: %1 (L)</translation>
+    </message>
+    <message>
+        <source>What the colours of the line tell (L)</source>
+        <translation>Che cosa dicono i colori della linea (L)</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapCheckModel</name>
@@ -1253,6 +1853,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Change outline</source>
         <translation>la modifica del tracciato</translation>
+    </message>
+    <message>
+        <source>Take the gates of the file</source>
+        <translation>l&apos;uso delle porte del file</translation>
     </message>
 </context>
 <context>
@@ -1399,6 +2003,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>The map &quot;%1&quot; could not be deleted.</source>
         <translation>Non è stato possibile eliminare la mappa «%1».</translation>
+    </message>
+    <message>
+        <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
+        <translation>Questa è una proposta con il traguardo del file importato; Annulla prende quello trovato nei giri. Dalle un nome e salvala, o trascina i punti.</translation>
     </message>
 </context>
 <context>
@@ -1610,6 +2218,83 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Reload maps</source>
         <translation>Ricarica le mappe</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::MeasureLine</name>
+    <message>
+        <source>%1 to %2: %3</source>
+        <comment>places, and the distance between them</comment>
+        <translation>da %1 a %2: %3</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Speed min</source>
+        <translation>Velocità min</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>media</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>max</translation>
+    </message>
+    <message>
+        <source>End measuring (Esc)</source>
+        <translation>Termina la misura (Esc)</translation>
+    </message>
+    <message>
+        <source>Click two places in a chart, or draw from one to the other.</source>
+        <translation>Fai clic su due punti di un grafico, o trascina dall&apos;uno all&apos;altro.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::PageFailure</name>
+    <message>
+        <source>The map has stopped several times, and was left alone. Everything else goes on working.</source>
+        <translation>La mappa si è fermata più volte e non viene più riavviata. Tutto il resto continua a funzionare.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Reference</name>
+    <message>
+        <source>No lap serves as reference yet.</source>
+        <translation>Nessun giro serve ancora da riferimento.</translation>
+    </message>
+    <message>
+        <source>The file of the reference, &quot;%1&quot;, is gone.</source>
+        <translation>Il file del riferimento, «%1», non c&apos;è più.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no lap %2 on this circuit any more.</source>
+        <translation>«%1» non ha più un giro %2 su questo circuito.</translation>
+    </message>
+    <message>
+        <source>The session does not say which vehicle it was.</source>
+        <translation>La sessione non dice quale moto fosse.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::RidePreview</name>
+    <message>
+        <source>Path</source>
+        <translation>Traiettoria</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>up to %1</source>
+        <translation>fino a %1</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +2529,25 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::ThemeButton</name>
+    <message>
+        <source>Light</source>
+        <translation>Chiaro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Scuro</translation>
+    </message>
+    <message>
+        <source>Light theme, for the sun (%1)</source>
+        <translation>Tema chiaro, per il sole (%1)</translation>
+    </message>
+    <message>
+        <source>Dark theme (%1)</source>
+        <translation>Tema scuro (%1)</translation>
+    </message>
+</context>
+<context>
     <name>zuno::UnsavedChanges</name>
     <message>
         <source>Unsaved changes</source>
@@ -2029,6 +2733,30 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     <message>
         <source>Map and Laps</source>
         <translation>Mappa e giri</translation>
+    </message>
+    <message>
+        <source>Nothing can be stored in %1: the disk is full, or the folder cannot be written to.</source>
+        <translation>In %1 non si può salvare nulla: il disco è pieno, o non si può scrivere nella cartella.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Tutti i tasti</translation>
+    </message>
+    <message>
+        <source>Recordings (%1)</source>
+        <translation>Registrazioni (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>The other language is there when the program starts again. Do you want to start it again now?</source>
+        <translation>L&apos;altra lingua appare al riavvio del programma. Riavviarlo adesso?</translation>
+    </message>
+    <message>
+        <source>Demo files that could not be removed: %1</source>
+        <translation>File demo che non è stato possibile rimuovere: %1</translation>
     </message>
 </context>
 </TS>
