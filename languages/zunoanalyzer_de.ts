@@ -582,6 +582,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>There is not enough memory to show this session.</source>
         <translation>Der Arbeitsspeicher reicht nicht, um diese Session zu zeigen.</translation>
     </message>
+    <message>
+        <source>Traveled distance : %1</source>
+        <translation>Gefahrene Strecke: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::AboutWidget</name>
@@ -946,6 +950,73 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1: %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornersPane</name>
+    <message>
+        <source>Join</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Makes one corner of the selected one and the next</source>
+        <translation>Macht aus der gewählten und der nächsten eine Kurve</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Makes two corners of the selected one</source>
+        <translation>Macht aus der gewählten zwei Kurven</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>The selected one counts as no corner</source>
+        <translation>Die gewählte zählt nicht als Kurve</translation>
+    </message>
+    <message>
+        <source>As found</source>
+        <translation>Wie gefunden</translation>
+    </message>
+    <message>
+        <source>Takes back all changes of the corners</source>
+        <translation>Nimmt alle Änderungen der Kurven zurück</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Ab der Linie</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>A double click on a corner gives it a name</source>
+        <translation>Ein Doppelklick auf eine Kurve gibt ihr einen Namen</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
     </message>
 </context>
 <context>
@@ -1352,6 +1423,22 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Keys</source>
         <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>The biggest losses</source>
+        <translation>Die größten Verluste</translation>
+    </message>
+    <message>
+        <source>The corner before or after</source>
+        <translation>Die Kurve davor oder danach</translation>
+    </message>
+    <message>
+        <source>Over the distance or the time</source>
+        <translation>Über die Distanz oder die Zeit</translation>
+    </message>
+    <message>
+        <source>Measure between two places</source>
+        <translation>Zwischen zwei Stellen messen</translation>
     </message>
 </context>
 <context>
@@ -1858,6 +1945,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Take the gates of the file</source>
         <translation>Tore der Datei übernehmen</translation>
     </message>
+    <message>
+        <source>Change corner</source>
+        <translation>Kurve ändern</translation>
+    </message>
+    <message>
+        <source>Corners as found</source>
+        <translation>Kurven wie gefunden</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
@@ -1937,6 +2032,14 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
         <translation>Eine Karte hat Platz für %1 Zeitnahmepunkte. Entfernen Sie einen, um einen anderen hinzuzufügen.</translation>
     </message>
+    <message>
+        <source>Points</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Kurven</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
@@ -2007,6 +2110,26 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
         <translation>Das ist ein Vorschlag mit der Startlinie der importierten Datei; Rückgängig nimmt die Linie, die in den Runden gefunden wurde. Benennen und speichern, oder die Punkte ziehen.</translation>
+    </message>
+    <message>
+        <source>The file of the map&apos;s corners cannot be read, and is left alone.</source>
+        <translation>Die Datei der Kurven dieser Karte ist nicht lesbar und bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>A later version of the program changed the map&apos;s corners; they are left alone.</source>
+        <translation>Eine neuere Version des Programms hat die Kurven der Karte geändert; sie bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>The corners could not be saved: %1</source>
+        <translation>Die Kurven konnten nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Its corners alone can be changed without a copy.</source>
+        <translation>Nur ihre Kurven lassen sich ohne Kopie ändern.</translation>
+    </message>
+    <message>
+        <source>The corners of the map &quot;%1&quot; could not be renamed.</source>
+        <translation>Die Kurven der Karte „%1“ konnten nicht umbenannt werden.</translation>
     </message>
 </context>
 <context>

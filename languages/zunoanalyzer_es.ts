@@ -582,6 +582,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>There is not enough memory to show this session.</source>
         <translation>No hay memoria suficiente para mostrar esta sesión.</translation>
     </message>
+    <message>
+        <source>Traveled distance : %1</source>
+        <translation>Distancia recorrida: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::AboutWidget</name>
@@ -946,6 +950,73 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1: %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornersPane</name>
+    <message>
+        <source>Join</source>
+        <translation>Unir</translation>
+    </message>
+    <message>
+        <source>Makes one corner of the selected one and the next</source>
+        <translation>Hace una sola curva de la elegida y la siguiente</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividir</translation>
+    </message>
+    <message>
+        <source>Makes two corners of the selected one</source>
+        <translation>Hace dos curvas de la elegida</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>The selected one counts as no corner</source>
+        <translation>La elegida no cuenta como curva</translation>
+    </message>
+    <message>
+        <source>As found</source>
+        <translation>Como se hallaron</translation>
+    </message>
+    <message>
+        <source>Takes back all changes of the corners</source>
+        <translation>Deshace todos los cambios de las curvas</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Desde la línea</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Giro</translation>
+    </message>
+    <message>
+        <source>A double click on a corner gives it a name</source>
+        <translation>Un doble clic en una curva le da nombre</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>derecha</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>izquierda</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
     </message>
 </context>
 <context>
@@ -1352,6 +1423,22 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Keys</source>
         <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>The biggest losses</source>
+        <translation>Las mayores pérdidas</translation>
+    </message>
+    <message>
+        <source>The corner before or after</source>
+        <translation>La curva anterior o siguiente</translation>
+    </message>
+    <message>
+        <source>Over the distance or the time</source>
+        <translation>Por distancia o por tiempo</translation>
+    </message>
+    <message>
+        <source>Measure between two places</source>
+        <translation>Medir entre dos lugares</translation>
     </message>
 </context>
 <context>
@@ -1858,6 +1945,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Take the gates of the file</source>
         <translation>tomar las puertas del archivo</translation>
     </message>
+    <message>
+        <source>Change corner</source>
+        <translation>cambiar curva</translation>
+    </message>
+    <message>
+        <source>Corners as found</source>
+        <translation>curvas como se hallaron</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
@@ -1937,6 +2032,14 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
         <translation>Un mapa tiene sitio para %1 puntos de cronometraje. Quite uno para añadir otro.</translation>
     </message>
+    <message>
+        <source>Points</source>
+        <translation>Puntos</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Curvas</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
@@ -2007,6 +2110,26 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
         <translation>Es una propuesta con la línea de meta del archivo importado; Deshacer toma la que se halló en las vueltas. Póngale nombre y guárdela, o arrastre sus puntos.</translation>
+    </message>
+    <message>
+        <source>The file of the map&apos;s corners cannot be read, and is left alone.</source>
+        <translation>El archivo de las curvas del mapa no se puede leer y se queda como está.</translation>
+    </message>
+    <message>
+        <source>A later version of the program changed the map&apos;s corners; they are left alone.</source>
+        <translation>Una versión más reciente del programa cambió las curvas del mapa; se quedan como están.</translation>
+    </message>
+    <message>
+        <source>The corners could not be saved: %1</source>
+        <translation>No se pudieron guardar las curvas: %1</translation>
+    </message>
+    <message>
+        <source>Its corners alone can be changed without a copy.</source>
+        <translation>Solo sus curvas se pueden cambiar sin una copia.</translation>
+    </message>
+    <message>
+        <source>The corners of the map &quot;%1&quot; could not be renamed.</source>
+        <translation>No se pudo cambiar el nombre de las curvas del mapa «%1».</translation>
     </message>
 </context>
 <context>

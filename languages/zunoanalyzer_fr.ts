@@ -582,6 +582,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>There is not enough memory to show this session.</source>
         <translation>Il n&apos;y a pas assez de mémoire pour afficher cette session.</translation>
     </message>
+    <message>
+        <source>Traveled distance : %1</source>
+        <translation>Distance parcourue : %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::AboutWidget</name>
@@ -946,6 +950,73 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1 : %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornersPane</name>
+    <message>
+        <source>Join</source>
+        <translation>Réunir</translation>
+    </message>
+    <message>
+        <source>Makes one corner of the selected one and the next</source>
+        <translation>Fait un seul virage du virage sélectionné et du suivant</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Diviser</translation>
+    </message>
+    <message>
+        <source>Makes two corners of the selected one</source>
+        <translation>Fait deux virages du virage sélectionné</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>The selected one counts as no corner</source>
+        <translation>Le virage sélectionné ne compte pas comme virage</translation>
+    </message>
+    <message>
+        <source>As found</source>
+        <translation>Comme trouvés</translation>
+    </message>
+    <message>
+        <source>Takes back all changes of the corners</source>
+        <translation>Annule toutes les modifications des virages</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Virage</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>Sens</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Depuis la ligne</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>A double click on a corner gives it a name</source>
+        <translation>Un double-clic sur un virage lui donne un nom</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>droite</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>gauche</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
     </message>
 </context>
 <context>
@@ -1352,6 +1423,22 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Keys</source>
         <translation>Touches</translation>
+    </message>
+    <message>
+        <source>The biggest losses</source>
+        <translation>Les plus grandes pertes</translation>
+    </message>
+    <message>
+        <source>The corner before or after</source>
+        <translation>Le virage précédent ou suivant</translation>
+    </message>
+    <message>
+        <source>Over the distance or the time</source>
+        <translation>Sur la distance ou le temps</translation>
+    </message>
+    <message>
+        <source>Measure between two places</source>
+        <translation>Mesurer entre deux endroits</translation>
     </message>
 </context>
 <context>
@@ -1858,6 +1945,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Take the gates of the file</source>
         <translation>la reprise des portes du fichier</translation>
     </message>
+    <message>
+        <source>Change corner</source>
+        <translation>la modification du virage</translation>
+    </message>
+    <message>
+        <source>Corners as found</source>
+        <translation>le retour aux virages trouvés</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
@@ -1937,6 +2032,14 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
         <translation>Une carte a de la place pour %1 points de chronométrage. Retirez-en un pour en ajouter un autre.</translation>
     </message>
+    <message>
+        <source>Points</source>
+        <translation>Points</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Virages</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
@@ -2007,6 +2110,26 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
         <translation>Ceci est une proposition avec la ligne de départ du fichier importé ; Défaire prend la ligne trouvée dans les tours. Nommez-la et enregistrez-la, ou déplacez ses points.</translation>
+    </message>
+    <message>
+        <source>The file of the map&apos;s corners cannot be read, and is left alone.</source>
+        <translation>Le fichier des virages de la carte est illisible ; il reste tel quel.</translation>
+    </message>
+    <message>
+        <source>A later version of the program changed the map&apos;s corners; they are left alone.</source>
+        <translation>Une version plus récente du programme a modifié les virages de la carte ; ils restent tels quels.</translation>
+    </message>
+    <message>
+        <source>The corners could not be saved: %1</source>
+        <translation>Les virages n&apos;ont pas pu être enregistrés : %1</translation>
+    </message>
+    <message>
+        <source>Its corners alone can be changed without a copy.</source>
+        <translation>Seuls ses virages peuvent être modifiés sans copie.</translation>
+    </message>
+    <message>
+        <source>The corners of the map &quot;%1&quot; could not be renamed.</source>
+        <translation>Les virages de la carte « %1 » n&apos;ont pas pu être renommés.</translation>
     </message>
 </context>
 <context>

@@ -582,6 +582,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>There is not enough memory to show this session.</source>
         <translation>Non c&apos;è abbastanza memoria per mostrare questa sessione.</translation>
     </message>
+    <message>
+        <source>Traveled distance : %1</source>
+        <translation>Distanza percorsa: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::AboutWidget</name>
@@ -946,6 +950,73 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1: %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornersPane</name>
+    <message>
+        <source>Join</source>
+        <translation>Unisci</translation>
+    </message>
+    <message>
+        <source>Makes one corner of the selected one and the next</source>
+        <translation>Fa una sola curva di quella selezionata e della successiva</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividi</translation>
+    </message>
+    <message>
+        <source>Makes two corners of the selected one</source>
+        <translation>Fa due curve di quella selezionata</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>The selected one counts as no corner</source>
+        <translation>Quella selezionata non conta come curva</translation>
+    </message>
+    <message>
+        <source>As found</source>
+        <translation>Come trovate</translation>
+    </message>
+    <message>
+        <source>Takes back all changes of the corners</source>
+        <translation>Annulla tutte le modifiche delle curve</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Way</source>
+        <translation>Verso</translation>
+    </message>
+    <message>
+        <source>From the line</source>
+        <translation>Dal traguardo</translation>
+    </message>
+    <message>
+        <source>Turns</source>
+        <translation>Rotazione</translation>
+    </message>
+    <message>
+        <source>A double click on a corner gives it a name</source>
+        <translation>Un doppio clic su una curva le dà un nome</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>destra</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>sinistra</translation>
+    </message>
+    <message>
+        <source>%1°</source>
+        <translation>%1°</translation>
     </message>
 </context>
 <context>
@@ -1352,6 +1423,22 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Keys</source>
         <translation>Tasti</translation>
+    </message>
+    <message>
+        <source>The biggest losses</source>
+        <translation>Le perdite maggiori</translation>
+    </message>
+    <message>
+        <source>The corner before or after</source>
+        <translation>La curva precedente o successiva</translation>
+    </message>
+    <message>
+        <source>Over the distance or the time</source>
+        <translation>Sulla distanza o sul tempo</translation>
+    </message>
+    <message>
+        <source>Measure between two places</source>
+        <translation>Misura tra due punti</translation>
     </message>
 </context>
 <context>
@@ -1858,6 +1945,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Take the gates of the file</source>
         <translation>l&apos;uso delle porte del file</translation>
     </message>
+    <message>
+        <source>Change corner</source>
+        <translation>la modifica della curva</translation>
+    </message>
+    <message>
+        <source>Corners as found</source>
+        <translation>il ritorno alle curve trovate</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapEditor</name>
@@ -1937,6 +2032,14 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>A map has room for %1 timing points. Remove one of them to add another.</source>
         <translation>Una mappa ha posto per %1 punti di intertempo. Rimuovine uno per aggiungerne un altro.</translation>
     </message>
+    <message>
+        <source>Points</source>
+        <translation>Punti</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Curve</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapMaker</name>
@@ -2007,6 +2110,26 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
         <translation>Questa è una proposta con il traguardo del file importato; Annulla prende quello trovato nei giri. Dalle un nome e salvala, o trascina i punti.</translation>
+    </message>
+    <message>
+        <source>The file of the map&apos;s corners cannot be read, and is left alone.</source>
+        <translation>Il file delle curve della mappa non è leggibile e resta com&apos;è.</translation>
+    </message>
+    <message>
+        <source>A later version of the program changed the map&apos;s corners; they are left alone.</source>
+        <translation>Una versione più recente del programma ha modificato le curve della mappa; restano come sono.</translation>
+    </message>
+    <message>
+        <source>The corners could not be saved: %1</source>
+        <translation>Non è stato possibile salvare le curve: %1</translation>
+    </message>
+    <message>
+        <source>Its corners alone can be changed without a copy.</source>
+        <translation>Solo le sue curve si possono modificare senza una copia.</translation>
+    </message>
+    <message>
+        <source>The corners of the map &quot;%1&quot; could not be renamed.</source>
+        <translation>Non è stato possibile rinominare le curve della mappa «%1».</translation>
     </message>
 </context>
 <context>
