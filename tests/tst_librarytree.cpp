@@ -26,6 +26,8 @@
 
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
+#include <library/deletion.h>
+#include <library/libraryfolder.h>
 #include <library/librarytree.h>
 
 #include "builders.h"
@@ -401,6 +403,18 @@ private Q_SLOTS:
             library.load(folder);
             QCOMPARE(library.size(), 0);
         }
+    }
+
+    // A logger's folder came into it between the question and the answer.
+    void deletesNothingNew()
+    {
+        Tree tree({u"d/a.ra1"_s});
+        const LibraryFolder folder(tree.folder(), tree.settings);
+        const Deletion deletion(folder, {tree.path(u"d"_s)});
+        QCOMPARE(deletion.goes().size(), 1);
+        QVERIFY(QDir(tree.path(u"d"_s)).mkdir(u"ZUNO 1"_s));
+        QCOMPARE(deletion.carryOut(folder, Deletion::removeForGood), deletion.goes());
+        QVERIFY(QFile::exists(tree.path(u"d/a.ra1"_s)));
     }
 
     // A drive that is taken out leaves nothing, or, where it is mounted, an empty folder.
