@@ -138,6 +138,8 @@ interface PageSettings {
     /** Where the map service's library is, with the key; empty without a key. */
     service: string;
     texts: Record<string, string>;
+    /** Of the theme at the start. */
+    colours: Record<string, string>;
 }
 
 interface Signal<Arguments extends string[]> {

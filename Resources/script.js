@@ -484,6 +484,15 @@ function isStarted() {
     return started;
 }
 
+/**
+ * Gives the style sheet the theme's colours, by the names of the program's table.
+ * @param {Record<string, string>} colours
+ */
+function showTheme(colours) {
+    for (const [name, value] of Object.entries(colours))
+        document.documentElement.style.setProperty(`--${name}`, value);
+}
+
 function fillTexts() {
     const elements = /** @type {NodeListOf<HTMLElement>} */ (
         document.querySelectorAll("[data-text]"));
@@ -495,6 +504,7 @@ async function start() {
     if (started)
         return;
     started = true;
+    showTheme(window.zunoPage?.colours ?? {});
     fillTexts();
     await chooseMap();
     new QWebChannel(qt.webChannelTransport, (channel) => {

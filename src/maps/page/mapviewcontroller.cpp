@@ -5,6 +5,7 @@
 
 #include <QGeoCoordinate>
 #include <QGeoRectangle>
+#include <QJsonDocument>
 #include <QLayout>
 #include <QLoggingCategory>
 #include <QSettings>
@@ -14,11 +15,13 @@
 #include <base/settings.h>
 #include <maps/page/mapwebpage.h>
 #include <maps/page/pagefailure.h>
+#include <maps/page/pagesettings.h>
 #include <maps/payload/lappayload.h>
 #include <session/laps/lap.h>
 #include <session/recording/trace.h>
 #include <session/session.h>
 #include <session/sessionlap.h>
+#include <theme/themes.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -85,9 +88,17 @@ void MapViewController::init(QWidget *window, QLayout *layout)
     connect(m_page, &QWebEnginePage::renderProcessTerminated, this, &MapViewController::onPageDied);
     connectEditing();
     m_view->setPage(m_page);
-    m_page->setBackgroundColor(QColor(0x14, 0x18, 0x1d));
+    connect(&Themes::instance(), &Themes::changed, this, &MapViewController::showTheme);
+    m_page->setBackgroundColor(theme().colour(Colour::Map));
     m_page->start();
     m_view->show();
+}
+
+void MapViewController::showTheme()
+{
+    m_page->setBackgroundColor(theme().colour(Colour::Map));
+    const QByteArray colours = QJsonDocument(themeColours()).toJson(QJsonDocument::Compact);
+    m_page->runJavaScript(QStringLiteral("showTheme(%1);").arg(QString::fromUtf8(colours)));
 }
 
 // The web engine runs in a process of its own, which can die without taking the program along.
@@ -116,6 +127,8 @@ void MapViewController::onPageConnected()
 {
     m_isReady = false;
     m_life.start();
+    // It may have changed since the page was made.
+    showTheme();
     if (!m_scene.isEmpty())
         Q_EMIT m_page->connector().drawScene(m_scene);
     Q_EMIT mapReady();

@@ -123,6 +123,7 @@ private:
     void onPageDied();
     void restart();
     void onPageConnected();
+    void showTheme();
     void sendPath();
     void sendDraft(OutlineForm outline);
     [[nodiscard]] bool isKnownPoint(int point) const;

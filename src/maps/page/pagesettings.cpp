@@ -13,6 +13,7 @@
 #include <QWebEngineScriptCollection>
 
 #include <maps/page/pagepolicy.h>
+#include <theme/themes.h>
 
 namespace zuno {
 
@@ -65,12 +66,23 @@ QString mapServiceAddress()
     return address.toString(QUrl::FullyEncoded);
 }
 
+QJsonObject themeColours()
+{
+    QJsonObject colours;
+    for (std::size_t i = 0; i < ColourCount; ++i) {
+        const auto colour = static_cast<Colour>(i);
+        colours.insert(Theme::name(colour), theme().colour(colour).name());
+    }
+    return colours;
+}
+
 void injectPageSettings(QWebEnginePage &page, const PagePolicy &policy)
 {
     const QJsonObject settings {
         {QStringLiteral("policy"), policy.text()},
         {QStringLiteral("service"), mapServiceAddress()},
         {QStringLiteral("texts"), MapPage::texts()},
+        {QStringLiteral("colours"), themeColours()},
     };
     QWebEngineScript script;
     script.setName(QStringLiteral("zunoPage"));

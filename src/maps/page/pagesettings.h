@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QJsonObject>
 #include <QString>
 
 class QWebEnginePage;
@@ -19,8 +20,11 @@ class PagePolicy;
 /// key. ZUNO_MAP_SERVICE in the environment goes before the address that was set when building.
 [[nodiscard]] QString mapServiceAddress();
 
-/// Gives @p page, before its scripts run, its policy, the map service's address and the texts that
-/// it shows.
+/// The colours of the theme of the moment by their names, for the page's style sheet.
+[[nodiscard]] QJsonObject themeColours();
+
+/// Gives @p page, before its scripts run, its policy, the map service's address, the texts that it
+/// shows and its colours.
 void injectPageSettings(QWebEnginePage &page, const PagePolicy &policy);
 
 } // namespace zuno
