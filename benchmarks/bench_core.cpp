@@ -27,6 +27,7 @@
 #include <benchmark/benchmark.h>
 
 #include <demo/demolibrary.h>
+#include <insight/sessioninsight.h>
 #include <maps/check/mapcheck.h>
 #include <maps/detection/mapdetection.h>
 #include <maps/proposal/mapproposal.h>
@@ -220,6 +221,7 @@ void smoothByHand(Points &samples)
         const Square k = p * H.transposed() * s.inverse();
         x = x + k * (z - H * x);
         p = (I - k * H) * p;
+        sample.rawSpeed = static_cast<float>(sample.dataSpeed);
         sample.dataSpeed = static_cast<double>(limited(x.a, 0.0F, 399.0F));
         sample.dataAccelXPHComputed = static_cast<double>(limited(x.b, -2.0F, 2.0F));
     }
@@ -259,6 +261,9 @@ struct Ride
             return "the ride has suspension readings";
         Points byHand = raw;
         smoothByHand(byHand);
+        if (insightOf(*session->map(), {}, session->wholeSamples(), session->laps()).used.size()
+            < 3)
+            return "the ride does not tell where its time is";
         return byHand == session->samples() ? nullptr : "the two filters disagree";
     }
 
@@ -339,6 +344,64 @@ Comparison proposing(const Ride &ride)
     return {{"a map proposed", propose}, cutting(ride).baseline, 60.0};
 }
 
+/// What a session tells beyond its laps, all of it.
+Comparison telling(const Ride &ride)
+{
+    const auto tell = [&ride] {
+        const Session &session = *ride.session;
+        benchmark::DoNotOptimize(
+            insightOf(*session.map(), {}, session.wholeSamples(), session.laps()).laps.data());
+        benchmark::ClobberMemory();
+    };
+    return {{"where its time is, all of it", tell}, cutting(ride).measured, 3.0};
+}
+
+Comparison findingCorners(const Ride &ride)
+{
+    const auto find = [&ride] {
+        benchmark::DoNotOptimize(findCorners(*ride.session->map()).corners.data());
+        benchmark::ClobberMemory();
+    };
+    return {{"corners of a map", find}, cutting(ride).measured, 1.0};
+}
+
+Comparison puttingOnOutline(const Ride &ride)
+{
+    // The laps are others after each cutting.
+    const auto put = [&ride, ring = CircuitRing(*ride.session->map())] {
+        const Lap &lap = *ride.session->laps()[1];
+        benchmark::DoNotOptimize(
+            putOnOutline(ring, ride.session->wholeSamples(), lap).nodes().data());
+        benchmark::ClobberMemory();
+    };
+    const auto measure = [&ride] {
+        const Lap &lap = *ride.session->laps()[1];
+        const QGeoCoordinate start = ride.session->map()->startPoint();
+        double sum = 0.0;
+        for (const PointAcquisition &sample : lap.points())
+            sum += QGeoCoordinate(sample.dataCoordY, sample.dataCoordX).distanceTo(start);
+        benchmark::DoNotOptimize(sum);
+    };
+    return {{"a lap put on the outline", put}, {"a coordinate and a distance each", measure}, 8.0};
+}
+
+/// The laps of the ride over and over, up to twenty.
+Comparison listingLosses(const Ride &ride)
+{
+    constexpr std::size_t Laps = 20;
+    const Session &session = *ride.session;
+    const auto insight = std::make_shared<SessionInsight>(
+        insightOf(*session.map(), {}, session.wholeSamples(), session.laps()));
+    const auto list = [insight] {
+        std::vector<RiddenLap> laps;
+        for (std::size_t i = 0; i < Laps; ++i)
+            laps.push_back(insight->laps[i % insight->laps.size()].ridden());
+        benchmark::DoNotOptimize(listLosses(laps, insight->circuit).data());
+        benchmark::ClobberMemory();
+    };
+    return {{"the losses of 20 laps", list}, cutting(ride).measured, 1.0};
+}
+
 #if defined(__GLIBC__)
 std::size_t bytesInUse()
 {
@@ -398,8 +461,10 @@ int run()
         std::fprintf(stderr, "bench_core: %s\n", fault);
         return 1;
     }
-    const std::array comparisons {decoding(ride), smoothing(ride), cutting(ride), checking(ride),
-                                  proposing(ride)};
+    const std::array comparisons {
+        decoding(ride),       smoothing(ride),        cutting(ride),
+        checking(ride),       proposing(ride),        telling(ride),
+        findingCorners(ride), puttingOnOutline(ride), listingLosses(ride)};
     printHeader();
     bool areMet = true;
     for (const Comparison &comparison : comparisons)
