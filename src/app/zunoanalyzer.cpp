@@ -25,6 +25,7 @@
 #include <app/keysheet.h>
 #include <app/mapscene.h>
 #include <app/themebutton.h>
+#include <app/windowlayout.h>
 #include <base/signedtext.h>
 #include <library/exportdialogs.h>
 #include <library/libraryfolder.h>
@@ -55,9 +56,6 @@
 namespace zuno {
 
 namespace {
-
-constexpr std::array SplitterSettings {Setting::Splitter0Sizes, Setting::Splitter1Sizes,
-                                       Setting::Splitter2Sizes, Setting::Splitter3Sizes};
 
 constexpr int MessageTime = 10000;
 
@@ -134,19 +132,18 @@ void ZunoAnalyzer::createActions()
     keys->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Slash), QKeySequence(Qt::Key_Question)});
     connect(keys, &QAction::triggered, this, [this] { KeySheet(keysOf(*this), this).exec(); });
     addAction(keys);
+    auto *tree = new QAction(this);
+    tree->setShortcut(Qt::Key_F9);
+    addAction(tree);
+    connect(tree, &QAction::triggered, this, [this] { m_layout->toggleTree(); });
 }
 
 void ZunoAnalyzer::arrangePanes()
 {
     m_ui->splitter0->addWidget(m_laps);
     m_ui->splitter0->addWidget(m_map);
-    m_ui->splitter0->setStretchFactor(0, 1);
-    m_ui->splitter1->addWidget(m_charts);
-    // Until the rider chooses: two parts of the height to three, larger than any least height.
-    m_ui->splitter1->setSizes({2000, 3000});
-    // The splitter itself is the tab, without the page that the form has around it.
-    m_ui->tabWidget->clear();
-    m_ui->tabWidget->addTab(m_ui->splitter1, tr("Maps and Laps  "));
+    m_ui->splitter4->addWidget(m_charts);
+    m_ui->tabWidget->setTabText(0, tr("Maps and Laps  "));
     m_ui->tabWidget->addTab(m_infos, tr(" Session infos  "));
     m_ui->tabWidget->setCurrentIndex(0);
     m_lapsPage = m_ui->tabWidget->widget(0);
@@ -157,11 +154,10 @@ void ZunoAnalyzer::arrangePanes()
     m_ui->splitter3->insertWidget(0, m_files);
     m_ui->splitter3->setStretchFactor(1, 1);
     setTabOrder(m_files->view(), m_ui->tabWidget);
-    m_splitters = {m_ui->splitter0, m_ui->splitter1, m_ui->splitter2, m_ui->splitter3};
-    for (std::size_t i = 0; i < m_splitters.size(); ++i) {
-        m_splitters[i]->restoreState(m_settings.value(SplitterSettings[i]).toByteArray());
-        connect(m_splitters[i], &QSplitter::splitterMoved, this, &ZunoAnalyzer::saveSplitterStates);
-    }
+    m_layout = new WindowLayout(
+        {*m_ui->splitter3, *m_ui->splitter1, *m_ui->splitter0, *m_ui->splitter4, *m_ui->treeRail},
+        m_settings, this);
+    connect(m_layout, &WindowLayout::moved, this, &ZunoAnalyzer::saveSplitterStates);
 }
 
 void ZunoAnalyzer::connectParts()
@@ -415,10 +411,7 @@ void ZunoAnalyzer::reloadMaps()
 
 void ZunoAnalyzer::saveSplitterStates()
 {
-    QList<std::pair<Setting, QVariant>> states;
-    for (std::size_t i = 0; i < m_splitters.size(); ++i)
-        states.append({SplitterSettings[i], m_splitters[i]->saveState()});
-    m_settings.setValues(states);
+    m_layout->save();
     m_charts->layOut();
 }
 
@@ -570,6 +563,12 @@ bool ZunoAnalyzer::eventFilter(QObject *watched, QEvent *event)
         && m_files->tree().handleKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+void ZunoAnalyzer::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_layout->fit(event->size());
 }
 
 void ZunoAnalyzer::commit()

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <array>
 #include <memory>
 
 #include <QMainWindow>
@@ -17,8 +16,6 @@
 #include <library/sessiondisplay.h>
 #include <views/laps/lapselection.h>
 
-class QSplitter;
-
 namespace zuno {
 
 class EmptyPage;
@@ -30,6 +27,7 @@ class MapPane;
 class SessionImport;
 class SessionInfos;
 class SessionsStats;
+class WindowLayout;
 
 namespace Ui {
 class ZunoAnalyzer;
@@ -92,6 +90,7 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void switchTranslator(QTranslator &translator, const QString &file);
@@ -141,7 +140,7 @@ private:
     SessionsStats *m_statistics = nullptr;
     SessionImport *m_import = nullptr;
     bool m_isUpgrading = false;
-    std::array<QSplitter *, 4> m_splitters {};
+    WindowLayout *m_layout = nullptr;
 };
 
 } // namespace zuno
