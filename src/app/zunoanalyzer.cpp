@@ -18,6 +18,7 @@
 #include <QTreeView>
 
 #include <app/aboutwidget.h>
+#include <app/comparing.h>
 #include <app/configurationwidget.h>
 #include <app/demosessions.h>
 #include <app/emptypage.h>
@@ -26,7 +27,7 @@
 #include <app/mapscene.h>
 #include <app/themebutton.h>
 #include <app/windowlayout.h>
-#include <base/signedtext.h>
+#include <base/units.h>
 #include <library/exportdialogs.h>
 #include <library/libraryfolder.h>
 #include <library/librarypane.h>
@@ -47,6 +48,8 @@
 #include <theme/themes.h>
 #include <track/map.h>
 #include <views/charts/lapcharts.h>
+#include <views/comparison/comparisonbar.h>
+#include <views/corners/wherepane.h>
 #include <views/idealtime/idealtimedialog.h>
 #include <views/laps/lapspane.h>
 #include <views/laps/lapsview.h>
@@ -97,6 +100,7 @@ ZunoAnalyzer::~ZunoAnalyzer()
 {
     // The views go before what they show.
     delete m_files;
+    delete m_comparing;
     delete m_charts;
     delete m_laps;
 }
@@ -132,7 +136,7 @@ void ZunoAnalyzer::createActions()
     keys->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Slash), QKeySequence(Qt::Key_Question)});
     connect(keys, &QAction::triggered, this, [this] { KeySheet(keysOf(*this), this).exec(); });
     addAction(keys);
-    auto *tree = new QAction(this);
+    auto *tree = new QAction(tr("List of sessions"), this);
     tree->setShortcut(Qt::Key_F9);
     addAction(tree);
     connect(tree, &QAction::triggered, this, [this] { m_layout->toggleTree(); });
@@ -142,7 +146,10 @@ void ZunoAnalyzer::arrangePanes()
 {
     m_ui->splitter0->addWidget(m_laps);
     m_ui->splitter0->addWidget(m_map);
+    m_ui->tab4Layout->insertWidget(0, m_comparing->bar());
+    m_ui->splitter4->addWidget(m_comparing->where());
     m_ui->splitter4->addWidget(m_charts);
+    m_ui->splitter4->setStretchFactor(1, 1);
     m_ui->tabWidget->setTabText(0, tr("Maps and Laps  "));
     m_ui->tabWidget->addTab(m_infos, tr(" Session infos  "));
     m_ui->tabWidget->setCurrentIndex(0);
@@ -199,11 +206,14 @@ void ZunoAnalyzer::connectParts()
     });
     connect(&m_laps->table(), &LapsView::validityChanged, this, &ZunoAnalyzer::onValidityChanged);
     connect(&m_laps->table(), &LapsView::refused, this, &ZunoAnalyzer::tell);
-    connect(&m_laps->table(), &LapsView::referenceChosen, &m_selection, [this] {
-        m_selection.setReference(m_selection.session(), m_selection.currentIndex());
-    });
-    connect(&m_selection, &LapSelection::referenceChanged, &m_display,
-            [this] { m_display.setCompared(m_selection.referenceSession()); });
+    m_comparing = new Comparing(
+        {m_selection, m_settings, *m_laps, *m_charts, *m_map},
+        [this] {
+            return ReferenceSources {m_library.sessions(), m_maps.library(), m_settings};
+        },
+        this);
+    connect(m_comparing, &Comparing::noticed, this, &ZunoAnalyzer::tell);
+    connect(&m_comparing->comparison(), &Comparison::lapWanted, this, &ZunoAnalyzer::goToLap);
     auto *exports = new ExportDialogs(this);
     connect(tree, &LibraryTree::exportSessionRequested, exports, &ExportDialogs::exportSession);
     connect(tree, &LibraryTree::exportDataRequested, exports, &ExportDialogs::exportSessionData);
@@ -394,6 +404,7 @@ void ZunoAnalyzer::chooseMapByLength(Session *session, const QList<const Map *> 
 
 void ZunoAnalyzer::loadMaps(const QString &folder)
 {
+    m_comparing->comparison().release();
     // The sessions point at the maps, so they go first and come back without one.
     if (m_library.size() > 0)
         m_library.reload(m_settings.acquisitionFolder());
@@ -682,7 +693,7 @@ void ZunoAnalyzer::showComparison(const SessionLap &lap, const SessionLap &refer
     tell(tr("Lap %1 (%2) against lap %3 (%4): %5 s")
              .arg(QString::number(lap->lapNumber()), lap->timeText(),
                   QString::number(reference->lapNumber()), reference->timeText(),
-                  signedText((lap->lapTime() - reference->lapTime()) / 1000.0, 3)));
+                  shownNumber((lap->lapTime() - reference->lapTime()) / 1000.0, 3, true)));
 }
 
 void ZunoAnalyzer::onValidityChanged(Session *session)

@@ -18,6 +18,7 @@
 
 namespace zuno {
 
+class Comparing;
 class EmptyPage;
 class LapCharts;
 class LapsPane;
@@ -133,6 +134,7 @@ private:
     /// What stands in the first tab once there are sessions.
     QWidget *m_lapsPage = nullptr;
     LapCharts *m_charts = nullptr;
+    Comparing *m_comparing = nullptr;
     LibraryPane *m_files = nullptr;
     MapMaker *m_mapMaker = nullptr;
     MapPane *m_map = nullptr;

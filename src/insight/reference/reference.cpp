@@ -112,6 +112,8 @@ Reference findReference(const ReferenceChoice &choice, const ReferenceSources &s
         return bestEver(sources, asked, vehicle, memory);
     case ReferenceKind::ChosenLap:
         return chosenLap(choice, sources, asked);
+    case ReferenceKind::None:
+        break;
     }
     return {};
 }

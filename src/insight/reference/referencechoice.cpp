@@ -25,6 +25,8 @@ QStringList textsOf(const ReferenceChoice &choice)
         return {QStringLiteral("bestEver")};
     case ReferenceKind::BestOnVehicle:
         return {QStringLiteral("bestOnVehicle")};
+    case ReferenceKind::None:
+        return {QStringLiteral("none")};
     case ReferenceKind::ChosenLap:
         return {QStringLiteral("lap"), QString::number(choice.lap),
                 choice.filePath,       choice.recording,
@@ -50,6 +52,8 @@ ReferenceChoice referenceChoice(const Settings &settings, const Map &map)
         return {ReferenceKind::BestEver};
     if (kind == u"bestOnVehicle")
         return {ReferenceKind::BestOnVehicle};
+    if (kind == u"none")
+        return {ReferenceKind::None};
     const qint32 lap = texts.value(1).toInt();
     if (kind != u"lap" || texts.size() != ChosenLapTexts || lap < 1)
         return {};

@@ -21,6 +21,8 @@ enum class ReferenceKind {
     BestOnVehicle,
     /// A lap that the rider named.
     ChosenLap,
+    /// Nothing; each lap stands for itself.
+    None,
 };
 
 /// The rider's choice, made once and kept for each circuit.

@@ -27,6 +27,7 @@ void LapSelection::change(const QList<void (LapSelection::*)()> &tell)
 
 void LapSelection::setSession(Session *session)
 {
+    m_session = session;
     m_current.session = session;
     m_current.map = session != nullptr ? session->map() : nullptr;
     m_current.index
@@ -42,7 +43,7 @@ void LapSelection::setCurrentLap(int index)
     change({&LapSelection::currentLapChanged});
 }
 
-void LapSelection::setReference(Session *session, int index)
+void LapSelection::setReference(const Session *session, int index)
 {
     const SessionLap before = reference();
     m_reference = {session, index, session != nullptr ? session->map() : nullptr};
@@ -77,7 +78,7 @@ bool LapSelection::isOther(const Session *session, int index) const
     });
 }
 
-bool LapSelection::toggleOther(Session *session, int index)
+bool LapSelection::toggleOther(const Session *session, int index)
 {
     const Choice wanted {session, index, session != nullptr ? session->map() : nullptr};
     const SessionLap lap = wanted.lap();

@@ -30,7 +30,7 @@ public:
     /// Selects a lap of @p session (nullptr for none), its best one first. The reference stays, so
     /// that laps of two sessions can be compared.
     void setSession(Session *session);
-    [[nodiscard]] Session *session() const { return m_current.session.data(); }
+    [[nodiscard]] Session *session() const { return m_session.data(); }
 
     void setCurrentLap(int index);
     /// -1 without a lap.
@@ -38,11 +38,10 @@ public:
     [[nodiscard]] SessionLap current() const { return m_current.lap(); }
     [[nodiscard]] const Lap *currentLap() const { return current().lap; }
 
-    void setReference(Session *session, int index);
+    void setReference(const Session *session, int index);
     void clearReference() { setReference(nullptr, -1); }
     /// On whatever circuit it was ridden.
     [[nodiscard]] SessionLap reference() const { return m_reference.lap(); }
-    [[nodiscard]] Session *referenceSession() const { return m_reference.session.data(); }
     /// The reference, where the selected lap can be compared with it: another lap of the same
     /// circuit.
     [[nodiscard]] SessionLap compared() const;
@@ -52,7 +51,7 @@ public:
     [[nodiscard]] QList<SessionLap> others() const;
     [[nodiscard]] bool isOther(const Session *session, int index) const;
     /// Draws a lap besides, or no longer. False when there are MostOthers already.
-    bool toggleOther(Session *session, int index);
+    bool toggleOther(const Session *session, int index);
     void removeOther(const SessionLap &lap);
     void clearOthers();
 
@@ -72,7 +71,7 @@ Q_SIGNALS:
 private:
     struct Choice
     {
-        QPointer<Session> session;
+        QPointer<const Session> session;
         int index = -1;
         /// On another map the session's laps are others.
         const Map *map = nullptr;
@@ -82,6 +81,7 @@ private:
 
     void change(const QList<void (LapSelection::*)()> &tell);
 
+    QPointer<Session> m_session;
     Choice m_current;
     Choice m_reference;
     QList<Choice> m_others;

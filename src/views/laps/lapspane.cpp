@@ -9,7 +9,6 @@
 
 #include <base/laptimes.h>
 #include <session/session.h>
-#include <session/sessionlap.h>
 #include <theme/shownunits.h>
 #include <track/map.h>
 #include <views/laps/lapselection.h>
@@ -32,8 +31,9 @@ LapsPane::LapsPane(LapSelection &selection, const Settings &settings, QWidget *p
         showFigures();
         m_ui->tw_tours->viewport()->update();
     });
-    connect(&selection, &LapSelection::referenceChanged, this, &LapsPane::showFirstLap);
-    showFirstLap();
+    connect(m_ui->pb_corners, &QToolButton::toggled, this, &LapsPane::showPage);
+    m_ui->pb_corners->hide();
+    m_ui->pb_laps->hide();
 }
 
 // The view goes before the table that it works with.
@@ -47,9 +47,9 @@ void LapsPane::showSession()
     const Session *session = m_selection.session();
     m_table->showLaps();
     showFigures();
-    showFirstLap();
-    if (session != nullptr && !session->laps().empty())
-        m_ui->lapsStack->setCurrentWidget(m_ui->lapsPage);
+    m_hasLaps = session != nullptr && !session->laps().empty();
+    if (m_hasLaps)
+        showPage();
 }
 
 void LapsPane::showState(const QString &text, bool canMakeMap, bool canChooseFolder)
@@ -57,7 +57,8 @@ void LapsPane::showState(const QString &text, bool canMakeMap, bool canChooseFol
     m_ui->lb_state->setText(text);
     m_ui->pb_newMap->setVisible(canMakeMap);
     m_ui->pb_chooseFolder->setVisible(canChooseFolder);
-    m_ui->lapsStack->setCurrentWidget(m_ui->statePage);
+    m_hasLaps = false;
+    showPage();
 }
 
 void LapsPane::showFigures()
@@ -118,12 +119,20 @@ void LapsPane::fillSections(const Session &session, int sectors)
     }
 }
 
-void LapsPane::showFirstLap()
+void LapsPane::addCorners(QWidget *corners)
 {
-    const SessionLap lap = m_selection.reference();
-    m_ui->lb_firstLapSelected->setVisible(static_cast<bool>(lap));
-    if (lap)
-        m_ui->lb_firstLapSelected->setText(SessionSummary::firstLapText(lap));
+    m_corners = corners;
+    m_ui->lapsStack->addWidget(corners);
+    m_ui->pb_laps->show();
+    m_ui->pb_corners->show();
+}
+
+void LapsPane::showPage()
+{
+    QWidget *page = m_ui->statePage;
+    if (m_hasLaps)
+        page = m_corners != nullptr && m_ui->pb_corners->isChecked() ? m_corners : m_ui->lapsPage;
+    m_ui->lapsStack->setCurrentWidget(page);
 }
 
 } // namespace zuno

@@ -31,6 +31,9 @@ public:
 
     [[nodiscard]] LapsView &table() { return *m_table; }
 
+    /// Shows @p corners in place of the laps when the rider wants that.
+    void addCorners(QWidget *corners);
+
     /// Shows the selection's session, its laps if it has any, and what is said about it.
     void showSession();
     /// Shows @p text in place of the laps; it may offer to make a map, or to choose another folder
@@ -44,14 +47,16 @@ Q_SIGNALS:
     void folderWanted();
 
 private:
+    void showPage();
     void showFigures();
-    void showFirstLap();
     void showSections(const Session *session);
     void fillSections(const Session &session, int sectors);
 
     std::unique_ptr<Ui::LapsPane> m_ui;
     const LapSelection &m_selection;
     LapsView *m_table;
+    QWidget *m_corners = nullptr;
+    bool m_hasLaps = false;
 };
 
 } // namespace zuno
