@@ -924,7 +924,7 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
     <message>
         <source>Look for a new release at every start</source>
-        <translation>Bei jedem Start nach einer neuen Version sehen</translation>
+        <translation>Bei jedem Start nach einer neuen Version suchen</translation>
     </message>
 </context>
 <context>
