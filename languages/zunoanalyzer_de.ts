@@ -588,6 +588,37 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>TimePlace</name>
+    <message>
+        <source>Start/finish</source>
+        <translation>Start-Ziel</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Kurve %1</translation>
+    </message>
+    <message>
+        <source>Corners %1</source>
+        <translation>Kurven %1</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>%1 seconds lost</source>
+        <translation>%1 Sekunden verloren</translation>
+    </message>
+    <message>
+        <source>%1 seconds won</source>
+        <translation>%1 Sekunden gewonnen</translation>
+    </message>
+</context>
+<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -833,6 +864,188 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::Comparing</name>
+    <message>
+        <source>Compare with this lap</source>
+        <translation>Mit dieser Runde vergleichen</translation>
+    </message>
+    <message>
+        <source>Choose the reference</source>
+        <translation>Referenz wählen</translation>
+    </message>
+    <message>
+        <source>No comparison</source>
+        <translation>Kein Vergleich</translation>
+    </message>
+    <message>
+        <source>Swap lap and reference</source>
+        <translation>Runde und Referenz tauschen</translation>
+    </message>
+    <message>
+        <source>Largest loss</source>
+        <translation>Größter Verlust</translation>
+    </message>
+    <message>
+        <source>Second largest loss</source>
+        <translation>Zweitgrößter Verlust</translation>
+    </message>
+    <message>
+        <source>Third largest loss</source>
+        <translation>Drittgrößter Verlust</translation>
+    </message>
+    <message>
+        <source>Corner before</source>
+        <translation>Kurve davor</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Kurve danach</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>Die ganze Runde</translation>
+    </message>
+    <message>
+        <source>The name could not be kept: %1</source>
+        <translation>Der Name konnte nicht behalten werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Comparison</name>
+    <message>
+        <source>New best lap here: %1, lap %2 of %3</source>
+        <translation>Neue beste Runde hier: %1, Runde %2 von %3</translation>
+    </message>
+    <message>
+        <source>This lap does not go from line to line, so its corners cannot be compared.</source>
+        <translation>Diese Runde geht nicht von der Linie bis zur Linie, daher lassen sich ihre Kurven nicht vergleichen.</translation>
+    </message>
+    <message>
+        <source>Choose a reference to see where the time is.</source>
+        <translation>Wählen Sie eine Referenz, um zu sehen, wo die Zeit liegt.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Beste Runde wird gesucht...</translation>
+    </message>
+    <message>
+        <source>No corners are known here, so there is nothing to compare them by.</source>
+        <translation>Hier sind keine Kurven bekannt, daher gibt es nichts zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>There is no lap from line to line.</source>
+        <translation>Es gibt keine Runde von der Linie bis zur Linie.</translation>
+    </message>
+    <message>
+        <source>The map&apos;s outline is too rough for its corners.</source>
+        <translation>Der Verlauf der Karte ist zu grob für ihre Kurven.</translation>
+    </message>
+    <message>
+        <source>The receiver measured about once a second; that is too seldom for corners.</source>
+        <translation>Der Empfänger hat etwa einmal pro Sekunde gemessen; das ist zu selten für Kurven.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ComparisonBar</name>
+    <message>
+        <source>against</source>
+        <translation>gegen</translation>
+    </message>
+    <message>
+        <source>Chooses what every lap is compared with (R)</source>
+        <translation>Wählt, womit jede Runde verglichen wird (R)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>Draws another lap as well (O in the table)</source>
+        <translation>Zeichnet noch eine Runde (O in der Tabelle)</translation>
+    </message>
+    <message>
+        <source>+ Lap</source>
+        <translation>+ Runde</translation>
+    </message>
+    <message>
+        <source>Makes the reference the selected lap, and the selected lap the reference (X)</source>
+        <translation>Macht die Referenz zur gewählten Runde und die gewählte Runde zur Referenz (X)</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Tauschen</translation>
+    </message>
+    <message>
+        <source>No comparison (Shift+R)</source>
+        <translation>Kein Vergleich (Umschalt+R)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Aufheben</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Runde %1</translation>
+    </message>
+    <message>
+        <source>Nothing to compare yet: there are no laps.</source>
+        <translation>Noch nichts zu vergleichen: Es gibt keine Runden.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Beste Runde wird gesucht...</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Beste der Session</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Beste überhaupt hier</translation>
+    </message>
+    <message>
+        <source>Best ever here, same motorcycle</source>
+        <translation>Beste überhaupt hier, gleiches Motorrad</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>von Hand gewählt</translation>
+    </message>
+    <message>
+        <source>No reference on this circuit yet</source>
+        <translation>Noch keine Referenz auf dieser Strecke</translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>as fast</source>
+        <translation>gleich schnell</translation>
+    </message>
+    <message>
+        <source>slower</source>
+        <translation>langsamer</translation>
+    </message>
+    <message>
+        <source>faster</source>
+        <translation>schneller</translation>
+    </message>
+    <message>
+        <source>Takes lap %1 away</source>
+        <translation>Nimmt Runde %1 weg</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Höchstens sechs Runden werden gezeichnet; nehmen Sie erst eine weg.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ConfigurationWidget</name>
     <message>
         <source>ZUNO Analyzer settings</source>
@@ -928,6 +1141,13 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::CornerNames</name>
+    <message>
+        <source>The file of corners beside the map is damaged, or a later program wrote it; it is left alone.</source>
+        <translation>Die Datei der Kurven neben der Karte ist beschädigt oder von einer neueren Version; sie bleibt, wie sie ist.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CornerStrip</name>
     <message>
         <source>Corners of the lap</source>
@@ -950,6 +1170,85 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1: %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTable</name>
+    <message>
+        <source>Corners</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>A click shows the corner in charts and map, F2 gives it a name</source>
+        <translation>Ein Klick zeigt die Kurve in Diagrammen und Karte, F2 gibt ihr einen Namen</translation>
+    </message>
+    <message>
+        <source>Name of the corner</source>
+        <translation>Name der Kurve</translation>
+    </message>
+    <message>
+        <source>Corner %1:</source>
+        <translation>Kurve %1:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTableModel</name>
+    <message>
+        <source>right</source>
+        <translation>rechts</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>links</translation>
+    </message>
+    <message>
+        <source>T%1</source>
+        <comment>a corner&apos;s number</comment>
+        <translation>K%1</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Diff.</source>
+        <translation>Diff.</translation>
+    </message>
+    <message>
+        <source>Brakes at</source>
+        <translation>Bremst bei</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Eingang</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ausgang</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Schräglage</translation>
+    </message>
+    <message>
+        <source>On the gas</source>
+        <translation>Am Gas</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Streuung</translation>
+    </message>
+    <message>
+        <source>Spread, %1 laps</source>
+        <translation>Streuung, %1 Runden</translation>
     </message>
 </context>
 <context>
@@ -1535,6 +1834,33 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::LapChooser</name>
+    <message>
+        <source>Lap of another file</source>
+        <translation>Runde einer anderen Datei</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Fahrer</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Runde %1</translation>
+    </message>
+    <message>
+        <source>No lap of this circuit</source>
+        <translation>Keine Runde dieser Strecke</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -1617,6 +1943,22 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>Choose another folder...</source>
         <translation>Anderen Ordner wählen ...</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Runden</translation>
+    </message>
+    <message>
+        <source>The laps of the session</source>
+        <translation>Die Runden der Session</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Kurven</translation>
+    </message>
+    <message>
+        <source>The corners of the circuit in the selected lap</source>
+        <translation>Die Kurven der Strecke in der gewählten Runde</translation>
     </message>
 </context>
 <context>
@@ -1872,6 +2214,22 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>What the colours of the line tell (L)</source>
         <translation>Was die Farben der Linie sagen (L)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LossButton</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>The speeds do not confirm it</source>
+        <translation>Das Tempo bestätigt es nicht</translation>
+    </message>
+    <message>
+        <source>Within 2 km/h everywhere</source>
+        <translation>Überall innerhalb von 2 km/h</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2764,45 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::ReferenceMenu</name>
+    <message>
+        <source>Clear: no comparison</source>
+        <translation>Aufheben: kein Vergleich</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Beste der Session</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Beste überhaupt hier</translation>
+    </message>
+    <message>
+        <source>only the same motorcycle</source>
+        <translation>nur dasselbe Motorrad</translation>
+    </message>
+    <message>
+        <source>This lap: %1, %2</source>
+        <translation>Diese Runde: %1, %2</translation>
+    </message>
+    <message>
+        <source>This lap</source>
+        <translation>Diese Runde</translation>
+    </message>
+    <message>
+        <source>Lap of another file...</source>
+        <translation>Runde einer anderen Datei...</translation>
+    </message>
+    <message>
+        <source>Recent: none on this circuit</source>
+        <translation>Zuletzt: keine auf dieser Strecke</translation>
+    </message>
+    <message>
+        <source>Lap %1 of %2</source>
+        <translation>Runde %1 von %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::RidePreview</name>
     <message>
         <source>Path</source>
@@ -2770,6 +3167,38 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
     </message>
 </context>
 <context>
+    <name>zuno::WherePane</name>
+    <message>
+        <source>Where is the time</source>
+        <translation>Wo liegt die Zeit</translation>
+    </message>
+    <message>
+        <source>Choose a reference...</source>
+        <translation>Referenz wählen...</translation>
+    </message>
+    <message>
+        <source>The other corners</source>
+        <translation>Die anderen Kurven</translation>
+    </message>
+    <message>
+        <source>thin: won and lost inside the corner</source>
+        <translation>dünn: in der Kurve gewonnen und verloren</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Against the best of each corner</source>
+        <translation>Gegen das Beste jeder Kurve</translation>
+    </message>
+    <message>
+        <source>The other %1 places</source>
+        <translation>Die anderen %1 Stellen</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ZunoAnalyzer</name>
     <message>
         <source>ZUNO Analyzer</source>
@@ -2880,6 +3309,18 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
     <message>
         <source>Demo files that could not be removed: %1</source>
         <translation>Demo-Dateien, die nicht entfernt werden konnten: %1</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Shows the list of sessions (F9)</source>
+        <translation>Zeigt die Liste der Sessions (F9)</translation>
+    </message>
+    <message>
+        <source>List of sessions</source>
+        <translation>Liste der Sessions</translation>
     </message>
 </context>
 </TS>

@@ -588,6 +588,37 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>TimePlace</name>
+    <message>
+        <source>Start/finish</source>
+        <translation>Meta</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Curva %1</translation>
+    </message>
+    <message>
+        <source>Corners %1</source>
+        <translation>Curvas %1</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>derecha</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>izquierda</translation>
+    </message>
+    <message>
+        <source>%1 seconds lost</source>
+        <translation>%1 segundos perdidos</translation>
+    </message>
+    <message>
+        <source>%1 seconds won</source>
+        <translation>%1 segundos ganados</translation>
+    </message>
+</context>
+<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -833,6 +864,188 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::Comparing</name>
+    <message>
+        <source>Compare with this lap</source>
+        <translation>Comparar con esta vuelta</translation>
+    </message>
+    <message>
+        <source>Choose the reference</source>
+        <translation>Elegir la referencia</translation>
+    </message>
+    <message>
+        <source>No comparison</source>
+        <translation>Sin comparación</translation>
+    </message>
+    <message>
+        <source>Swap lap and reference</source>
+        <translation>Intercambiar vuelta y referencia</translation>
+    </message>
+    <message>
+        <source>Largest loss</source>
+        <translation>Mayor pérdida</translation>
+    </message>
+    <message>
+        <source>Second largest loss</source>
+        <translation>Segunda mayor pérdida</translation>
+    </message>
+    <message>
+        <source>Third largest loss</source>
+        <translation>Tercera mayor pérdida</translation>
+    </message>
+    <message>
+        <source>Corner before</source>
+        <translation>Curva anterior</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Curva siguiente</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>La vuelta entera</translation>
+    </message>
+    <message>
+        <source>The name could not be kept: %1</source>
+        <translation>No se pudo conservar el nombre: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Comparison</name>
+    <message>
+        <source>New best lap here: %1, lap %2 of %3</source>
+        <translation>Nueva mejor vuelta aquí: %1, vuelta %2 de %3</translation>
+    </message>
+    <message>
+        <source>This lap does not go from line to line, so its corners cannot be compared.</source>
+        <translation>Esta vuelta no va de meta a meta, por lo que sus curvas no se pueden comparar.</translation>
+    </message>
+    <message>
+        <source>Choose a reference to see where the time is.</source>
+        <translation>Elija una referencia para ver dónde está el tiempo.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Buscando la mejor vuelta...</translation>
+    </message>
+    <message>
+        <source>No corners are known here, so there is nothing to compare them by.</source>
+        <translation>Aquí no se conoce ninguna curva, por lo que no hay nada que comparar.</translation>
+    </message>
+    <message>
+        <source>There is no lap from line to line.</source>
+        <translation>No hay ninguna vuelta de meta a meta.</translation>
+    </message>
+    <message>
+        <source>The map&apos;s outline is too rough for its corners.</source>
+        <translation>El trazado del mapa es demasiado basto para sus curvas.</translation>
+    </message>
+    <message>
+        <source>The receiver measured about once a second; that is too seldom for corners.</source>
+        <translation>El receptor midió más o menos una vez por segundo; es muy poco para las curvas.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ComparisonBar</name>
+    <message>
+        <source>against</source>
+        <translation>frente a</translation>
+    </message>
+    <message>
+        <source>Chooses what every lap is compared with (R)</source>
+        <translation>Elige con qué se compara cada vuelta (R)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referencia</translation>
+    </message>
+    <message>
+        <source>Draws another lap as well (O in the table)</source>
+        <translation>Dibuja una vuelta más (O en la tabla)</translation>
+    </message>
+    <message>
+        <source>+ Lap</source>
+        <translation>+ Vuelta</translation>
+    </message>
+    <message>
+        <source>Makes the reference the selected lap, and the selected lap the reference (X)</source>
+        <translation>Hace de la referencia la vuelta elegida, y de la vuelta elegida la referencia (X)</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Intercambiar</translation>
+    </message>
+    <message>
+        <source>No comparison (Shift+R)</source>
+        <translation>Sin comparación (Mayús+R)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Vuelta %1</translation>
+    </message>
+    <message>
+        <source>Nothing to compare yet: there are no laps.</source>
+        <translation>Aún no hay nada que comparar: no hay vueltas.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Buscando la mejor vuelta...</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Mejor de la sesión</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Mejor de siempre aquí</translation>
+    </message>
+    <message>
+        <source>Best ever here, same motorcycle</source>
+        <translation>Mejor de siempre aquí, misma moto</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>elegida a mano</translation>
+    </message>
+    <message>
+        <source>No reference on this circuit yet</source>
+        <translation>Aún no hay referencia en este circuito</translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <translation>referencia</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>as fast</source>
+        <translation>igual</translation>
+    </message>
+    <message>
+        <source>slower</source>
+        <translation>más lenta</translation>
+    </message>
+    <message>
+        <source>faster</source>
+        <translation>más rápida</translation>
+    </message>
+    <message>
+        <source>Takes lap %1 away</source>
+        <translation>Quita la vuelta %1</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Se dibujan seis vueltas como máximo; quite antes una.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ConfigurationWidget</name>
     <message>
         <source>ZUNO Analyzer settings</source>
@@ -928,6 +1141,13 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::CornerNames</name>
+    <message>
+        <source>The file of corners beside the map is damaged, or a later program wrote it; it is left alone.</source>
+        <translation>El archivo de las curvas junto al mapa está dañado, o es de una versión más reciente; se queda como está.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CornerStrip</name>
     <message>
         <source>Corners of the lap</source>
@@ -950,6 +1170,85 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1: %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTable</name>
+    <message>
+        <source>Corners</source>
+        <translation>Curvas</translation>
+    </message>
+    <message>
+        <source>A click shows the corner in charts and map, F2 gives it a name</source>
+        <translation>Un clic muestra la curva en los gráficos y en el mapa, F2 le da nombre</translation>
+    </message>
+    <message>
+        <source>Name of the corner</source>
+        <translation>Nombre de la curva</translation>
+    </message>
+    <message>
+        <source>Corner %1:</source>
+        <translation>Curva %1:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTableModel</name>
+    <message>
+        <source>right</source>
+        <translation>derecha</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>izquierda</translation>
+    </message>
+    <message>
+        <source>T%1</source>
+        <comment>a corner&apos;s number</comment>
+        <translation>C%1</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Diff.</source>
+        <translation>Dif.</translation>
+    </message>
+    <message>
+        <source>Brakes at</source>
+        <translation>Frena a</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Inclinación</translation>
+    </message>
+    <message>
+        <source>On the gas</source>
+        <translation>Gas</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Dispersión</translation>
+    </message>
+    <message>
+        <source>Spread, %1 laps</source>
+        <translation>Dispersión, %1 vueltas</translation>
     </message>
 </context>
 <context>
@@ -1535,6 +1834,33 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::LapChooser</name>
+    <message>
+        <source>Lap of another file</source>
+        <translation>Vuelta de otro archivo</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sesión</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Piloto</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Vuelta %1</translation>
+    </message>
+    <message>
+        <source>No lap of this circuit</source>
+        <translation>Ninguna vuelta de este circuito</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -1617,6 +1943,22 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>Choose another folder...</source>
         <translation>Elegir otra carpeta...</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Vueltas</translation>
+    </message>
+    <message>
+        <source>The laps of the session</source>
+        <translation>Las vueltas de la sesión</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Curvas</translation>
+    </message>
+    <message>
+        <source>The corners of the circuit in the selected lap</source>
+        <translation>Las curvas del circuito en la vuelta elegida</translation>
     </message>
 </context>
 <context>
@@ -1872,6 +2214,22 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>What the colours of the line tell (L)</source>
         <translation>Qué dicen los colores de la línea (L)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LossButton</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>The speeds do not confirm it</source>
+        <translation>Las velocidades no lo confirman</translation>
+    </message>
+    <message>
+        <source>Within 2 km/h everywhere</source>
+        <translation>En todas partes a menos de 2 km/h</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2764,45 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::ReferenceMenu</name>
+    <message>
+        <source>Clear: no comparison</source>
+        <translation>Quitar: sin comparación</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Mejor de la sesión</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Mejor de siempre aquí</translation>
+    </message>
+    <message>
+        <source>only the same motorcycle</source>
+        <translation>solo la misma moto</translation>
+    </message>
+    <message>
+        <source>This lap: %1, %2</source>
+        <translation>Esta vuelta: %1, %2</translation>
+    </message>
+    <message>
+        <source>This lap</source>
+        <translation>Esta vuelta</translation>
+    </message>
+    <message>
+        <source>Lap of another file...</source>
+        <translation>Vuelta de otro archivo...</translation>
+    </message>
+    <message>
+        <source>Recent: none on this circuit</source>
+        <translation>Recientes: ninguna en este circuito</translation>
+    </message>
+    <message>
+        <source>Lap %1 of %2</source>
+        <translation>Vuelta %1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::RidePreview</name>
     <message>
         <source>Path</source>
@@ -2770,6 +3167,38 @@ Para tener todas sus estadísticas con esta nueva versión de Analyzer, deje ter
     </message>
 </context>
 <context>
+    <name>zuno::WherePane</name>
+    <message>
+        <source>Where is the time</source>
+        <translation>Dónde está el tiempo</translation>
+    </message>
+    <message>
+        <source>Choose a reference...</source>
+        <translation>Elegir una referencia...</translation>
+    </message>
+    <message>
+        <source>The other corners</source>
+        <translation>Las otras curvas</translation>
+    </message>
+    <message>
+        <source>thin: won and lost inside the corner</source>
+        <translation>fino: ganado y perdido en la curva</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Against the best of each corner</source>
+        <translation>Frente a lo mejor de cada curva</translation>
+    </message>
+    <message>
+        <source>The other %1 places</source>
+        <translation>Los otros %1 lugares</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ZunoAnalyzer</name>
     <message>
         <source>ZUNO Analyzer</source>
@@ -2880,6 +3309,18 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
     <message>
         <source>Demo files that could not be removed: %1</source>
         <translation>Archivos de demo que no se pudieron quitar: %1</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sesiones</translation>
+    </message>
+    <message>
+        <source>Shows the list of sessions (F9)</source>
+        <translation>Muestra la lista de sesiones (F9)</translation>
+    </message>
+    <message>
+        <source>List of sessions</source>
+        <translation>Lista de sesiones</translation>
     </message>
 </context>
 </TS>

@@ -588,6 +588,37 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>TimePlace</name>
+    <message>
+        <source>Start/finish</source>
+        <translation>Départ/arrivée</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Virage %1</translation>
+    </message>
+    <message>
+        <source>Corners %1</source>
+        <translation>Virages %1</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>droite</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>gauche</translation>
+    </message>
+    <message>
+        <source>%1 seconds lost</source>
+        <translation>%1 secondes perdues</translation>
+    </message>
+    <message>
+        <source>%1 seconds won</source>
+        <translation>%1 secondes gagnées</translation>
+    </message>
+</context>
+<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -833,6 +864,188 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::Comparing</name>
+    <message>
+        <source>Compare with this lap</source>
+        <translation>Comparer à ce tour</translation>
+    </message>
+    <message>
+        <source>Choose the reference</source>
+        <translation>Choisir la référence</translation>
+    </message>
+    <message>
+        <source>No comparison</source>
+        <translation>Pas de comparaison</translation>
+    </message>
+    <message>
+        <source>Swap lap and reference</source>
+        <translation>Échanger tour et référence</translation>
+    </message>
+    <message>
+        <source>Largest loss</source>
+        <translation>Plus grande perte</translation>
+    </message>
+    <message>
+        <source>Second largest loss</source>
+        <translation>Deuxième plus grande perte</translation>
+    </message>
+    <message>
+        <source>Third largest loss</source>
+        <translation>Troisième plus grande perte</translation>
+    </message>
+    <message>
+        <source>Corner before</source>
+        <translation>Virage précédent</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Virage suivant</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>Le tour entier</translation>
+    </message>
+    <message>
+        <source>The name could not be kept: %1</source>
+        <translation>Le nom n&apos;a pas pu être conservé : %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Comparison</name>
+    <message>
+        <source>New best lap here: %1, lap %2 of %3</source>
+        <translation>Nouveau meilleur tour ici : %1, tour %2 de %3</translation>
+    </message>
+    <message>
+        <source>This lap does not go from line to line, so its corners cannot be compared.</source>
+        <translation>Ce tour ne va pas d&apos;un passage sur la ligne au suivant : ses virages ne peuvent pas être comparés.</translation>
+    </message>
+    <message>
+        <source>Choose a reference to see where the time is.</source>
+        <translation>Choisissez une référence pour voir où est le temps.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Recherche du meilleur tour...</translation>
+    </message>
+    <message>
+        <source>No corners are known here, so there is nothing to compare them by.</source>
+        <translation>Aucun virage n&apos;est connu ici : il n&apos;y a rien à comparer.</translation>
+    </message>
+    <message>
+        <source>There is no lap from line to line.</source>
+        <translation>Il n&apos;y a aucun tour d&apos;un passage sur la ligne au suivant.</translation>
+    </message>
+    <message>
+        <source>The map&apos;s outline is too rough for its corners.</source>
+        <translation>Le tracé de la carte est trop grossier pour ses virages.</translation>
+    </message>
+    <message>
+        <source>The receiver measured about once a second; that is too seldom for corners.</source>
+        <translation>Le récepteur a mesuré environ une fois par seconde ; c&apos;est trop peu pour des virages.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ComparisonBar</name>
+    <message>
+        <source>against</source>
+        <translation>contre</translation>
+    </message>
+    <message>
+        <source>Chooses what every lap is compared with (R)</source>
+        <translation>Choisit à quoi chaque tour est comparé (R)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Référence</translation>
+    </message>
+    <message>
+        <source>Draws another lap as well (O in the table)</source>
+        <translation>Trace un tour de plus (O dans le tableau)</translation>
+    </message>
+    <message>
+        <source>+ Lap</source>
+        <translation>+ Tour</translation>
+    </message>
+    <message>
+        <source>Makes the reference the selected lap, and the selected lap the reference (X)</source>
+        <translation>Fait de la référence le tour sélectionné, et du tour sélectionné la référence (X)</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Échanger</translation>
+    </message>
+    <message>
+        <source>No comparison (Shift+R)</source>
+        <translation>Pas de comparaison (Maj+R)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Tour %1</translation>
+    </message>
+    <message>
+        <source>Nothing to compare yet: there are no laps.</source>
+        <translation>Rien à comparer encore : il n&apos;y a pas de tours.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Recherche du meilleur tour...</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Meilleur de la session</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Meilleur de tous ici</translation>
+    </message>
+    <message>
+        <source>Best ever here, same motorcycle</source>
+        <translation>Meilleur de tous ici, même moto</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>choisi à la main</translation>
+    </message>
+    <message>
+        <source>No reference on this circuit yet</source>
+        <translation>Pas encore de référence sur ce circuit</translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <translation>référence</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>as fast</source>
+        <translation>aussi vite</translation>
+    </message>
+    <message>
+        <source>slower</source>
+        <translation>plus lent</translation>
+    </message>
+    <message>
+        <source>faster</source>
+        <translation>plus rapide</translation>
+    </message>
+    <message>
+        <source>Takes lap %1 away</source>
+        <translation>Retire le tour %1</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Six tours sont tracés au plus ; retirez-en d&apos;abord un.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ConfigurationWidget</name>
     <message>
         <source>ZUNO Analyzer settings</source>
@@ -928,6 +1141,13 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::CornerNames</name>
+    <message>
+        <source>The file of corners beside the map is damaged, or a later program wrote it; it is left alone.</source>
+        <translation>Le fichier des virages à côté de la carte est endommagé, ou d&apos;une version plus récente ; il reste tel quel.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CornerStrip</name>
     <message>
         <source>Corners of the lap</source>
@@ -950,6 +1170,85 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1 : %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTable</name>
+    <message>
+        <source>Corners</source>
+        <translation>Virages</translation>
+    </message>
+    <message>
+        <source>A click shows the corner in charts and map, F2 gives it a name</source>
+        <translation>Un clic montre le virage dans les graphiques et sur la carte, F2 lui donne un nom</translation>
+    </message>
+    <message>
+        <source>Name of the corner</source>
+        <translation>Nom du virage</translation>
+    </message>
+    <message>
+        <source>Corner %1:</source>
+        <translation>Virage %1 :</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTableModel</name>
+    <message>
+        <source>right</source>
+        <translation>droite</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>gauche</translation>
+    </message>
+    <message>
+        <source>T%1</source>
+        <comment>a corner&apos;s number</comment>
+        <translation>V%1</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Virage</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Diff.</source>
+        <translation>Écart</translation>
+    </message>
+    <message>
+        <source>Brakes at</source>
+        <translation>Freine à</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sortie</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>On the gas</source>
+        <translation>Gaz</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Dispersion</translation>
+    </message>
+    <message>
+        <source>Spread, %1 laps</source>
+        <translation>Dispersion, %1 tours</translation>
     </message>
 </context>
 <context>
@@ -1535,6 +1834,33 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::LapChooser</name>
+    <message>
+        <source>Lap of another file</source>
+        <translation>Tour d&apos;un autre fichier</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Session</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Pilote</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Tour %1</translation>
+    </message>
+    <message>
+        <source>No lap of this circuit</source>
+        <translation>Aucun tour de ce circuit</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -1617,6 +1943,22 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>Choose another folder...</source>
         <translation>Choisir un autre dossier...</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Tours</translation>
+    </message>
+    <message>
+        <source>The laps of the session</source>
+        <translation>Les tours de la session</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Virages</translation>
+    </message>
+    <message>
+        <source>The corners of the circuit in the selected lap</source>
+        <translation>Les virages du circuit dans le tour sélectionné</translation>
     </message>
 </context>
 <context>
@@ -1872,6 +2214,22 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>What the colours of the line tell (L)</source>
         <translation>Ce que disent les couleurs de la ligne (L)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LossButton</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>The speeds do not confirm it</source>
+        <translation>Les vitesses ne le confirment pas</translation>
+    </message>
+    <message>
+        <source>Within 2 km/h everywhere</source>
+        <translation>Moins de 2 km/h d&apos;écart partout</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2764,45 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::ReferenceMenu</name>
+    <message>
+        <source>Clear: no comparison</source>
+        <translation>Effacer : pas de comparaison</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Meilleur de la session</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Meilleur de tous ici</translation>
+    </message>
+    <message>
+        <source>only the same motorcycle</source>
+        <translation>seulement la même moto</translation>
+    </message>
+    <message>
+        <source>This lap: %1, %2</source>
+        <translation>Ce tour : %1, %2</translation>
+    </message>
+    <message>
+        <source>This lap</source>
+        <translation>Ce tour</translation>
+    </message>
+    <message>
+        <source>Lap of another file...</source>
+        <translation>Tour d&apos;un autre fichier...</translation>
+    </message>
+    <message>
+        <source>Recent: none on this circuit</source>
+        <translation>Récents : aucun sur ce circuit</translation>
+    </message>
+    <message>
+        <source>Lap %1 of %2</source>
+        <translation>Tour %1 de %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::RidePreview</name>
     <message>
         <source>Path</source>
@@ -2770,6 +3167,38 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
     </message>
 </context>
 <context>
+    <name>zuno::WherePane</name>
+    <message>
+        <source>Where is the time</source>
+        <translation>Où est le temps</translation>
+    </message>
+    <message>
+        <source>Choose a reference...</source>
+        <translation>Choisir une référence...</translation>
+    </message>
+    <message>
+        <source>The other corners</source>
+        <translation>Les autres virages</translation>
+    </message>
+    <message>
+        <source>thin: won and lost inside the corner</source>
+        <translation>fin : gagné et perdu dans le virage</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Against the best of each corner</source>
+        <translation>Contre le meilleur de chaque virage</translation>
+    </message>
+    <message>
+        <source>The other %1 places</source>
+        <translation>Les %1 autres endroits</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ZunoAnalyzer</name>
     <message>
         <source>ZUNO Analyzer</source>
@@ -2880,6 +3309,18 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     <message>
         <source>Demo files that could not be removed: %1</source>
         <translation>Fichiers de démo qui n&apos;ont pas pu être retirés : %1</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessions</translation>
+    </message>
+    <message>
+        <source>Shows the list of sessions (F9)</source>
+        <translation>Affiche la liste des sessions (F9)</translation>
+    </message>
+    <message>
+        <source>List of sessions</source>
+        <translation>Liste des sessions</translation>
     </message>
 </context>
 </TS>

@@ -588,6 +588,37 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>TimePlace</name>
+    <message>
+        <source>Start/finish</source>
+        <translation>Traguardo</translation>
+    </message>
+    <message>
+        <source>Corner %1</source>
+        <translation>Curva %1</translation>
+    </message>
+    <message>
+        <source>Corners %1</source>
+        <translation>Curve %1</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>destra</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>sinistra</translation>
+    </message>
+    <message>
+        <source>%1 seconds lost</source>
+        <translation>%1 secondi persi</translation>
+    </message>
+    <message>
+        <source>%1 seconds won</source>
+        <translation>%1 secondi guadagnati</translation>
+    </message>
+</context>
+<context>
     <name>zuno::AboutWidget</name>
     <message>
         <source>About ZUNO Analyzer</source>
@@ -833,6 +864,188 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::Comparing</name>
+    <message>
+        <source>Compare with this lap</source>
+        <translation>Confronta con questo giro</translation>
+    </message>
+    <message>
+        <source>Choose the reference</source>
+        <translation>Scegli il riferimento</translation>
+    </message>
+    <message>
+        <source>No comparison</source>
+        <translation>Nessun confronto</translation>
+    </message>
+    <message>
+        <source>Swap lap and reference</source>
+        <translation>Scambia giro e riferimento</translation>
+    </message>
+    <message>
+        <source>Largest loss</source>
+        <translation>Perdita maggiore</translation>
+    </message>
+    <message>
+        <source>Second largest loss</source>
+        <translation>Seconda perdita</translation>
+    </message>
+    <message>
+        <source>Third largest loss</source>
+        <translation>Terza perdita</translation>
+    </message>
+    <message>
+        <source>Corner before</source>
+        <translation>Curva precedente</translation>
+    </message>
+    <message>
+        <source>Next corner</source>
+        <translation>Curva successiva</translation>
+    </message>
+    <message>
+        <source>The whole lap</source>
+        <translation>Il giro intero</translation>
+    </message>
+    <message>
+        <source>The name could not be kept: %1</source>
+        <translation>Non è stato possibile conservare il nome: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::Comparison</name>
+    <message>
+        <source>New best lap here: %1, lap %2 of %3</source>
+        <translation>Nuovo giro migliore qui: %1, giro %2 di %3</translation>
+    </message>
+    <message>
+        <source>This lap does not go from line to line, so its corners cannot be compared.</source>
+        <translation>Questo giro non va da traguardo a traguardo, perciò le sue curve non si possono confrontare.</translation>
+    </message>
+    <message>
+        <source>Choose a reference to see where the time is.</source>
+        <translation>Scegli un riferimento per vedere dov&apos;è il tempo.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Ricerca del giro migliore...</translation>
+    </message>
+    <message>
+        <source>No corners are known here, so there is nothing to compare them by.</source>
+        <translation>Qui non è nota nessuna curva, perciò non c&apos;è nulla da confrontare.</translation>
+    </message>
+    <message>
+        <source>There is no lap from line to line.</source>
+        <translation>Non c&apos;è nessun giro da traguardo a traguardo.</translation>
+    </message>
+    <message>
+        <source>The map&apos;s outline is too rough for its corners.</source>
+        <translation>Il tracciato della mappa è troppo grossolano per le sue curve.</translation>
+    </message>
+    <message>
+        <source>The receiver measured about once a second; that is too seldom for corners.</source>
+        <translation>Il ricevitore ha misurato circa una volta al secondo; è troppo poco per le curve.</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::ComparisonBar</name>
+    <message>
+        <source>against</source>
+        <translation>contro</translation>
+    </message>
+    <message>
+        <source>Chooses what every lap is compared with (R)</source>
+        <translation>Sceglie con che cosa si confronta ogni giro (R)</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Riferimento</translation>
+    </message>
+    <message>
+        <source>Draws another lap as well (O in the table)</source>
+        <translation>Disegna un giro in più (O nella tabella)</translation>
+    </message>
+    <message>
+        <source>+ Lap</source>
+        <translation>+ Giro</translation>
+    </message>
+    <message>
+        <source>Makes the reference the selected lap, and the selected lap the reference (X)</source>
+        <translation>Fa del riferimento il giro selezionato, e del giro selezionato il riferimento (X)</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Scambia</translation>
+    </message>
+    <message>
+        <source>No comparison (Shift+R)</source>
+        <translation>Nessun confronto (Shift+R)</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Azzera</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Giro %1</translation>
+    </message>
+    <message>
+        <source>Nothing to compare yet: there are no laps.</source>
+        <translation>Ancora nulla da confrontare: non ci sono giri.</translation>
+    </message>
+    <message>
+        <source>Looking for the best lap...</source>
+        <translation>Ricerca del giro migliore...</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Migliore della sessione</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Migliore di sempre qui</translation>
+    </message>
+    <message>
+        <source>Best ever here, same motorcycle</source>
+        <translation>Migliore di sempre qui, stessa moto</translation>
+    </message>
+    <message>
+        <source>chosen by hand</source>
+        <translation>scelto a mano</translation>
+    </message>
+    <message>
+        <source>No reference on this circuit yet</source>
+        <translation>Ancora nessun riferimento su questo circuito</translation>
+    </message>
+    <message>
+        <source>reference</source>
+        <translation>riferimento</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>as fast</source>
+        <translation>uguale</translation>
+    </message>
+    <message>
+        <source>slower</source>
+        <translation>più lento</translation>
+    </message>
+    <message>
+        <source>faster</source>
+        <translation>più veloce</translation>
+    </message>
+    <message>
+        <source>Takes lap %1 away</source>
+        <translation>Toglie il giro %1</translation>
+    </message>
+    <message>
+        <source>Six laps are drawn at most; take one away first.</source>
+        <translation>Si disegnano al massimo sei giri; togline prima uno.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ConfigurationWidget</name>
     <message>
         <source>ZUNO Analyzer settings</source>
@@ -928,6 +1141,13 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::CornerNames</name>
+    <message>
+        <source>The file of corners beside the map is damaged, or a later program wrote it; it is left alone.</source>
+        <translation>Il file delle curve accanto alla mappa è danneggiato, o di una versione più recente; resta com&apos;è.</translation>
+    </message>
+</context>
+<context>
     <name>zuno::CornerStrip</name>
     <message>
         <source>Corners of the lap</source>
@@ -950,6 +1170,85 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
         <translation>%1: %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTable</name>
+    <message>
+        <source>Corners</source>
+        <translation>Curve</translation>
+    </message>
+    <message>
+        <source>A click shows the corner in charts and map, F2 gives it a name</source>
+        <translation>Un clic mostra la curva nei grafici e sulla mappa, F2 le dà un nome</translation>
+    </message>
+    <message>
+        <source>Name of the corner</source>
+        <translation>Nome della curva</translation>
+    </message>
+    <message>
+        <source>Corner %1:</source>
+        <translation>Curva %1:</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::CornerTableModel</name>
+    <message>
+        <source>right</source>
+        <translation>destra</translation>
+    </message>
+    <message>
+        <source>left</source>
+        <translation>sinistra</translation>
+    </message>
+    <message>
+        <source>T%1</source>
+        <comment>a corner&apos;s number</comment>
+        <translation>C%1</translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Diff.</source>
+        <translation>Diff.</translation>
+    </message>
+    <message>
+        <source>Brakes at</source>
+        <translation>Frena a</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Ingresso</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimo</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Uscita</translation>
+    </message>
+    <message>
+        <source>Lean</source>
+        <translation>Piega</translation>
+    </message>
+    <message>
+        <source>On the gas</source>
+        <translation>Gas</translation>
+    </message>
+    <message>
+        <source>Spread</source>
+        <translation>Dispersione</translation>
+    </message>
+    <message>
+        <source>Spread, %1 laps</source>
+        <translation>Dispersione, %1 giri</translation>
     </message>
 </context>
 <context>
@@ -1535,6 +1834,33 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::LapChooser</name>
+    <message>
+        <source>Lap of another file</source>
+        <translation>Giro di un altro file</translation>
+    </message>
+    <message>
+        <source>Session</source>
+        <translation>Sessione</translation>
+    </message>
+    <message>
+        <source>Driver</source>
+        <translation>Pilota</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Lap %1</source>
+        <translation>Giro %1</translation>
+    </message>
+    <message>
+        <source>No lap of this circuit</source>
+        <translation>Nessun giro di questo circuito</translation>
+    </message>
+</context>
+<context>
     <name>zuno::LapFlag</name>
     <message>
         <source>from the pits</source>
@@ -1617,6 +1943,22 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>Choose another folder...</source>
         <translation>Scegli un&apos;altra cartella...</translation>
+    </message>
+    <message>
+        <source>Laps</source>
+        <translation>Giri</translation>
+    </message>
+    <message>
+        <source>The laps of the session</source>
+        <translation>I giri della sessione</translation>
+    </message>
+    <message>
+        <source>Corners</source>
+        <translation>Curve</translation>
+    </message>
+    <message>
+        <source>The corners of the circuit in the selected lap</source>
+        <translation>Le curve del circuito nel giro selezionato</translation>
     </message>
 </context>
 <context>
@@ -1872,6 +2214,22 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>What the colours of the line tell (L)</source>
         <translation>Che cosa dicono i colori della linea (L)</translation>
+    </message>
+</context>
+<context>
+    <name>zuno::LossButton</name>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>The speeds do not confirm it</source>
+        <translation>Le velocità non lo confermano</translation>
+    </message>
+    <message>
+        <source>Within 2 km/h everywhere</source>
+        <translation>Ovunque entro 2 km/h</translation>
     </message>
 </context>
 <context>
@@ -2406,6 +2764,45 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::ReferenceMenu</name>
+    <message>
+        <source>Clear: no comparison</source>
+        <translation>Azzera: nessun confronto</translation>
+    </message>
+    <message>
+        <source>Best of session</source>
+        <translation>Migliore della sessione</translation>
+    </message>
+    <message>
+        <source>Best ever here</source>
+        <translation>Migliore di sempre qui</translation>
+    </message>
+    <message>
+        <source>only the same motorcycle</source>
+        <translation>solo la stessa moto</translation>
+    </message>
+    <message>
+        <source>This lap: %1, %2</source>
+        <translation>Questo giro: %1, %2</translation>
+    </message>
+    <message>
+        <source>This lap</source>
+        <translation>Questo giro</translation>
+    </message>
+    <message>
+        <source>Lap of another file...</source>
+        <translation>Giro di un altro file...</translation>
+    </message>
+    <message>
+        <source>Recent: none on this circuit</source>
+        <translation>Recenti: nessuno su questo circuito</translation>
+    </message>
+    <message>
+        <source>Lap %1 of %2</source>
+        <translation>Giro %1 di %2</translation>
+    </message>
+</context>
+<context>
     <name>zuno::RidePreview</name>
     <message>
         <source>Path</source>
@@ -2770,6 +3167,38 @@ Per avere tutte le statistiche con questa nuova versione di Analyzer, lascia ter
     </message>
 </context>
 <context>
+    <name>zuno::WherePane</name>
+    <message>
+        <source>Where is the time</source>
+        <translation>Dov&apos;è il tempo</translation>
+    </message>
+    <message>
+        <source>Choose a reference...</source>
+        <translation>Scegli un riferimento...</translation>
+    </message>
+    <message>
+        <source>The other corners</source>
+        <translation>Le altre curve</translation>
+    </message>
+    <message>
+        <source>thin: won and lost inside the corner</source>
+        <translation>sottile: guadagnato e perso in curva</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <comment>seconds</comment>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Against the best of each corner</source>
+        <translation>Contro il meglio di ogni curva</translation>
+    </message>
+    <message>
+        <source>The other %1 places</source>
+        <translation>Gli altri %1 punti</translation>
+    </message>
+</context>
+<context>
     <name>zuno::ZunoAnalyzer</name>
     <message>
         <source>ZUNO Analyzer</source>
@@ -2880,6 +3309,18 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     <message>
         <source>Demo files that could not be removed: %1</source>
         <translation>File demo che non è stato possibile rimuovere: %1</translation>
+    </message>
+    <message>
+        <source>Sessions</source>
+        <translation>Sessioni</translation>
+    </message>
+    <message>
+        <source>Shows the list of sessions (F9)</source>
+        <translation>Mostra l&apos;elenco delle sessioni (F9)</translation>
+    </message>
+    <message>
+        <source>List of sessions</source>
+        <translation>Elenco delle sessioni</translation>
     </message>
 </context>
 </TS>
