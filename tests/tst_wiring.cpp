@@ -26,6 +26,7 @@
 #include <session/sessionfile.h>
 #include <theme/themes.h>
 #include <track/mapfile.h>
+#include <views/charts/cornerstrip.h>
 #include <views/charts/lapchart.h>
 #include <views/charts/lapcharts.h>
 #include <views/laps/lapstablemodel.h>
@@ -199,6 +200,32 @@ private Q_SLOTS:
         paddock.state().setZones(zones);
         Q_EMIT paddock.page->zonePicked(1);
         QCOMPARE(paddock.state().shownZone(), std::optional<std::size_t>(1));
+    }
+
+    // The comparison's units are those of charts and map, and each leads the others to them.
+    void units()
+    {
+        const Paddock paddock;
+        paddock.choose(4);
+        paddock.table().selectRow(2);
+        ChartState &state = paddock.state();
+        QTRY_VERIFY(!state.zones().empty() && state.zones().back().loss.has_value());
+        auto &strip = paddock.window->part<CornerStrip>("cornerStrip");
+        // It has just got its place.
+        QCoreApplication::processEvents();
+        const QPoint middle = strip.cell(1).center().toPoint();
+        QTest::mouseClick(&strip, Qt::LeftButton, {}, middle);
+        QCOMPARE(state.shownZone(), std::optional<std::size_t>(1));
+        QTest::keyClick(&paddock.table(), Qt::Key_Escape);
+        QVERIFY(!state.isZoomed());
+        QTest::keyClick(&paddock.table(), Qt::Key_Period);
+        QVERIFY(state.shownZone().has_value());
+        QTest::keyClick(&paddock.table(), Qt::Key_Escape);
+        QVERIFY(!state.shownZone().has_value());
+        // Another lap has its own times in them.
+        const double end = state.zones().back().to;
+        paddock.table().selectRow(3);
+        QTRY_VERIFY(!state.zones().empty() && state.zones().back().to != end);
     }
 
     // In the charts: forwards is to the right.

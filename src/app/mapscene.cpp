@@ -26,7 +26,6 @@ MapScene::MapScene(ChartState &state, MapPane &map, QObject *parent)
     connect(&ShownUnits::instance(), &ShownUnits::changed, this, &MapScene::sendSoon);
     connect(&map.view(), &MapViewController::zonePicked, this,
             [this](int zone) { m_state.showZone(static_cast<std::size_t>(zone)); });
-    connect(&map, &MapPane::wholeLapAsked, &m_state, &ChartState::showWhole);
     sendSoon();
 }
 

@@ -5,9 +5,9 @@
 
 #include "ui_mappane.h"
 
+#include <QAction>
 #include <QLocale>
 #include <QResizeEvent>
-#include <QShortcut>
 
 #include <base/numbers.h>
 #include <maps/page/lineswitch.h>
@@ -34,16 +34,14 @@ MapPane::MapPane(QWidget *parent)
 
 MapPane::~MapPane() = default;
 
-// They act as long as the map has the keyboard.
+// It acts as long as the map has the keyboard.
 void MapPane::makeKeys()
 {
-    const auto add = [this](Qt::Key key, auto act) {
-        auto *shortcut = new QShortcut(key, this);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, act);
-    };
-    add(Qt::Key_L, [this] { m_line->showNext(); });
-    add(Qt::Key_Escape, [this] { Q_EMIT wholeLapAsked(); });
+    auto *next = new QAction(tr("Next colours of the line on the map"), this);
+    next->setShortcut(Qt::Key_L);
+    next->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(next, &QAction::triggered, m_line, &LineSwitch::showNext);
+    addAction(next);
 }
 
 void MapPane::resizeEvent(QResizeEvent *event)

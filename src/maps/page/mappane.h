@@ -36,8 +36,6 @@ public:
 Q_SIGNALS:
     /// The rider wants a map to be made from the session.
     void newMapRequested();
-    /// The rider wants to see the whole lap again.
-    void wholeLapAsked();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
