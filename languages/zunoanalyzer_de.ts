@@ -2547,6 +2547,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Map length : %1 m</source>
         <translation>Länge der Karte: %1 m</translation>
     </message>
+    <message>
+        <source>Next colours of the line on the map</source>
+        <translation>Nächste Farben der Linie auf der Karte</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>

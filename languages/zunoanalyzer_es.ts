@@ -2547,6 +2547,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Map length : %1 m</source>
         <translation>Longitud del mapa: %1 m</translation>
     </message>
+    <message>
+        <source>Next colours of the line on the map</source>
+        <translation>Siguientes colores de la línea en el mapa</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>

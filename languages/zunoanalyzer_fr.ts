@@ -2547,6 +2547,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Map length : %1 m</source>
         <translation>Longueur de la carte&#xa0;: %1 m</translation>
     </message>
+    <message>
+        <source>Next colours of the line on the map</source>
+        <translation>Couleurs suivantes de la ligne sur la carte</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>

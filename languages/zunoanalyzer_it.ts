@@ -2547,6 +2547,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Map length : %1 m</source>
         <translation>Lunghezza della mappa: %1 m</translation>
     </message>
+    <message>
+        <source>Next colours of the line on the map</source>
+        <translation>Colori successivi della linea sulla mappa</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>
