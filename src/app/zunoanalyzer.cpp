@@ -478,6 +478,7 @@ void ZunoAnalyzer::openSettings()
     m_map->view().setOptions(m_settings.path(SettingsFile::Analyzer));
     Themes::instance().choose(Themes::choiceOf(m_settings.value(Setting::Theme).toString()));
     ShownUnits::instance().choose(Units::of(m_settings));
+    m_map->showSession(m_display.session());
     if (m_settings.acquisitionFolder() != sessions)
         openSessionsFolder(m_settings.acquisitionFolder());
     if (m_settings.mapsFolder() != maps)

@@ -13,6 +13,7 @@
 #include <maps/page/lineswitch.h>
 #include <maps/page/mapviewcontroller.h>
 #include <session/session.h>
+#include <theme/shownunits.h>
 #include <track/map.h>
 
 namespace zuno {
@@ -76,8 +77,10 @@ void MapPane::showSession(const Session *session)
         return;
     }
     m_ui->lb_mapSelected->setText(tr("Map : %1").arg(map->displayName()));
+    const bool isMetric = units().distanceUnit == Units::Distance::Metres;
     m_ui->lb_mapLength->setText(
-        tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length()))));
+        isMetric ? tr("Map length : %1 m").arg(QLocale().toString(truncatedToInt(map->length())))
+                 : tr("Map length : %1").arg(units().distanceText(map->length())));
     arrangeHead();
 }
 
