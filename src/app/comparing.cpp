@@ -56,7 +56,14 @@ void Comparing::connectParts()
 void Comparing::addKey(const QString &text, const QKeySequence &key, const QList<QWidget *> &where,
                        const std::function<void()> &run)
 {
-    auto *action = new QAction(text, this);
+    auto *action = new QAction(this);
+    // The sheet of keys lists those of the laps table and of the charts already.
+    const bool isNew
+        = key == QKeySequence(Qt::Key_X) || key[0].keyboardModifiers() != Qt::NoModifier;
+    if (isNew)
+        action->setText(text);
+    else
+        action->setWhatsThis(text);
     action->setShortcut(key);
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, &QAction::triggered, this, run);

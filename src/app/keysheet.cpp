@@ -23,10 +23,10 @@ namespace zuno {
 namespace {
 
 // Of two lines of a group, and between its two columns; pixels.
-constexpr int LineGap = 4;
+constexpr int LineGap = 3;
 constexpr int ColumnGap = 16;
 // Beside the sheet, so that it stays a sheet over the window.
-constexpr int ScreenMargin = 80;
+constexpr int ScreenMargin = 40;
 
 QString titleOf(const QAction &action)
 {

@@ -97,7 +97,9 @@ void ComparisonBar::prepareTexts()
         setSize(*label, 0.85, false);
     setSize(*m_ui->lb_difference, 1.54, true);
     const auto reserve = [](QLabel &label, const QString &longest) {
-        label.setMinimumWidth(QFontMetrics(label.font()).horizontalAdvance(longest));
+        constexpr int Air = 2;
+        const QFontMetrics metrics(label.font());
+        label.setMinimumSize(metrics.horizontalAdvance(longest), metrics.height() + Air);
     };
     reserve(*m_ui->lb_selectedLap, tr("Lap %1").arg(88));
     reserve(*m_ui->lb_referenceLap, QStringLiteral("\u2605 ") + tr("Lap %1").arg(88));
