@@ -218,7 +218,7 @@
     <name>DemoSessions</name>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation>« %1 » n&apos;a pas pu être écrit : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -237,7 +237,7 @@
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation>ligne %1 : %2</translation>
+        <translation>ligne %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no track in it</source>
@@ -257,7 +257,7 @@
     </message>
     <message>
         <source>no row can be read; the first is line %1</source>
-        <translation>aucune ligne ne peut être lue ; la première est la ligne %1</translation>
+        <translation>aucune ligne ne peut être lue&#xa0;; la première est la ligne %1</translation>
     </message>
     <message>
         <source>there is no row below [data]</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>%1 Hz: lap times may be off by %2 s</source>
-        <translation>%1 Hz : les temps au tour peuvent être faux de %2 s</translation>
+        <translation>%1 Hz&#xa0;: les temps au tour peuvent être faux de %2 s</translation>
     </message>
     <message>
         <source>%1 damaged lines left out, the first is line %2</source>
@@ -301,11 +301,11 @@
     </message>
     <message>
         <source>no speed: computed from positions</source>
-        <translation>pas de vitesse : calculée à partir des positions</translation>
+        <translation>pas de vitesse&#xa0;: calculée à partir des positions</translation>
     </message>
     <message>
         <source>no date: that of the file is taken</source>
-        <translation>pas de date : celle du fichier est prise</translation>
+        <translation>pas de date&#xa0;: celle du fichier est prise</translation>
     </message>
 </context>
 <context>
@@ -584,7 +584,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Traveled distance : %1</source>
-        <translation>Distance parcourue : %1</translation>
+        <translation>Distance parcourue&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -787,7 +787,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>corner %1: %2</source>
-        <translation>virage %1 : %2</translation>
+        <translation>virage %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -860,7 +860,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>%1 s of a ride from the begin of the file; lines that cannot be read: %2</source>
-        <translation>%1 s de roulage dès le début du fichier ; lignes illisibles : %2</translation>
+        <translation>%1 s de roulage dès le début du fichier&#xa0;; lignes illisibles&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -907,18 +907,18 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>The name could not be kept: %1</source>
-        <translation>Le nom n&apos;a pas pu être conservé : %1</translation>
+        <translation>Le nom n&apos;a pas pu être conservé&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>zuno::Comparison</name>
     <message>
         <source>New best lap here: %1, lap %2 of %3</source>
-        <translation>Nouveau meilleur tour ici : %1, tour %2 de %3</translation>
+        <translation>Nouveau meilleur tour ici&#xa0;: %1, tour %2 de %3</translation>
     </message>
     <message>
         <source>This lap does not go from line to line, so its corners cannot be compared.</source>
-        <translation>Ce tour ne va pas d&apos;un passage sur la ligne au suivant : ses virages ne peuvent pas être comparés.</translation>
+        <translation>Ce tour ne va pas d&apos;un passage sur la ligne au suivant&#xa0;: ses virages ne peuvent pas être comparés.</translation>
     </message>
     <message>
         <source>Choose a reference to see where the time is.</source>
@@ -930,7 +930,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>No corners are known here, so there is nothing to compare them by.</source>
-        <translation>Aucun virage n&apos;est connu ici : il n&apos;y a rien à comparer.</translation>
+        <translation>Aucun virage n&apos;est connu ici&#xa0;: il n&apos;y a rien à comparer.</translation>
     </message>
     <message>
         <source>There is no lap from line to line.</source>
@@ -942,7 +942,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>The receiver measured about once a second; that is too seldom for corners.</source>
-        <translation>Le récepteur a mesuré environ une fois par seconde ; c&apos;est trop peu pour des virages.</translation>
+        <translation>Le récepteur a mesuré environ une fois par seconde&#xa0;; c&apos;est trop peu pour des virages.</translation>
     </message>
 </context>
 <context>
@@ -989,7 +989,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Nothing to compare yet: there are no laps.</source>
-        <translation>Rien à comparer encore : il n&apos;y a pas de tours.</translation>
+        <translation>Rien à comparer encore&#xa0;: il n&apos;y a pas de tours.</translation>
     </message>
     <message>
         <source>Looking for the best lap...</source>
@@ -1042,7 +1042,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Six laps are drawn at most; take one away first.</source>
-        <translation>Six tours sont tracés au plus ; retirez-en d&apos;abord un.</translation>
+        <translation>Six tours sont tracés au plus&#xa0;; retirez-en d&apos;abord un.</translation>
     </message>
 </context>
 <context>
@@ -1144,7 +1144,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <name>zuno::CornerNames</name>
     <message>
         <source>The file of corners beside the map is damaged, or a later program wrote it; it is left alone.</source>
-        <translation>Le fichier des virages à côté de la carte est endommagé, ou d&apos;une version plus récente ; il reste tel quel.</translation>
+        <translation>Le fichier des virages à côté de la carte est endommagé, ou d&apos;une version plus récente&#xa0;; il reste tel quel.</translation>
     </message>
 </context>
 <context>
@@ -1164,12 +1164,12 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>%1: %2 s</source>
         <comment>a corner and its time</comment>
-        <translation>%1 : %2 s</translation>
+        <translation>%1&#xa0;: %2 s</translation>
     </message>
     <message>
         <source>%1: %2 s, %3 s</source>
         <comment>a corner, its time, the difference to the other lap</comment>
-        <translation>%1 : %2 s, %3 s</translation>
+        <translation>%1&#xa0;: %2 s, %3 s</translation>
     </message>
 </context>
 <context>
@@ -1188,7 +1188,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Corner %1:</source>
-        <translation>Virage %1 :</translation>
+        <translation>Virage %1&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1357,7 +1357,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>The demo: invented sessions of three riders on three circuits. They can be taken away again with one click.</source>
-        <translation>La démo : des sessions inventées de trois pilotes sur trois circuits. Un clic suffit pour les retirer.</translation>
+        <translation>La démo&#xa0;: des sessions inventées de trois pilotes sur trois circuits. Un clic suffit pour les retirer.</translation>
     </message>
     <message>
         <source>1  Import a session      2  Its circuit is found, laps are cut      3  See where the time is</source>
@@ -1412,7 +1412,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>%1 sessions were exported to &quot;%2&quot;.</source>
-        <translation>%1 sessions exportées vers « %2 ».</translation>
+        <translation>%1 sessions exportées vers «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>CSV with units (*.csv)</source>
@@ -1542,11 +1542,11 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <name>zuno::IdealTimeText</name>
     <message>
         <source>without section %1: no lap passed timing point %1 in its circle</source>
-        <translation>sans la section %1 : aucun tour n&apos;a passé le point %1 dans son cercle</translation>
+        <translation>sans la section %1&#xa0;: aucun tour n&apos;a passé le point %1 dans son cercle</translation>
     </message>
     <message>
         <source>without those of lap %1, the best, from section %2 on: it passed timing point %2 outside of its circle</source>
-        <translation>sans celles du tour %1, le meilleur, à partir de la section %2 : il a passé le point %2 hors de son cercle</translation>
+        <translation>sans celles du tour %1, le meilleur, à partir de la section %2&#xa0;: il a passé le point %2 hors de son cercle</translation>
     </message>
 </context>
 <context>
@@ -1557,7 +1557,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Sessions are made of these recordings; the files themselves stay as they are.</source>
-        <translation>Des sessions sont créées à partir de ces enregistrements ; les fichiers eux-mêmes restent tels quels.</translation>
+        <translation>Des sessions sont créées à partir de ces enregistrements&#xa0;; les fichiers eux-mêmes restent tels quels.</translation>
     </message>
     <message>
         <source>Columns...</source>
@@ -1624,11 +1624,11 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>was imported before, as &quot;%1&quot;</source>
-        <translation>a déjà été importé, comme « %1 »</translation>
+        <translation>a déjà été importé, comme «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1; say what its columns are</source>
-        <translation>%1 ; indiquez ce que sont ses colonnes</translation>
+        <translation>%1&#xa0;; indiquez ce que sont ses colonnes</translation>
     </message>
 </context>
 <context>
@@ -2068,7 +2068,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>This is the first lap itself; choose another one to compare it with.</source>
-        <translation>C&apos;est le premier tour lui-même ; choisissez-en un autre à comparer.</translation>
+        <translation>C&apos;est le premier tour lui-même&#xa0;; choisissez-en un autre à comparer.</translation>
     </message>
     <message>
         <source>Draw no longer besides</source>
@@ -2080,7 +2080,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Six laps are drawn at most; take one away first.</source>
-        <translation>Six tours sont tracés au plus ; retirez-en d&apos;abord un.</translation>
+        <translation>Six tours sont tracés au plus&#xa0;; retirez-en d&apos;abord un.</translation>
     </message>
 </context>
 <context>
@@ -2209,7 +2209,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Colour the line by: %1 (L)</source>
-        <translation>Colorer la ligne selon : %1 (L)</translation>
+        <translation>Colorer la ligne selon&#xa0;: %1 (L)</translation>
     </message>
     <message>
         <source>What the colours of the line tell (L)</source>
@@ -2467,19 +2467,19 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>This is a proposal with the start line of the imported file; Undo takes the line that was found in the laps. Give it a name and save it, or drag its points.</source>
-        <translation>Ceci est une proposition avec la ligne de départ du fichier importé ; Défaire prend la ligne trouvée dans les tours. Nommez-la et enregistrez-la, ou déplacez ses points.</translation>
+        <translation>Ceci est une proposition avec la ligne de départ du fichier importé&#xa0;; Défaire prend la ligne trouvée dans les tours. Nommez-la et enregistrez-la, ou déplacez ses points.</translation>
     </message>
     <message>
         <source>The file of the map&apos;s corners cannot be read, and is left alone.</source>
-        <translation>Le fichier des virages de la carte est illisible ; il reste tel quel.</translation>
+        <translation>Le fichier des virages de la carte est illisible&#xa0;; il reste tel quel.</translation>
     </message>
     <message>
         <source>A later version of the program changed the map&apos;s corners; they are left alone.</source>
-        <translation>Une version plus récente du programme a modifié les virages de la carte ; ils restent tels quels.</translation>
+        <translation>Une version plus récente du programme a modifié les virages de la carte&#xa0;; ils restent tels quels.</translation>
     </message>
     <message>
         <source>The corners could not be saved: %1</source>
-        <translation>Les virages n&apos;ont pas pu être enregistrés : %1</translation>
+        <translation>Les virages n&apos;ont pas pu être enregistrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Its corners alone can be changed without a copy.</source>
@@ -2487,7 +2487,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>The corners of the map &quot;%1&quot; could not be renamed.</source>
-        <translation>Les virages de la carte « %1 » n&apos;ont pas pu être renommés.</translation>
+        <translation>Les virages de la carte «&#xa0;%1&#xa0;» n&apos;ont pas pu être renommés.</translation>
     </message>
 </context>
 <context>
@@ -2655,7 +2655,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>The map would not be found for this session by itself: the line is more than 1 km from where the recording begins, and the ride does not follow the outline. Choose the map with &quot;Maps&quot;.</source>
-        <translation>La carte ne serait pas trouvée d&apos;elle-même pour cette session : la ligne est à plus de 1 km du début de l&apos;enregistrement, et le parcours ne suit pas le tracé. Choisissez la carte avec « Cartes ».</translation>
+        <translation>La carte ne serait pas trouvée d&apos;elle-même pour cette session&#xa0;: la ligne est à plus de 1 km du début de l&apos;enregistrement, et le parcours ne suit pas le tracé. Choisissez la carte avec «&#xa0;Cartes&#xa0;».</translation>
     </message>
     <message>
         <source>A pass of the line below %5 km/h counts twice, as on a wet or slow day. Make the gate smaller or move the line to where everybody is fast.</source>
@@ -2710,7 +2710,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>%1 to %2: %3</source>
         <comment>places, and the distance between them</comment>
-        <translation>%1 à %2 : %3</translation>
+        <translation>%1 à %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Time</source>
@@ -2756,11 +2756,11 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>The file of the reference, &quot;%1&quot;, is gone.</source>
-        <translation>Le fichier de la référence, « %1 », a disparu.</translation>
+        <translation>Le fichier de la référence, «&#xa0;%1&#xa0;», a disparu.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no lap %2 on this circuit any more.</source>
-        <translation>« %1 » n&apos;a plus de tour %2 sur ce circuit.</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a plus de tour %2 sur ce circuit.</translation>
     </message>
     <message>
         <source>The session does not say which vehicle it was.</source>
@@ -2771,7 +2771,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <name>zuno::ReferenceMenu</name>
     <message>
         <source>Clear: no comparison</source>
-        <translation>Effacer : pas de comparaison</translation>
+        <translation>Effacer&#xa0;: pas de comparaison</translation>
     </message>
     <message>
         <source>Best of session</source>
@@ -2787,7 +2787,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>This lap: %1, %2</source>
-        <translation>Ce tour : %1, %2</translation>
+        <translation>Ce tour&#xa0;: %1, %2</translation>
     </message>
     <message>
         <source>This lap</source>
@@ -2799,7 +2799,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>Recent: none on this circuit</source>
-        <translation>Récents : aucun sur ce circuit</translation>
+        <translation>Récents&#xa0;: aucun sur ce circuit</translation>
     </message>
     <message>
         <source>Lap %1 of %2</source>
@@ -3142,9 +3142,9 @@ Voulez-vous la télécharger maintenant&#xa0;?</translation>
         <source>Version: %1
 Size: %2
 From: %3</source>
-        <translation>Version : %1
-Taille : %2
-De : %3</translation>
+        <translation>Version&#xa0;: %1
+Taille&#xa0;: %2
+De&#xa0;: %3</translation>
     </message>
     <message>
         <source>A new version of the application is available.</source>
@@ -3153,8 +3153,8 @@ De : %3</translation>
     <message>
         <source>Version: %1
 This one was installed as a package of your system: install the new package in its place.</source>
-        <translation>Version : %1
-Celle-ci a été installée comme paquet de votre système : installez le nouveau paquet à sa place.</translation>
+        <translation>Version&#xa0;: %1
+Celle-ci a été installée comme paquet de votre système&#xa0;: installez le nouveau paquet à sa place.</translation>
     </message>
 </context>
 <context>
@@ -3186,7 +3186,7 @@ Pour accéder à toutes vos statistiques avec cette nouvelle version d&apos;Anal
     </message>
     <message>
         <source>thin: won and lost inside the corner</source>
-        <translation>fin : gagné et perdu dans le virage</translation>
+        <translation>fin&#xa0;: gagné et perdu dans le virage</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -3292,7 +3292,7 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     </message>
     <message>
         <source>Nothing can be stored in %1: the disk is full, or the folder cannot be written to.</source>
-        <translation>Rien ne peut être enregistré dans %1 : le disque est plein, ou le dossier n&apos;est pas accessible en écriture.</translation>
+        <translation>Rien ne peut être enregistré dans %1&#xa0;: le disque est plein, ou le dossier n&apos;est pas accessible en écriture.</translation>
     </message>
     <message>
         <source>All keys</source>
@@ -3308,11 +3308,11 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     </message>
     <message>
         <source>The other language is there when the program starts again. Do you want to start it again now?</source>
-        <translation>L&apos;autre langue apparaît au redémarrage du programme. Voulez-vous le redémarrer maintenant ?</translation>
+        <translation>L&apos;autre langue apparaît au redémarrage du programme. Voulez-vous le redémarrer maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Demo files that could not be removed: %1</source>
-        <translation>Fichiers de démo qui n&apos;ont pas pu être retirés : %1</translation>
+        <translation>Fichiers de démo qui n&apos;ont pas pu être retirés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Sessions</source>
