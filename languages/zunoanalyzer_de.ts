@@ -2551,6 +2551,10 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
         <source>Next colours of the line on the map</source>
         <translation>Nächste Farben der Linie auf der Karte</translation>
     </message>
+    <message>
+        <source>Map length : %1</source>
+        <translation>Länge der Karte: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>

@@ -2551,6 +2551,10 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
         <source>Next colours of the line on the map</source>
         <translation>Siguientes colores de la línea en el mapa</translation>
     </message>
+    <message>
+        <source>Map length : %1</source>
+        <translation>Longitud del mapa: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>

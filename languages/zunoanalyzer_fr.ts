@@ -2551,6 +2551,10 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
         <source>Next colours of the line on the map</source>
         <translation>Couleurs suivantes de la ligne sur la carte</translation>
     </message>
+    <message>
+        <source>Map length : %1</source>
+        <translation>Longueur de la carte&#xa0;: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>

@@ -2551,6 +2551,10 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
         <source>Next colours of the line on the map</source>
         <translation>Colori successivi della linea sulla mappa</translation>
     </message>
+    <message>
+        <source>Map length : %1</source>
+        <translation>Lunghezza della mappa: %1</translation>
+    </message>
 </context>
 <context>
     <name>zuno::MapPointsPane</name>
