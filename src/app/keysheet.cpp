@@ -4,11 +4,13 @@
 #include <app/keysheet.h>
 
 #include <algorithm>
+#include <array>
 
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -127,12 +129,21 @@ KeySheet::KeySheet(const QList<KeyGroup> &groups, QWidget *parent) : QDialog(par
 {
     setWindowTitle(tr("Keys"));
     auto *const sheet = new QWidget;
-    auto *const grid = new QGridLayout(sheet);
-    grid->setHorizontalSpacing(ColumnGap);
-    grid->setVerticalSpacing(LineGap);
-    grid->setColumnStretch(1, 1);
+    auto *const columns = new QHBoxLayout(sheet);
+    columns->setSpacing(2 * ColumnGap);
+    std::array<QGridLayout *, 2> grids {};
+    for (QGridLayout *&grid : grids) {
+        grid = new QGridLayout;
+        grid->setHorizontalSpacing(ColumnGap);
+        grid->setVerticalSpacing(LineGap);
+        grid->setColumnStretch(1, 1);
+        columns->addLayout(grid);
+    }
+    // Each where there is more room, so that the whole sheet is seen at once.
     for (const KeyGroup &group : groups)
-        addLines(*grid, group);
+        addLines(*grids[grids[0]->rowCount() <= grids[1]->rowCount() ? 0 : 1], group);
+    for (QGridLayout *grid : grids)
+        grid->setRowStretch(grid->rowCount(), 1);
     auto *const area = new QScrollArea(this);
     area->setObjectName(QStringLiteral("keySheet"));
     area->setAccessibleName(windowTitle());
