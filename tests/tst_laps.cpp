@@ -8,6 +8,7 @@
 #include <base/laptimes.h>
 #include <session/recording/trace.h>
 #include <session/session.h>
+#include <track/gate.h>
 #include <track/map.h>
 
 #include "builders.h"
@@ -146,6 +147,41 @@ private Q_SLOTS:
         QCOMPARE(lapsText(*cut.session), u"1 7-7 b; 2 7-7"_s);
         QCOMPARE(cut.session->bestLapText(), QString());
         QCOMPARE(cut.session->state().information.bestLapText, StoredText());
+    }
+
+    void nearAndFar_data()
+    {
+        QTest::addColumn<QGeoCoordinate>("centre");
+        QTest::addColumn<double>("radius");
+        const QList<double> latitudes {0, 46, -46, 88.9, 89.1, 89.9999, -90};
+        for (const double latitude : latitudes) {
+            for (const double longitude : {6.0, 179.9999, -179.9999, -180.0}) {
+                for (const double radius : {20.0, 300.0, 2e5}) {
+                    QTest::addRow("%g %g, %g m", latitude, longitude, radius)
+                        << QGeoCoordinate(latitude, longitude) << radius;
+                }
+            }
+        }
+    }
+
+    // What is near enough is never taken for far, wherever on earth.
+    void nearAndFar()
+    {
+        QFETCH(const QGeoCoordinate, centre);
+        QFETCH(const double, radius);
+        const Gate gate(centre, radius);
+        for (int degrees = 0; degrees < 360; degrees += 5) {
+            for (const double part : {0.0, 0.5, 0.999, 0.9999999, 1.0000001, 1.001, 2.0, 50.0}) {
+                PointAcquisition here;
+                const QGeoCoordinate place = centre.atDistanceAndAzimuth(part * radius, degrees);
+                here.dataCoordY = place.latitude();
+                here.dataCoordX = place.longitude();
+                const Trace trace(std::span(&here, 1));
+                const double metres = trace.at(0).distanceTo(centre);
+                QCOMPARE(gate.isCrossedAt(trace, 0),
+                         trace.at(0).isValid() && metres < radius && metres < 10000.0);
+            }
+        }
     }
 
     // Laps as "2t 500": counted twice (t), not ranked (-), the cumulated time; then the ideal time.

@@ -30,12 +30,12 @@ Gate::Gate(QGeoCoordinate centre, double radius)
 
 bool Gate::isCrossedAt(const Trace &trace, std::size_t i) const
 {
-    const QGeoCoordinate &here = trace.at(i);
-    if (!here.isValid())
+    if (!trace.hasPosition(i))
         return false;
     // Most samples are far away, and a great-circle distance costs more than all the rest.
-    if (std::fabs(here.latitude() - m_centre.latitude()) > m_latitudeReach)
+    if (std::fabs(trace.place(i).latitude - m_centre.latitude()) > m_latitudeReach)
         return false;
+    const QGeoCoordinate &here = trace.at(i);
     const double distance = here.distanceTo(m_centre);
     if (!(distance < m_radius))
         return false;

@@ -122,10 +122,10 @@ void Lap::computeSectors(const Trace &trace, const Map *map)
     PassScan scan;
     for (std::size_t i = 0; i < m_points.size(); ++i) {
         const bool isPass = scan.isPass(gate ? &*gate : nullptr, trace, i);
-        if (!trace.at(i).isValid())
+        if (!trace.hasPosition(i))
             continue;
         if (previous != Trace::None)
-            m_distance += trace.at(previous).distanceTo(trace.at(i));
+            m_distance += trace.step(previous, i);
         previous = i;
         if (!isPass)
             continue;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include <base/numbers.h>
@@ -17,6 +18,8 @@
 namespace zuno {
 
 namespace {
+
+constexpr double None = std::numeric_limits<double>::quiet_NaN();
 
 // Cuts one recording; lives for one call of cutIntoLaps.
 class LapCutter
@@ -44,6 +47,7 @@ public:
 private:
     void visit(std::size_t i)
     {
+        measureStep(i);
         if (!wentToLapBefore(i))
             append(i);
         if (m_scan.isPass(&m_line, m_trace, i))
@@ -51,12 +55,28 @@ private:
         addDistance(i);
     }
 
-    void append(std::size_t i) { append(m_samples[i], m_trace.at(i)); }
+    // Measured once, and given to the lap, too.
+    void measureStep(std::size_t i)
+    {
+        const bool isStep = m_previous != Trace::None && m_trace.hasPosition(i);
+        m_step = isStep ? m_trace.at(m_previous).distanceTo(m_trace.at(i)) : None;
+    }
 
-    void append(const PointAcquisition &point, const QGeoCoordinate &position)
+    void append(std::size_t i)
+    {
+        append(m_samples[i], m_trace.place(i));
+        if (!m_trace.hasPosition(i))
+            return;
+        // A lap begins with a crossing, which is no sample: from there it is another way.
+        if (m_last != Trace::None && m_last == m_previous)
+            m_places.back().step = m_step;
+        m_last = i;
+    }
+
+    void append(const PointAcquisition &point, const TracePlace &place)
     {
         m_points.push_back(point);
-        m_positions.push_back(position);
+        m_places.push_back(place);
     }
 
     // A stretch without positions at the line belongs to the old lap up to the moment of the
@@ -72,7 +92,8 @@ private:
         PointAcquisition crossing = m_samples[i];
         m_gapEnd = 0;
         m_points.pop_back();
-        m_positions.pop_back();
+        m_places.pop_back();
+        m_last = Trace::None;
         if (next != Trace::None) {
             crossing = crossingPoint(m_samples[i], m_samples[next], m_line.centre());
             m_gapEnd = next;
@@ -82,21 +103,21 @@ private:
                     append(j);
             }
         }
-        const QGeoCoordinate position = positionOf(crossing);
-        append(crossing, position);
+        const TracePlace place(positionOf(crossing));
+        append(crossing, place);
         const std::size_t length = m_points.size();
         m_results.laps.push_back(makeCrossedLap());
         // The next lap will be about as long.
         m_points.reserve(length + (length / 8));
-        m_positions.reserve(length + (length / 8));
-        append(crossing, position);
+        m_places.reserve(length + (length / 8));
+        append(crossing, place);
     }
 
     std::unique_ptr<Lap> makeLap()
     {
         auto lap = std::make_unique<Lap>();
         lap->setLapNumber(static_cast<qint32>(m_results.laps.size()) + 1);
-        lap->setPoints(std::exchange(m_points, {}), Trace(std::exchange(m_positions, {})), &m_map);
+        lap->setPoints(std::exchange(m_points, {}), Trace(std::exchange(m_places, {})), &m_map);
         return lap;
     }
 
@@ -112,12 +133,10 @@ private:
 
     void addDistance(std::size_t i)
     {
-        if (!m_trace.at(i).isValid())
+        if (!m_trace.hasPosition(i))
             return;
-        if (m_previous != Trace::None) {
-            const double step = m_trace.at(m_previous).distanceTo(m_trace.at(i));
-            m_results.distance = wrappedSum(m_results.distance, truncatedToInt(step));
-        }
+        if (m_previous != Trace::None)
+            m_results.distance = wrappedSum(m_results.distance, truncatedToInt(m_step));
         m_previous = i;
     }
 
@@ -129,8 +148,11 @@ private:
     LapResults m_results;
     // The lap that is being ridden.
     Points m_points;
-    std::vector<QGeoCoordinate> m_positions;
+    std::vector<TracePlace> m_places;
+    // The sample before that has a position, of all and of the lap's own, and the way from there.
     std::size_t m_previous = Trace::None;
+    std::size_t m_last = Trace::None;
+    double m_step = None;
     std::size_t m_gapEnd = 0;
     quint32 m_crossingStamp = 0;
     PassScan m_scan;

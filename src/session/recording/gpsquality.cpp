@@ -53,7 +53,12 @@ bool isImpossible(const PointAcquisition &from, const PointAcquisition &to)
     if (milliseconds <= 0)
         return false;
     const double reach = Impossible * milliseconds / 1000.0;
-    // Longer than it is anywhere but on the equator, and cheap: nearly every sample ends here.
+    // Cheap, and safely below what the next test asks: nearly every sample ends here.
+    const double north = (to.dataCoordY - from.dataCoordY) * MetresPerDegree;
+    const double east = (to.dataCoordX - from.dataCoordX) * MetresPerDegree;
+    if ((north * north) + (east * east) < 0.98 * reach * reach)
+        return false;
+    // Longer than it is anywhere but on the equator.
     const double most
         = MetresPerDegree
           * std::hypot(to.dataCoordY - from.dataCoordY, to.dataCoordX - from.dataCoordX);

@@ -3,10 +3,19 @@
 
 #include <session/recording/trace.h>
 
+#include <limits>
+#include <utility>
+
 #include <base/numbers.h>
 #include <base/processorstate.h>
 
 namespace zuno {
+
+namespace {
+
+constexpr double None = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
 
 QGeoCoordinate positionOf(const PointAcquisition &point)
 {
@@ -14,23 +23,37 @@ QGeoCoordinate positionOf(const PointAcquisition &point)
                                : QGeoCoordinate();
 }
 
+TracePlace::TracePlace(QGeoCoordinate coordinate)
+    : position(std::move(coordinate))
+    , latitude(position.isValid() ? position.latitude() : None)
+    , longitude(position.isValid() ? position.longitude() : None)
+    , step(None)
+{
+}
+
 Trace::Trace(std::span<const PointAcquisition> points)
 {
     clearVectorRegisters();
-    m_positions.reserve(points.size());
+    m_places.reserve(points.size());
     for (const PointAcquisition &point : points)
-        m_positions.push_back(positionOf(point));
+        m_places.emplace_back(positionOf(point));
 }
 
-Trace::Trace(std::vector<QGeoCoordinate> positions) : m_positions(std::move(positions)) {}
+Trace::Trace(std::vector<TracePlace> places) : m_places(std::move(places)) {}
 
 std::size_t Trace::next(std::size_t i) const
 {
-    for (std::size_t j = i + 1; j < m_positions.size(); ++j) {
-        if (m_positions[j].isValid())
+    for (std::size_t j = i + 1; j < m_places.size(); ++j) {
+        if (hasPosition(j))
             return j;
     }
     return None;
+}
+
+double Trace::step(std::size_t previous, std::size_t i) const
+{
+    const double known = m_places[i].step;
+    return std::isnan(known) ? at(previous).distanceTo(at(i)) : known;
 }
 
 double usualInterval(std::span<const PointAcquisition> samples)

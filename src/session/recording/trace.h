@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <span>
 #include <vector>
@@ -17,6 +18,19 @@ namespace zuno {
 /// one that nobody can have ridden to.
 [[nodiscard]] QGeoCoordinate positionOf(const PointAcquisition &point);
 
+/// Where one of consecutive samples was taken.
+struct TracePlace
+{
+    explicit TracePlace(QGeoCoordinate coordinate);
+
+    QGeoCoordinate position;
+    /// Degrees, without asking the position for them; not a number without one.
+    double latitude;
+    double longitude;
+    /// Metres from the place before that has a position; not a number where nobody knows them.
+    double step;
+};
+
 /// The positions of consecutive samples, computed once.
 class Trace
 {
@@ -24,15 +38,22 @@ public:
     static constexpr std::size_t None = static_cast<std::size_t>(-1);
 
     explicit Trace(std::span<const PointAcquisition> points);
-    /// Of positions that are known already.
-    explicit Trace(std::vector<QGeoCoordinate> positions);
+    /// Of places that are known already.
+    explicit Trace(std::vector<TracePlace> places);
 
-    [[nodiscard]] const QGeoCoordinate &at(std::size_t i) const { return m_positions[i]; }
+    [[nodiscard]] const QGeoCoordinate &at(std::size_t i) const { return m_places[i].position; }
+    [[nodiscard]] const TracePlace &place(std::size_t i) const { return m_places[i]; }
+    [[nodiscard]] bool hasPosition(std::size_t i) const
+    {
+        return !std::isnan(m_places[i].latitude);
+    }
     /// The next sample after @p i that has a position; None when there is none.
     [[nodiscard]] std::size_t next(std::size_t i) const;
+    /// Metres to @p i from @p previous, the last sample before it that has a position.
+    [[nodiscard]] double step(std::size_t previous, std::size_t i) const;
 
 private:
-    std::vector<QGeoCoordinate> m_positions;
+    std::vector<TracePlace> m_places;
 };
 
 /// Seconds from sample to sample, as a rule; a tenth when no time passes.
