@@ -270,6 +270,69 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_folder;
+
+    // Of many files each one's output, in their order, whatever is done first.
+    void manyFiles()
+    {
+        QVERIFY(QDir().mkpath(u"many/deep"_s));
+        QStringList files;
+        for (int i = 0; i < 12; ++i) {
+            files << u"many/%1.ra1"_s.arg(i, 2, 10, QLatin1Char('0'));
+            QVERIFY(QFile::copy(i % 3 == 0 ? u"good.ra1"_s : u"run.ra1"_s, files.last()));
+        }
+        QVERIFY(QFile::copy(u"run.ra1"_s, u"many/deep/00.ra1"_s));
+        for (const QString &command : {u"laps --maps demo"_s, u"insight --maps demo"_s}) {
+            QByteArray expected;
+            for (const QString &file : files + QStringList {u"run.ra1"_s})
+                expected += file.toUtf8() + '\n' + run(command, {file}).out + '\n';
+            for (const QString &jobs : {u"1"_s, u"3"_s, u"40"_s}) {
+                const Output all
+                    = run(command, files + QStringList {u"run.ra1"_s, u"--jobs"_s, jobs});
+                QCOMPARE(all.status, int(Done));
+                QCOMPARE(all.out, expected);
+            }
+        }
+        // A folder means all below it; a line of JSON each, which names its file.
+        const Output json = run(u"laps many --json --jobs 4"_s);
+        QStringList named;
+        for (const QByteArray &line : json.out.trimmed().split('\n'))
+            named << QJsonDocument::fromJson(line)[u"file"].toString();
+        files << u"many/deep/00.ra1"_s;
+        files.sort();
+        QCOMPARE(named, files);
+        // The others are done although one fails.
+        const Output partly = run(u"laps run.ra1 empty.ra1 good.ra1 --jobs 3"_s);
+        QCOMPARE(partly.status, int(FileFailed));
+        QVERIFY(partly.out.contains("good.ra1") && partly.error.contains("empty.ra1"));
+    }
+
+    void manyOutputs_data()
+    {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("single");
+        QTest::addColumn<QString>("ending");
+        QTest::newRow("csv") << u"csv --locale de"_s << u"csv --locale de run.ra1 -o one"_s
+                             << u"csv"_s;
+        QTest::newRow("export") << u"export --format gpx"_s
+                                << u"export --format gpx run.ra1 -o one"_s << u"gpx"_s;
+    }
+
+    // Into a folder, and never over what is there.
+    void manyOutputs()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, single);
+        QFETCH(QString, ending);
+        QVERIFY(QDir().mkpath(u"twice"_s) && QDir().mkpath(u"out"_s + ending));
+        QFile::copy(u"run.ra1"_s, u"twice/run.ra1"_s);
+        QCOMPARE(run(command + u" run.ra1 twice"_s).status, int(WrongUse));
+        const QString all = command + u" run.ra1 twice -o out"_s + ending;
+        QCOMPARE(run(all).status, int(Done));
+        QCOMPARE(run(single).status, int(Done));
+        for (const QString &name : {u"run."_s, u"run (2)."_s})
+            QCOMPARE(contents(u"out%1/"_s.arg(ending) + name + ending), contents(u"one"_s));
+        QCOMPARE(run(all).status, int(WrongUse));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestCli)

@@ -31,13 +31,13 @@ _zuno() {
     local command=${COMP_WORDS[1]} options="--help"
     case $command in
     decode) options+=" --smooth --no-points --json" ;;
-    laps) options+=" --maps --map --invalidate --json" ;;
+    laps) options+=" --maps --map --invalidate --json --jobs" ;;
     map) options+=" --maps --json --force" ;;
     corners) options+=" --maps --map --json" ;;
-    insight) options+=" --lap --against --maps --map --json" ;;
-    csv) options+=" --lap --locale --maps --map" ;;
+    insight) options+=" --lap --against --maps --map --json --jobs" ;;
+    csv) options+=" --lap --locale --maps --map --output --jobs" ;;
     payload) options+=" --lap --maps --map" ;;
-    export) options+=" --format --lap --maps --map --output" ;;
+    export) options+=" --format --lap --maps --map --output --jobs" ;;
     import) options+=" --output --json" ;;
     set) options+=" --output" ;;
     demo) options+=" --sessions --samples" ;;

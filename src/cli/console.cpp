@@ -10,8 +10,40 @@
 
 namespace zuno::cli {
 
+namespace {
+
+// Of each thread, so that files that are worked on at the same time do not mix.
+thread_local Printed *captured = nullptr;
+
+void printErrors(const QByteArray &lines)
+{
+    std::fwrite(lines.constData(), 1, static_cast<std::size_t>(lines.size()), stderr);
+}
+
+} // namespace
+
+Capture::Capture()
+{
+    captured = &m_printed;
+}
+
+Capture::~Capture()
+{
+    captured = nullptr;
+}
+
+void printAgain(const Printed &printed)
+{
+    printErrors(printed.errors);
+    printOut(printed.out);
+}
+
 void printOut(const QByteArray &bytes)
 {
+    if (captured != nullptr) {
+        captured->out += bytes;
+        return;
+    }
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
     std::fflush(stdout);
 }
@@ -24,7 +56,10 @@ bool isOutputWhole()
 void printError(const QString &message)
 {
     const QByteArray line = QByteArrayLiteral("zuno: ") + message.toLocal8Bit() + '\n';
-    std::fputs(line.constData(), stderr);
+    if (captured != nullptr)
+        captured->errors += line;
+    else
+        printErrors(line);
 }
 
 void printFileError(const QString &file, const QString &message)

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include <QByteArray>
 #include <QCommandLineParser>
@@ -24,10 +25,35 @@ void printError(const QString &message);
 /// The same, with the file that the message is about.
 void printFileError(const QString &file, const QString &message);
 
+/// What was printed, to be printed again.
+struct Printed
+{
+    QByteArray out;
+    QByteArray errors;
+};
+void printAgain(const Printed &printed);
+
+/// While it lives, what its thread prints is kept instead.
+class Capture
+{
+public:
+    Capture();
+    ~Capture();
+    Capture(const Capture &) = delete;
+    Capture &operator=(const Capture &) = delete;
+
+    [[nodiscard]] Printed take() { return std::exchange(m_printed, {}); }
+
+private:
+    Printed m_printed;
+};
+
 /// The command line of one command: its options, its help and its file.
 class CommandLine
 {
 public:
+    static constexpr qsizetype AnyNumber = 1000000;
+
     /// @p arguments begin with the command's name.
     CommandLine(const QStringList &arguments, const QString &description);
 

@@ -38,7 +38,7 @@ void reportMemory(std::unique_ptr<Session> &session)
 QString DisplayedSession::mapPath() const
 {
     const Map *map = session ? session->map() : nullptr;
-    return map != nullptr ? mapsFolder + map->name() : QString();
+    return map != nullptr ? maps.folder + map->name() : QString();
 }
 
 QString placeText(const QGeoCoordinate &place)
@@ -90,17 +90,29 @@ void addMapOptions(CommandLine &line)
                                  "is no such map, it is detected."));
 }
 
+Maps mapsOf(const CommandLine &line)
+{
+    auto library = std::make_shared<MapLibrary>();
+    const QString folder = mapsFolder(line);
+    library->loadMaps(folder);
+    return {folder, std::move(library)};
+}
+
 DisplayedSession displayReported(const QString &path, const CommandLine &line)
 {
+    return displayReported(path, line, mapsOf(line));
+}
+
+DisplayedSession displayReported(const QString &path, const CommandLine &line, const Maps &maps)
+{
     DisplayedSession displayed;
+    displayed.maps = maps;
     displayed.session = openReported(path);
     if (!displayed.session)
         return displayed;
     displayed.session->smooth();
-    displayed.mapsFolder = mapsFolder(line);
-    displayed.maps.loadMaps(displayed.mapsFolder);
     const QString name = line.value(QStringLiteral("map"));
-    const MapCandidates candidates = candidatesOf(*displayed.session, displayed.maps, name);
+    const MapCandidates candidates = candidatesOf(*displayed.session, *maps.library, name);
     if (!candidates.isStored && !name.isEmpty())
         printError(QStringLiteral("there is no map \"%1\"; the map is detected").arg(name));
     chooseMapByLength(*displayed.session, candidates.maps);

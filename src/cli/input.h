@@ -17,11 +17,18 @@ class CommandLine;
 /// The same, with its samples, which the memory may have no room for.
 [[nodiscard]] std::unique_ptr<Session> readReported(const QString &path);
 
+/// The maps that the options name. Loaded once, and only looked at: threads may share them.
+struct Maps
+{
+    QString folder;
+    std::shared_ptr<const MapLibrary> library;
+};
+[[nodiscard]] Maps mapsOf(const CommandLine &line);
+
 /// A session as the program displays it: smoothed, given its map, cut into laps.
 struct DisplayedSession
 {
-    MapLibrary maps;
-    QString mapsFolder;
+    Maps maps;
     std::unique_ptr<Session> session;
 
     /// The file of the session's map; empty without one.
@@ -41,6 +48,8 @@ void addMapOptions(CommandLine &line);
 /// Opens the file and does what displaying it does, with the maps that the options name. Without
 /// a session the reason has been reported.
 [[nodiscard]] DisplayedSession displayReported(const QString &path, const CommandLine &line);
+[[nodiscard]] DisplayedSession displayReported(const QString &path, const CommandLine &line,
+                                               const Maps &maps);
 
 /// The lap with that number; nullptr, and reported, when the session has none.
 [[nodiscard]] const Lap *lapReported(const Session &session, int number);

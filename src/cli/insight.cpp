@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <base/jsonwriter.h>
+#include <cli/batch.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/cornersjson.h>
@@ -61,10 +62,10 @@ struct Told
     SessionInsight insight;
 };
 
-std::optional<Told> tellReported(const QString &path, const CommandLine &line)
+std::optional<Told> tellReported(const QString &path, const CommandLine &line, const Maps &maps)
 {
     Told told;
-    told.displayed = displayReported(path, line);
+    told.displayed = displayReported(path, line, maps);
     if (!told.displayed.session)
         return {};
     const Session &session = *told.displayed.session;
@@ -107,7 +108,7 @@ std::optional<LapComparison> comparisonReported(const Told &told, const Wish &wi
         return {};
     std::optional<Told> other;
     if (!wish.otherFile.isEmpty()) {
-        other = tellReported(wish.otherFile, line);
+        other = tellReported(wish.otherFile, line, told.displayed.maps);
         if (!other)
             return {};
     }
@@ -122,6 +123,31 @@ std::optional<LapComparison> comparisonReported(const Told &told, const Wish &wi
     return comparison;
 }
 
+int tell(const CommandLine &line, const Batch &batch, qsizetype place, const Wish &wish,
+         const Maps &maps)
+{
+    const QString &file = batch.files[place];
+    const std::optional<Told> told = tellReported(file, line, maps);
+    if (!told)
+        return FileFailed;
+    std::optional<LapComparison> comparison;
+    if (wish.comparesLaps()) {
+        comparison = comparisonReported(*told, wish, line);
+        if (!comparison)
+            return FileFailed;
+    }
+    const Map *map = told->displayed.session->map();
+    const QString name = map != nullptr ? map->name() : QString();
+    const bool isJson = line.isSet(QStringLiteral("json"));
+    const QByteArray text = isJson ? insightJson(name, told->insight, comparison)
+                                   : insightText(name, told->insight, comparison);
+    if (batch.isOfMany)
+        printOut(isJson ? jsonOfOne(file, text) : textOfOne(file, text));
+    else
+        printOut(text);
+    return Success;
+}
+
 } // namespace
 
 int insight(const QStringList &arguments)
@@ -130,33 +156,24 @@ int insight(const QStringList &arguments)
         arguments,
         QStringLiteral("Tells where the time of a session is: the corners of its "
                        "circuit, which laps count, and what the usual lap loses where."));
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("A session file (.ra1)."));
+    addBatchOptions(line);
     addMapOptions(line);
     line.addValue({QStringLiteral("lap")}, QStringLiteral("N"),
                   QStringLiteral("Compares lap N (default: the best one)."));
     line.addValue({QStringLiteral("against")}, QStringLiteral("M"),
                   QStringLiteral("Compares against lap M of the session, or with OTHER.ra1:M of "
                                  "another one on the same circuit (default: the best lap)."));
-    line.addFlag(QStringLiteral("json"), QStringLiteral("Writes JSON instead of tables."));
-    if (const auto status = line.parse(1, 1))
+    line.addFlag(QStringLiteral("json"),
+                 QStringLiteral("Writes JSON instead of tables; of several files a line each."));
+    if (const auto status = line.parse(1, CommandLine::AnyNumber))
         return *status;
     const std::optional<Wish> wish = wishOf(line);
-    if (!wish)
+    const std::optional<Batch> batch = batchReported(line);
+    if (!wish || !batch)
         return WrongUse;
-    const std::optional<Told> told = tellReported(line.argument(0), line);
-    if (!told)
-        return FileFailed;
-    std::optional<LapComparison> comparison;
-    if (wish->comparesLaps()) {
-        comparison = comparisonReported(*told, *wish, line);
-        if (!comparison)
-            return FileFailed;
-    }
-    const Map *map = told->displayed.session->map();
-    const QString name = map != nullptr ? map->name() : QString();
-    printOut(line.isSet(QStringLiteral("json")) ? insightJson(name, told->insight, comparison)
-                                                : insightText(name, told->insight, comparison));
-    return Success;
+    const Maps maps = mapsOf(line);
+    return forEachFile(*batch,
+                       [&](qsizetype place) { return tell(line, *batch, place, *wish, maps); });
 }
 
 } // namespace zuno::cli

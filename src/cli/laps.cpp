@@ -3,6 +3,7 @@
 
 #include <base/jsonwriter.h>
 #include <base/laptimes.h>
+#include <cli/batch.h>
 #include <cli/commands.h>
 #include <cli/console.h>
 #include <cli/input.h>
@@ -174,33 +175,47 @@ bool invalidate(Session &session, const QList<int> &numbers)
     return true;
 }
 
+int write(const CommandLine &line, const Batch &batch, qsizetype place, const Maps &maps,
+          const QList<int> &thrownOut)
+{
+    const QString &file = batch.files[place];
+    const DisplayedSession displayed = displayReported(file, line, maps);
+    if (!displayed.session || !invalidate(*displayed.session, thrownOut))
+        return FileFailed;
+    const Session &session = *displayed.session;
+    if (line.isSet(QStringLiteral("json"))) {
+        const QByteArray json = asJson(session);
+        printOut(batch.isOfMany ? jsonOfOne(file, json) : json);
+        return Success;
+    }
+    QByteArray text = asSummary(session);
+    if (!session.laps().empty())
+        text += '\n' + asTable(session);
+    printOut(batch.isOfMany ? textOfOne(file, text) : text);
+    return Success;
+}
+
 } // namespace
 
 int laps(const QStringList &arguments)
 {
-    CommandLine line(arguments, QStringLiteral("Cuts a session into laps, as displaying it does."));
-    line.addArgument(QStringLiteral("FILE"), QStringLiteral("A session file (.ra1)."));
+    CommandLine line(arguments,
+                     QStringLiteral("Cuts sessions into laps, as displaying them does."));
+    addBatchOptions(line);
     addMapOptions(line);
     line.addValue({QStringLiteral("invalidate")}, QStringLiteral("N"),
                   QStringLiteral("Throws lap N out; the file is not changed. Can be repeated."));
-    line.addFlag(QStringLiteral("json"), QStringLiteral("Writes JSON instead of a table."));
-    if (const auto status = line.parse(1, 1))
+    line.addFlag(QStringLiteral("json"),
+                 QStringLiteral("Writes JSON instead of a table; of several files a line each."));
+    if (const auto status = line.parse(1, CommandLine::AnyNumber))
         return *status;
     const auto thrownOut = line.numbers(QStringLiteral("invalidate"));
-    if (!thrownOut)
+    const std::optional<Batch> batch = batchReported(line);
+    if (!thrownOut || !batch)
         return WrongUse;
-    const DisplayedSession displayed = displayReported(line.argument(0), line);
-    if (!displayed.session || !invalidate(*displayed.session, *thrownOut))
-        return FileFailed;
-    const Session &session = *displayed.session;
-    if (line.isSet(QStringLiteral("json"))) {
-        printOut(asJson(session));
-        return Success;
-    }
-    printOut(asSummary(session));
-    if (!session.laps().empty())
-        printOut('\n' + asTable(session));
-    return Success;
+    const Maps maps = mapsOf(line);
+    return forEachFile(
+        *batch, [&](qsizetype place) { return write(line, *batch, place, maps, *thrownOut); });
 }
 
 } // namespace zuno::cli
