@@ -65,7 +65,10 @@ struct Paddock
         (void)window->open();
         window->select(home.path(AtValmora));
         charts = window->main.findChild<LapCharts *>();
-        page = qobject_cast<MapWebPage *>(window->main.findChild<QWebEngineView *>()->page());
+        // It is made when the window has been painted.
+        const auto view = [this] { return window->main.findChild<QWebEngineView *>(); };
+        if (QTest::qWaitFor([&view] { return view() != nullptr; }))
+            page = qobject_cast<MapWebPage *>(view()->page());
     }
     [[nodiscard]] QTableView &table() const { return window->part<QTableView>("tw_tours"); }
     [[nodiscard]] ChartState &state() const { return charts->state(); }

@@ -5,9 +5,15 @@
 
 #include "ui_mappane.h"
 
+#include <utility>
+
 #include <QAction>
+#include <QGuiApplication>
 #include <QLocale>
+#include <QOpenGLContext>
+#include <QOpenGLWidget>
 #include <QResizeEvent>
+#include <QTimer>
 
 #include <base/numbers.h>
 #include <maps/page/lineswitch.h>
@@ -18,6 +24,19 @@
 
 namespace zuno {
 
+namespace {
+
+// Elsewhere the engine draws in another way, and a window for OpenGL would crash where there is
+// none.
+bool hasOpenGl()
+{
+    const QString platform = QGuiApplication::platformName();
+    QOpenGLContext context;
+    return (platform == u"xcb" || platform.startsWith(u"wayland")) && context.create();
+}
+
+} // namespace
+
 MapPane::MapPane(QWidget *parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Ui::MapPane>())
@@ -27,7 +46,13 @@ MapPane::MapPane(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->mapHeadLayout->addWidget(m_line);
     makeKeys();
-    m_view->init(this, m_ui->webview_layout);
+    m_ui->webview_layout->addStrut(MapViewController::MinimumWidth);
+    // Never shown. Without it the window would be taken off the screen and made anew when the view
+    // comes, since the engine draws into a surface of another kind.
+    if (hasOpenGl())
+        (new QOpenGLWidget(this))->hide();
+    else
+        m_view->init(this, m_ui->webview_layout);
     m_ui->lb_errorMap->setText(
         tr("No map found, please try to select one from the Map configuraton panel"));
     connect(m_ui->pb_newMapHere, &QPushButton::clicked, this, &MapPane::newMapRequested);
@@ -62,6 +87,15 @@ void MapPane::arrangeHead()
             room -= part->sizeHint().width();
     }
     m_line->fitInto(room);
+}
+
+void MapPane::paintEvent(QPaintEvent *event)
+{
+    QWidget::paintEvent(event);
+    if (std::exchange(m_isPainted, true))
+        return;
+    // When all of the window is painted.
+    QTimer::singleShot(0, m_view, [this] { m_view->init(this, m_ui->webview_layout); });
 }
 
 void MapPane::showSession(const Session *session)

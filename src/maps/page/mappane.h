@@ -17,7 +17,9 @@ namespace Ui {
 class MapPane;
 }
 
-/// The map view of the main window, below what is said about the displayed session's map.
+/// The map view of the main window, below what is said about the displayed session's map. The view
+/// itself is made once the window stands on the screen: its engine takes as long to start as all
+/// the rest, and until then its place is kept free.
 class MapPane final : public QWidget
 {
     Q_OBJECT
@@ -38,6 +40,7 @@ Q_SIGNALS:
     void newMapRequested();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -47,6 +50,7 @@ private:
     std::unique_ptr<Ui::MapPane> m_ui;
     MapViewController *m_view;
     LineSwitch *m_line;
+    bool m_isPainted = false;
 };
 
 } // namespace zuno

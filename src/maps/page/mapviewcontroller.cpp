@@ -30,7 +30,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(category, "zuno.mapview")
 
-constexpr int MinimumWidth = 500;
 // A page that dies again and again is left alone.
 constexpr int MostRestarts = 3;
 // A page that has lived so long has not died of being loaded again; milliseconds.

@@ -41,6 +41,9 @@ class MapViewController final : public QObject
 public:
     using QObject::QObject;
 
+    /// Of the view, in pixels.
+    static constexpr int MinimumWidth = 500;
+
     /// Creates the view in @p layout of @p window, be it the main window or a dialog, and loads the
     /// page; the first call only.
     void init(QWidget *window, QLayout *layout);
