@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 #
 # Installs what is missing, builds, and runs every test. Needs no display.
-#   ./test.sh [--preset dev|ci|asan|release] [-- arguments for ctest]
+#   ./test.sh [--preset dev|ci|asan|tsan|release] [-- arguments for ctest]
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 [[ ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]] || export LC_ALL=C.UTF-8
@@ -26,7 +26,7 @@ while (($#)); do
     esac
 done
 
-if [[ $preset == asan ]]; then
+if [[ $preset == asan || $preset == tsan ]]; then
     scripts/install-dependencies.sh --core
 else
     scripts/install-dependencies.sh --gui

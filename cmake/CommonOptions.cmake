@@ -28,7 +28,7 @@ endif()
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-if(NOT MSVC AND NOT SANITIZE)
+if(NOT MSVC AND NOT SANITIZE AND NOT SANITIZE_THREADS)
   target_compile_options(zuno_common INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong
     -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
   if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
@@ -42,6 +42,11 @@ if(SANITIZE)
     -fsanitize=address,undefined,float-cast-overflow
     -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(zuno_common INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(SANITIZE_THREADS)
+  target_compile_options(zuno_common INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+  target_link_options(zuno_common INTERFACE -fsanitize=thread)
 endif()
 
 if(FUZZ)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZUNO Analyzer developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include <algorithm>
 #include <cstdio>
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -106,8 +108,8 @@ private Q_SLOTS:
             putFile(home.path(u"%1.ra1"_s.arg(i)), "hello");
         {
             const Window window;
+            QTRY_VERIFY(home.settings.isOn(Setting::V1400));
         }
-        QVERIFY(home.settings.isOn(Setting::V1400));
         for (const QString &name : names) {
             const auto session = openSession(home.path(name)).session;
             QVERIFY2(!session->bestLapText().isEmpty(), qPrintable(name));
@@ -119,6 +121,43 @@ private Q_SLOTS:
         const Window window;
         for (const QString &name : names)
             QVERIFY2(isOld(home.path(name)), qPrintable(name));
+    }
+
+    // What the rider stops is done; what ends with the program goes on the next time.
+    void endedUpgrade()
+    {
+        QStringList names;
+        for (int i = 0; i < 40; ++i)
+            names << u"%1 %2"_s.arg(i).arg(NeverOpened);
+        const Home home({NeverOpened}, {u"Karoosberg.map"_s});
+        for (const QString &name : names) {
+            putFile(home.path(name), contents(home.path(NeverOpened)));
+            makeOld(home.path(name));
+        }
+        const auto viewed = [&] {
+            return std::count_if(names.begin(), names.end(), [&](const QString &name) {
+                return openSession(home.path(name)).session->newSession() == 0;
+            });
+        };
+        {
+            const Window window;
+            QTRY_VERIFY(viewed() > 0);
+        }
+        QVERIFY(!home.settings.isOn(Setting::V1400));
+        QVERIFY(viewed() < names.size());
+        {
+            const Window window;
+            QTRY_VERIFY(home.settings.isOn(Setting::V1400));
+            QTRY_VERIFY(window.main.findChild<QPushButton *>(u"pb_stopPass"_s) == nullptr);
+        }
+        QCOMPARE(viewed(), names.size());
+        for (const QString &name : names)
+            putFile(home.path(name), demoFile(NeverOpened));
+        home.settings.setValue(Setting::V1400, false);
+        const Window window;
+        window.part<QPushButton>("pb_stopPass").click();
+        QTRY_VERIFY(home.settings.isOn(Setting::V1400));
+        QVERIFY(viewed() < names.size());
     }
 
     // What the demo says of the session was computed as it was made up, not by this program.

@@ -32,10 +32,10 @@
 #include <library/libraryfolder.h>
 #include <library/librarypane.h>
 #include <library/librarytree.h>
+#include <library/passprogress.h>
 #include <library/recordingimport.h>
 #include <library/sessionimport.h>
 #include <library/unsavedchanges.h>
-#include <library/upgradepass.h>
 #include <maps/detection/mapdetection.h>
 #include <maps/dialog/mapswidget.h>
 #include <maps/editor/mapmaker.h>
@@ -70,6 +70,7 @@ ZunoAnalyzer::ZunoAnalyzer(const QString &language, QWidget *parent)
     , m_settings(Settings::defaultRoot())
     , m_languagesFolder(QCoreApplication::applicationDirPath() + u"/languages/")
     , m_display({m_library, m_maps.library(), m_settings, m_writer})
+    , m_upgrade({m_library, m_settings})
 {
     // Before anything that has a text or shows a number.
     loadLanguage(language.isNull() ? m_settings.value(Setting::Language).toString() : language);
@@ -176,6 +177,7 @@ void ZunoAnalyzer::connectParts()
     connect(tree, &LibraryTree::idealTimeRequested, this, &ZunoAnalyzer::openIdealTime);
     connect(tree, &LibraryTree::folderChanged, this, &ZunoAnalyzer::onFolderChanged);
     connect(&m_library, &AcquisitionLibrary::noticed, this, &ZunoAnalyzer::tell);
+    connect(&m_library, &AcquisitionLibrary::loadingAdvanced, this, &ZunoAnalyzer::showLoading);
     connect(tree, &LibraryTree::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::failed, this, &ZunoAnalyzer::tell);
     connect(&m_writer, &InformationWriter::joined, this,
@@ -192,6 +194,7 @@ void ZunoAnalyzer::connectParts()
     connect(&m_display, &SessionDisplay::cleared, this, &ZunoAnalyzer::showNothing);
     connect(&m_display, &SessionDisplay::viewedStateChanged, tree,
             &LibraryTree::updateViewedStates);
+    connect(&m_upgrade, &UpgradePass::finished, tree, &LibraryTree::updateViewedStates);
     connect(&m_display, &SessionDisplay::notASession, this, [this](const QString &path) {
         const QString text = openSession(path).error == SessionFileError::TooLarge
                                  ? tr("\"%1\" is too large to be shown: a session has 1 GB and 20 "
@@ -296,23 +299,14 @@ void ZunoAnalyzer::onFolderChanged()
 void ZunoAnalyzer::loadAcquisitionsFolder(const QString &folder)
 {
     m_writer.setLibrary(LibraryFolder(folder, m_settings));
-    m_library.load(folder);
+    m_library.loadSoon(folder, m_settings.value(Setting::LastFileSelected).toString());
     m_files->tree().setFolder(folder);
     if (!m_files->tree().isShown()) {
         showNothing();
         return;
     }
-    UpgradePass upgrade({m_library, m_files->tree(), m_display, m_writer, m_settings});
-    // The tree lists files that were selected before their folder was loaded in the order of their
-    // selection, so it starts anew.
-    m_isUpgrading = true;
-    const bool hasRun = upgrade.runOnce();
-    m_isUpgrading = false;
-    if (hasRun) {
-        m_files->tree().setFolder(folder);
-        if (m_display.session() != nullptr)
-            showSession(m_display.session());
-    }
+    if (m_upgrade.start(LibraryFolder(folder, m_settings)) && m_upgrade.isRunning())
+        statusBar()->addPermanentWidget(new PassProgress(m_upgrade, m_library.size()));
     if (m_display.session() == nullptr)
         showNothing();
 }
@@ -438,8 +432,18 @@ void ZunoAnalyzer::importSession()
         m_import->start(files);
 }
 
+void ZunoAnalyzer::showLoading(qsizetype read, qsizetype all)
+{
+    if (read == all)
+        statusBar()->clearMessage();
+    else
+        statusBar()->showMessage(tr("Reading your library: %1 of %2 recordings")
+                                     .arg(QLocale().toString(read), QLocale().toString(all)));
+}
+
 void ZunoAnalyzer::openFile(const QString &path)
 {
+    m_library.finishLoading();
     const QString clean = QFileInfo(path).absoluteFilePath();
     if (m_library.find(clean) != nullptr) {
         m_files->tree().select(clean);
@@ -596,9 +600,6 @@ void ZunoAnalyzer::closeEvent(QCloseEvent *event)
 
 void ZunoAnalyzer::showSession(Session *session)
 {
-    // The pass displays every session; the last one is shown when it is over.
-    if (m_isUpgrading)
-        return;
     showEmptyPage(false);
     m_map->view().centerMap(session->map());
     m_selection.setSession(session);

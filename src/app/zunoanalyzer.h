@@ -14,6 +14,7 @@
 #include <library/informationwriter.h>
 #include <library/mapfolder.h>
 #include <library/sessiondisplay.h>
+#include <library/upgradepass.h>
 #include <views/laps/lapselection.h>
 
 namespace zuno {
@@ -45,7 +46,7 @@ public:
     explicit ZunoAnalyzer(const QString &language = {}, QWidget *parent = nullptr);
     ~ZunoAnalyzer() override;
 
-    /// Loads every session of @p folder, shows the file tree, and runs the upgrade pass once.
+    /// Loads every session of @p folder, shows the file tree, and starts the upgrade pass once.
     void loadAcquisitionsFolder(const QString &folder);
     /// Loads the interface's texts and the number format of @p language, a locale's name.
     void loadLanguage(const QString &language);
@@ -112,6 +113,7 @@ private:
     void showSession(Session *session);
     void showState(const QString &text);
     void showNothing();
+    void showLoading(qsizetype read, qsizetype all);
     void showLapOnMap();
     [[nodiscard]] QString emptyState() const;
     void onFileChanged(const QString &path);
@@ -129,6 +131,7 @@ private:
     InformationWriter m_writer;
     LapSelection m_selection;
     SessionDisplay m_display;
+    UpgradePass m_upgrade;
     LapsPane *m_laps = nullptr;
     EmptyPage *m_empty = nullptr;
     /// What stands in the first tab once there are sessions.
@@ -141,7 +144,6 @@ private:
     SessionInfos *m_infos = nullptr;
     SessionsStats *m_statistics = nullptr;
     SessionImport *m_import = nullptr;
-    bool m_isUpgrading = false;
     WindowLayout *m_layout = nullptr;
 };
 

@@ -8,11 +8,22 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QElapsedTimer>
 
 #include <library/libraryfolder.h>
 #include <session/sessionfile.h>
 
 namespace zuno {
+
+namespace {
+
+// So many files are read at once, which takes some 20 ms; then the rider may look at them while
+// the others are read, in slices of so many milliseconds.
+constexpr qsizetype ReadAtOnce = 1000;
+constexpr qsizetype ReadBetweenLooks = 20;
+constexpr qint64 Slice = 8;
+
+} // namespace
 
 AcquisitionLibrary::Said::Said(const Session &session)
     : path(session.filePath())
@@ -42,31 +53,105 @@ void AcquisitionLibrary::Said::putInto(Session &session) const
     session.setUnsaved(isUnsaved);
 }
 
-AcquisitionLibrary::AcquisitionLibrary(QObject *parent) : QObject(parent) {}
+AcquisitionLibrary::AcquisitionLibrary(QObject *parent) : QObject(parent)
+{
+    connect(&m_readOn, &QTimer::timeout, this, &AcquisitionLibrary::readOn);
+}
 
 AcquisitionLibrary::~AcquisitionLibrary() = default;
 
 void AcquisitionLibrary::load(const QString &folder)
 {
+    listBelow(folder);
+    finishLoading();
+}
+
+void AcquisitionLibrary::loadSoon(const QString &folder, const QString &first)
+{
+    listBelow(folder);
+    if (m_toRead.size() > ReadAtOnce) {
+        m_order = m_toRead;
+        putFirst(first);
+    }
+    readSome(ReadAtOnce);
+    tell();
+    if (isLoading())
+        m_readOn.start(0);
+}
+
+void AcquisitionLibrary::listBelow(const QString &folder)
+{
+    m_readOn.stop();
+    m_order.clear();
+    m_toRead.clear();
     const LibraryFolder root(folder);
     if (root.isReady()) {
         while (makeNamesReadable(root)) {}
-        loadBelow(root);
+        const QStringList folders = root.foldersFrom(root.path());
+        for (const QString &below : folders) {
+            const QStringList names = QDir(below).entryList(QDir::Files, QDir::Name);
+            for (const QString &name : names) {
+                if (name.endsWith(Suffix))
+                    m_toRead.append(below + u'/' + name);
+            }
+        }
     }
+}
+
+// What the rider saw last is there before the rest is read.
+void AcquisitionLibrary::putFirst(const QString &file)
+{
+    const QString folder = QFileInfo(file).path() + u'/';
+    std::stable_partition(m_toRead.begin(), m_toRead.end(), [&folder](const QString &path) {
+        return path.startsWith(folder) && path.indexOf(u'/', folder.size()) < 0;
+    });
+    if (const qsizetype at = m_toRead.indexOf(file); at > 0)
+        m_toRead.move(at, 0);
+}
+
+void AcquisitionLibrary::readSome(qsizetype count)
+{
+    count = std::min(count, m_toRead.size());
+    for (qsizetype i = 0; i < count; ++i) {
+        // It may have been taken in, or be gone, since the folder was listed.
+        if (find(m_toRead[i]) == nullptr && QFileInfo::exists(m_toRead[i]))
+            append(m_toRead[i], "loadAcquisitionsFolder");
+    }
+    m_toRead.remove(0, count);
+}
+
+void AcquisitionLibrary::readOn()
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (isLoading() && timer.elapsed() < Slice)
+        readSome(ReadBetweenLooks);
+    Q_EMIT loadingAdvanced(m_order.size() - m_toRead.size(), m_order.size());
+    if (!isLoading())
+        finishLoading();
+}
+
+void AcquisitionLibrary::finishLoading()
+{
+    readSome(m_toRead.size());
+    m_readOn.stop();
+    if (!m_order.isEmpty())
+        restoreOrder();
+    m_order.clear();
     tell();
 }
 
-void AcquisitionLibrary::loadBelow(const LibraryFolder &root)
+// Of a large library another folder came first; what came in meanwhile stays at the end.
+void AcquisitionLibrary::restoreOrder()
 {
-    const QStringList folders = root.foldersFrom(root.path());
-    for (const QString &folder : folders) {
-        const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
-        for (const QString &name : names) {
-            const QString path = folder + u'/' + name;
-            if (name.endsWith(Suffix) && indexOf(path) < 0)
-                append(path, "loadAcquisitionsFolder");
-        }
-    }
+    QHash<QString, qsizetype> places;
+    places.reserve(m_order.size());
+    for (const QString &path : std::as_const(m_order))
+        places.insert(path, places.size());
+    std::stable_sort(m_sessions.begin(), m_sessions.end(), [&](const auto &a, const auto &b) {
+        return places.value(a->filePath(), places.size())
+               < places.value(b->filePath(), places.size());
+    });
 }
 
 // True when there may be more: nobody has looked into the folders that were renamed.
@@ -105,7 +190,8 @@ Session *AcquisitionLibrary::append(const QString &path, const char *caller)
         return nullptr;
     }
     m_sessions.push_back(std::move(opened.session));
-    m_stamps.insert(m_sessions.back().get(), stamp);
+    m_known.insert(m_sessions.back().get(), {stamp, file});
+    m_paths.insert(path, m_sessions.back().get());
     m_files.insert(file, m_sessions.back().get());
     const auto kept = std::find_if(m_kept.begin(), m_kept.end(),
                                    [&path](const Said &said) { return said.path == path; });
@@ -118,7 +204,8 @@ Session *AcquisitionLibrary::append(const QString &path, const char *caller)
 
 void AcquisitionLibrary::noteWritten(const Session &session)
 {
-    m_stamps.insert(&session, FileStamp::of(QFileInfo(session.filePath())));
+    if (const auto known = m_known.find(&session); known != m_known.end())
+        known->stamp = FileStamp::of(QFileInfo(session.filePath()));
 }
 
 bool AcquisitionLibrary::refresh(const QString &path)
@@ -139,7 +226,7 @@ bool AcquisitionLibrary::refresh(const QString &path)
 
 bool AcquisitionLibrary::hasChanged(const Session *session, const QFileInfo &file) const
 {
-    return m_stamps.value(session) != FileStamp::of(file);
+    return m_known.value(session).stamp != FileStamp::of(file);
 }
 
 void AcquisitionLibrary::bundle(const std::function<void()> &work)
@@ -175,10 +262,15 @@ void AcquisitionLibrary::remove(Session *session)
         return;
     Q_EMIT sessionAboutToBeRemoved(session);
     keep(*session);
-    m_stamps.remove(session);
-    m_files.removeIf([session](const auto &file) { return file.value() == session; });
+    forget(session);
     m_sessions.erase(m_sessions.begin() + index);
     tell();
+}
+
+void AcquisitionLibrary::forget(const Session *session)
+{
+    m_paths.remove(session->filePath());
+    m_files.remove(m_known.take(session).file);
 }
 
 void AcquisitionLibrary::keep(const Session &session)
@@ -211,6 +303,10 @@ void AcquisitionLibrary::forgetUnsaved(const QString &path)
 void AcquisitionLibrary::removeAt(const QString &path)
 {
     bundle([this, &path] {
+        if (Session *one = find(path)) {
+            remove(one);
+            return;
+        }
         const QList<Session *> all = sessions();
         for (Session *session : all) {
             if (isAtOrBelow(session->filePath(), path))
@@ -225,9 +321,19 @@ void AcquisitionLibrary::movePath(const QString &from, const QString &to)
         const QString path = session->filePath();
         if (!isAtOrBelow(path, from))
             continue;
+        const FileStamp stamp = m_known.value(session.get()).stamp;
+        forget(session.get());
         session->setFilePath(to + path.mid(from.size()));
-        m_files.removeIf([&session](const auto &file) { return file.value() == session.get(); });
-        m_files.insert(QFileInfo(session->filePath()).canonicalFilePath(), session.get());
+        const QString file = QFileInfo(session->filePath()).canonicalFilePath();
+        m_known.insert(session.get(), {stamp, file});
+        m_paths.insert(session->filePath(), session.get());
+        m_files.insert(file, session.get());
+    }
+    for (QStringList *paths : {&m_order, &m_toRead}) {
+        for (QString &path : *paths) {
+            if (isAtOrBelow(path, from))
+                path = to + path.mid(from.size());
+        }
     }
     tell();
 }
@@ -241,7 +347,8 @@ void AcquisitionLibrary::reload(const QString &folder)
         keep(*session);
     }
     m_sessions.clear();
-    m_stamps.clear();
+    m_known.clear();
+    m_paths.clear();
     m_files.clear();
     load(folder);
     for (const Said &one : said) {
@@ -266,9 +373,8 @@ Session *AcquisitionLibrary::at(qsizetype index) const
 
 qsizetype AcquisitionLibrary::indexOf(const QString &path) const
 {
-    const auto found = std::find_if(m_sessions.begin(), m_sessions.end(),
-                                    [&path](const auto &s) { return s->filePath() == path; });
-    return found == m_sessions.end() ? -1 : found - m_sessions.begin();
+    const Session *session = find(path);
+    return session != nullptr ? indexOf(session) : -1;
 }
 
 qsizetype AcquisitionLibrary::indexOf(const Session *session) const

@@ -13,6 +13,8 @@
 #include <QMap>
 #include <QObject>
 #include <QString>
+#include <QStringList>
+#include <QTimer>
 
 #include <base/filestamp.h>
 #include <session/session.h>
@@ -38,6 +40,14 @@ public:
     /// Loads every session file below @p folder that is not loaded yet. Nothing is loaded from a
     /// folder that no library can be in.
     void load(const QString &folder);
+    /// The same, but of a large library only the folder of the file @p first, and then some, at
+    /// once: the rest is read in the background, a few milliseconds at a time. The order of the
+    /// sessions is the same in the end.
+    void loadSoon(const QString &folder, const QString &first);
+    /// Whether there are files that nobody has looked into yet.
+    [[nodiscard]] bool isLoading() const { return !m_toRead.isEmpty(); }
+    /// Reads what is left of them.
+    void finishLoading();
     /// Loads one file and appends its session; nullptr, and a message in the log that begins with
     /// @p caller, when it gives none. A file that is loaded already, be it by another path, gives
     /// its session.
@@ -70,7 +80,8 @@ public:
     /// The position of the first session with that file path; -1 without one.
     [[nodiscard]] qsizetype indexOf(const QString &path) const;
     [[nodiscard]] qsizetype indexOf(const Session *session) const;
-    [[nodiscard]] Session *find(const QString &path) const { return at(indexOf(path)); }
+    /// The session with that file path, in constant time; nullptr without one.
+    [[nodiscard]] Session *find(const QString &path) const { return m_paths.value(path); }
 
     /// What the rider has said about a session and its file has not got; @p session is nullptr when
     /// the file is gone.
@@ -93,6 +104,8 @@ Q_SIGNALS:
     void sessionAboutToBeRemoved(zuno::Session *session);
     /// Sessions came or went.
     void sessionsChanged();
+    /// So many files of a large library are read; both are equal at the end.
+    void loadingAdvanced(qsizetype read, qsizetype all);
     /// A message for the rider.
     void noticed(const QString &message);
 
@@ -110,16 +123,34 @@ private:
         bool isUnsaved = false;
     };
 
-    void loadBelow(const LibraryFolder &root);
+    // What is known of a session's file.
+    struct Known
+    {
+        FileStamp stamp;
+        /// Where it stands without links.
+        QString file;
+    };
+
+    void listBelow(const QString &folder);
+    void putFirst(const QString &file);
+    void readSome(qsizetype most);
+    void readOn();
+    void restoreOrder();
+    void forget(const Session *session);
     bool makeNamesReadable(const LibraryFolder &root);
     Session *append(const QString &path, const char *caller);
     void keep(const Session &session);
     void tell();
 
     std::vector<std::unique_ptr<Session>> m_sessions;
-    QHash<const Session *, FileStamp> m_stamps;
-    /// The sessions by where their files stand without links.
+    QHash<const Session *, Known> m_known;
+    /// The sessions by their paths, and by where their files stand without links.
+    QHash<QString, Session *> m_paths;
     QHash<QString, Session *> m_files;
+    // The files that are being read, in their order in the library, and those still to be read.
+    QStringList m_order;
+    QStringList m_toRead;
+    QTimer m_readOn;
     // Of sessions whose files are gone: unsaved, until they come back.
     std::vector<Said> m_kept;
     int m_bundles = 0;

@@ -3,7 +3,6 @@
 
 #include <library/foldersync.h>
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -18,12 +17,11 @@ namespace {
 constexpr std::chrono::milliseconds Soon {100};
 constexpr std::chrono::milliseconds Again {1000};
 
-bool hasBelow(const QHash<QString, const Session *> &known, const QString &folder)
+bool hasBelow(const QMap<QString, const Session *> &known, const QString &folder)
 {
-    const auto paths = known.keyBegin();
-    return std::any_of(
-        paths, known.keyEnd(),
-        [prefix = QString(folder + u'/')](const QString &path) { return path.startsWith(prefix); });
+    const QString prefix = folder + u'/';
+    const auto first = known.lowerBound(prefix);
+    return first != known.cend() && first.key().startsWith(prefix);
 }
 
 } // namespace
@@ -80,6 +78,11 @@ void FolderSync::lookBelow(const QString &folder)
 
 void FolderSync::lookAtAll()
 {
+    // What it has not read yet is not new.
+    if (m_library.isLoading()) {
+        m_soon.start(Soon);
+        return;
+    }
     m_library.bundle([this] {
         Sessions known;
         const QList<Session *> sessions = m_library.sessions();
@@ -162,10 +165,10 @@ void FolderSync::dropMissing(const QString &folder, const Sessions &known, const
 {
     const QString prefix = folder + u'/';
     QHash<QString, bool> isThere;
-    for (auto it = known.cbegin(); it != known.cend(); ++it) {
+    for (auto it = known.lowerBound(prefix); it != known.cend(); ++it) {
         const QString &path = it.key();
         if (!path.startsWith(prefix))
-            continue;
+            break;
         const qsizetype end = path.indexOf(u'/', prefix.size());
         const QString entry = path.left(end);
         if (!isThere.contains(entry))

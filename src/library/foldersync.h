@@ -6,6 +6,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QHash>
+#include <QMap>
 #include <QObject>
 #include <QSet>
 #include <QString>
@@ -56,7 +57,8 @@ private:
         friend bool operator==(const Stamp &, const Stamp &) = default;
     };
     using Contents = QHash<QString, Stamp>;
-    using Sessions = QHash<QString, const Session *>;
+    // In the order of the paths, so that those below a folder stand together.
+    using Sessions = QMap<QString, const Session *>;
 
     void lookBelow(const QString &folder);
     void lookAtAll();

@@ -3,6 +3,8 @@
 
 #include <library/sessiondisplay.h>
 
+#include <chrono>
+
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
@@ -16,6 +18,14 @@
 
 namespace zuno {
 
+namespace {
+
+// The settings are written to the disk for good, which takes as long as showing a session; so the
+// last one is noted once the rider stays with it.
+constexpr std::chrono::milliseconds RememberAfter {1000};
+
+} // namespace
+
 SessionDisplay::SessionDisplay(const Parts &parts, QObject *parent)
     : QObject(parent)
     , m_library(parts.library)
@@ -23,6 +33,8 @@ SessionDisplay::SessionDisplay(const Parts &parts, QObject *parent)
     , m_settings(parts.settings)
     , m_writer(parts.writer)
 {
+    m_remember.setSingleShot(true);
+    connect(&m_remember, &QTimer::timeout, this, &SessionDisplay::remember);
     connect(&m_library, &AcquisitionLibrary::sessionAboutToBeRemoved, this,
             &SessionDisplay::onAboutToBeRemoved);
     connect(&m_writer, &InformationWriter::written, &m_library, &AcquisitionLibrary::noteWritten);
@@ -31,6 +43,20 @@ SessionDisplay::SessionDisplay(const Parts &parts, QObject *parent)
         if (session == m_session)
             Q_EMIT mapApplied(session);
     });
+}
+
+SessionDisplay::~SessionDisplay()
+{
+    if (m_remember.isActive())
+        remember();
+}
+
+// By the path that it has by now: the rider may have renamed it.
+void SessionDisplay::remember()
+{
+    m_remember.stop();
+    if (m_session != nullptr)
+        m_settings.setValue(Setting::LastFileSelected, m_session->filePath());
 }
 
 qsizetype SessionDisplay::index() const
@@ -63,7 +89,7 @@ bool SessionDisplay::display(const QString &path)
     const bool isFirstDisplay = m_session->map() == nullptr;
     assignMap();
     release(before);
-    m_settings.setValue(Setting::LastFileSelected, clean);
+    m_remember.start(RememberAfter);
     Q_EMIT sessionDisplayed(m_session);
     if (m_session->newSession() != 0 && !m_session->lacksMemory()) {
         m_session->setNewSession(0);

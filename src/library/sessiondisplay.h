@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QTimer>
 
 #include <session/session.h>
 
@@ -45,6 +46,7 @@ public:
         InformationWriter &writer;
     };
     explicit SessionDisplay(const Parts &parts, QObject *parent = nullptr);
+    ~SessionDisplay() override;
 
     /// The displayed session; nullptr when there is none.
     [[nodiscard]] Session *session() const { return m_session; }
@@ -87,6 +89,7 @@ private:
     void storeChoice(MapMode mode);
     void onAboutToBeRemoved(Session *session);
     void release(Session *session);
+    void remember();
 
     AcquisitionLibrary &m_library;
     const MapLibrary &m_maps;
@@ -94,6 +97,7 @@ private:
     InformationWriter &m_writer;
     Session *m_session = nullptr;
     QPointer<Session> m_compared;
+    QTimer m_remember;
 };
 
 } // namespace zuno

@@ -4,102 +4,162 @@
 #include <library/upgradepass.h>
 
 #include <chrono>
+#include <utility>
 
-#include <QCoreApplication>
 #include <QDebug>
+#include <QDir>
 #include <QDirIterator>
-#include <QEventLoop>
 #include <QFileInfo>
-#include <QTimer>
+#include <QThread>
 
+#include <base/filestamp.h>
 #include <base/settings.h>
 #include <library/acquisitionlibrary.h>
-#include <library/informationwriter.h>
-#include <library/librarytree.h>
-#include <library/sessiondisplay.h>
-#include <widgets/downloadinprogress.h>
+#include <track/mapfile.h>
 
 namespace zuno {
 
 namespace {
 
+// What somebody is copying into the library must not be replaced.
 constexpr std::chrono::milliseconds Rest {2000};
+
+// For each thread, so that none waits for the next file.
+constexpr int Ahead = 2;
+
+std::shared_ptr<const MapLibrary> mapsOf(const Settings &settings)
+{
+    auto maps = std::make_shared<MapLibrary>();
+    maps->loadMaps(settings.mapsFolder());
+    return maps;
+}
 
 } // namespace
 
-UpgradePass::UpgradePass(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts) {}
-
-bool UpgradePass::runOnce()
+UpgradePass::UpgradePass(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts)
 {
-    if (m_parts.settings.isOn(Setting::V1400))
+    m_pool.setMaxThreadCount(QThread::idealThreadCount());
+    m_rest.setSingleShot(true);
+    connect(&m_rest, &QTimer::timeout, this, [this] {
+        m_waiting += std::exchange(m_young, {});
+        next();
+    });
+}
+
+UpgradePass::~UpgradePass()
+{
+    m_waiting.clear();
+    m_pool.waitForDone();
+}
+
+QString UpgradePass::title()
+{
+    return tr("Adding additionnal infos to sessions - for version 1.4.0.0 ");
+}
+
+QString UpgradePass::description(qsizetype sessions)
+{
+    return QString::number(sessions)
+           + tr(" sessions to parse \nIn order to have access to all your statistics "
+                "with this new version of Analyzer, let this analysis finish ");
+}
+
+bool UpgradePass::start(const LibraryFolder &folder)
+{
+    if (m_isRunning || m_parts.settings.isOn(Setting::V1400))
         return false;
     qDebug() << "(ZunoAnalyzer::loadAcquisitionsFolder) Parsing all .ra files to fill in "
                 "additionnal informations";
-    m_counter = 0;
-    DownloadInProgress window;
-    m_window = &window;
-    connect(&window, &DownloadInProgress::cancelUpdate, this,
-            [this] { m_counter = m_parts.library.size(); });
-    window.setWindowTitle(tr("Adding additionnal infos to sessions - for version 1.4.0.0 "));
-    window.setLabelText(QString::number(m_parts.library.size())
-                        + tr(" sessions to parse \nIn order to have access to all your statistics "
-                             "with this new version of Analyzer, let this analysis finish "));
-    window.show();
-    run();
-    m_parts.settings.setValue(Setting::V1400, true);
+    m_parts.library.finishLoading();
+    m_isRunning = true;
+    m_folder = folder;
+    // Its own: the window's maps may be loaded anew meanwhile.
+    m_maps = mapsOf(m_parts.settings);
+    QStringList paths;
+    QDirIterator files(folder.path(), {QStringLiteral("*.ra1")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    // Listed first: each file that is rewritten takes another place in its folder.
+    while (files.hasNext())
+        paths.append(files.next());
+    sort(paths);
+    next();
     return true;
 }
 
-void UpgradePass::run()
+void UpgradePass::sort(const QStringList &paths)
 {
-    QDirIterator files(m_parts.tree.folder(), {QStringLiteral("*.ra1")},
-                       QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-    // Listed first: each file that is rewritten takes another place in its folder.
-    QStringList paths;
-    while (files.hasNext())
-        paths.append(files.next());
-    if (!paths.isEmpty())
-        rest();
-    for (const QString &path : std::as_const(paths)) {
-        // A cancel sets the counter to the number of sessions: one more file is handled then.
-        if (m_counter > m_parts.library.size())
-            return;
-        handle(path);
-        // Files that are no sessions are no part of the number that the window shows.
-        if (m_parts.library.find(path) != nullptr)
-            showProgress();
+    const QDateTime now = QDateTime::currentDateTime();
+    for (const QString &path : paths) {
+        // Files that are no sessions are no part of the number that the rider sees.
+        if (m_parts.library.find(path) == nullptr)
+            continue;
+        const qint64 age = QFileInfo(path).lastModified().msecsTo(now);
+        (age < Rest.count() ? m_young : m_waiting).append(path);
     }
+    m_all = m_waiting.size() + m_young.size();
+    m_done = 0;
+    if (!m_young.isEmpty())
+        m_rest.start(Rest);
 }
 
-// What somebody is copying into the library must not be replaced.
-void UpgradePass::rest()
+void UpgradePass::next()
 {
-    QEventLoop loop;
-    QTimer::singleShot(Rest, &loop, &QEventLoop::quit);
-    loop.exec();
+    while (!m_waiting.isEmpty() && m_begun < m_pool.maxThreadCount() * Ahead)
+        begin(m_waiting.takeFirst());
+    if (m_begun == 0 && m_waiting.isEmpty() && m_young.isEmpty())
+        finish();
 }
 
-void UpgradePass::handle(const QString &path)
+void UpgradePass::begin(const QString &path)
 {
     const Session *known = m_parts.library.find(path);
-    const bool hasRested = known != nullptr && !m_parts.library.hasChanged(known, QFileInfo(path));
-    m_parts.tree.selectOnly(path);
-    Session *session = m_parts.display.session();
-    if (session != nullptr && session->filePath() == path && hasRested)
-        m_parts.writer.write(*session);
+    const bool mayWrite = known != nullptr && m_folder.holds(path)
+                          && !m_parts.library.hasChanged(known, QFileInfo(path));
+    if (!mayWrite) {
+        Q_EMIT advanced(++m_done, m_all);
+        return;
+    }
+    ++m_begun;
+    const QString choice = m_parts.settings.mapChoice(QFileInfo(path).fileName());
+    m_pool.start([this, path, choice, maps = m_maps] {
+        const Upgraded upgraded = upgradeOne(path, *maps, choice);
+        QMetaObject::invokeMethod(
+            this, [this, path, upgraded] { take(path, upgraded); }, Qt::QueuedConnection);
+    });
 }
 
-void UpgradePass::showProgress()
+void UpgradePass::take(const QString &path, const Upgraded &upgraded)
 {
-    const qsizetype count = m_parts.library.size();
-    double progress = 0.0;
-    if (count != 0) {
-        progress = static_cast<double>(m_counter) / static_cast<double>(count) * 100.0;
-        ++m_counter;
+    --m_begun;
+    Session *session = m_parts.library.find(path);
+    if (session != nullptr && upgraded.state) {
+        session->takeOver(*upgraded.state);
+        m_parts.library.noteWritten(*session);
     }
-    QCoreApplication::processEvents();
-    if (m_window != nullptr)
-        m_window->setProgress(static_cast<int>(progress));
+    const QString file = QFileInfo(path).fileName();
+    const bool hasMaps = QDir(m_parts.settings.mapsFolder()).exists();
+    if (upgraded.isDetected && hasMaps && !m_parts.settings.mapChoice(file).isEmpty())
+        m_parts.settings.removeMapChoice(file);
+    Q_EMIT advanced(++m_done, m_all);
+    next();
+}
+
+void UpgradePass::cancel()
+{
+    m_waiting.clear();
+    m_young.clear();
+    m_rest.stop();
+    if (m_isRunning)
+        next();
+}
+
+void UpgradePass::finish()
+{
+    if (!std::exchange(m_isRunning, false))
+        return;
+    m_maps.reset();
+    m_parts.settings.setValue(Setting::V1400, true);
+    Q_EMIT finished();
 }
 
 } // namespace zuno
