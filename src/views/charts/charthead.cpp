@@ -187,7 +187,7 @@ ValueColumns ChartHead::columns() const
 void ChartHead::place(QLabel *label, double right) const
 {
     const int space
-        = isGap() ? width() / 2 : QFontMetrics(bold(font())).horizontalAdvance(LongestValue);
+        = isGap() ? width() * 2 / 3 : QFontMetrics(bold(font())).horizontalAdvance(LongestValue);
     label->setGeometry(static_cast<int>(right) - space, 0, space, height());
 }
 
