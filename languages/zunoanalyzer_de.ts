@@ -1204,7 +1204,7 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     <message>
         <source>T%1</source>
         <comment>a corner&apos;s number</comment>
-        <translation>K%1</translation>
+        <translation>T%1</translation>
     </message>
     <message>
         <source>Corner</source>
@@ -3190,7 +3190,7 @@ Damit diese neue Version von Analyzer alle Statistiken zeigen kann, lassen Sie d
     </message>
     <message>
         <source>thin: won and lost inside the corner</source>
-        <translation>dünn: in der Kurve gewonnen und verloren</translation>
+        <translation>dünn: Gewinn, Verlust in der Kurve</translation>
     </message>
     <message>
         <source>%1 s</source>

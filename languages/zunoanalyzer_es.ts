@@ -1204,7 +1204,7 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     <message>
         <source>T%1</source>
         <comment>a corner&apos;s number</comment>
-        <translation>C%1</translation>
+        <translation>T%1</translation>
     </message>
     <message>
         <source>Corner</source>

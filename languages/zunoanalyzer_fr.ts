@@ -1204,7 +1204,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     <message>
         <source>T%1</source>
         <comment>a corner&apos;s number</comment>
-        <translation>V%1</translation>
+        <translation>T%1</translation>
     </message>
     <message>
         <source>Corner</source>

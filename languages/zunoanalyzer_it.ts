@@ -1204,7 +1204,7 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <message>
         <source>T%1</source>
         <comment>a corner&apos;s number</comment>
-        <translation>C%1</translation>
+        <translation>T%1</translation>
     </message>
     <message>
         <source>Corner</source>
