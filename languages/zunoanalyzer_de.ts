@@ -2753,6 +2753,13 @@ Machen Sie daraus eine Karte, wählen Sie eine mit „Karten“ (Strg+M), oder k
     </message>
 </context>
 <context>
+    <name>zuno::PassProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Reference</name>
     <message>
         <source>No lap serves as reference yet.</source>
@@ -3329,6 +3336,10 @@ Ziehen Sie die Sessiondateien (.ra1) Ihres Loggers hierher, wählen Sie sie mit 
     <message>
         <source>List of sessions</source>
         <translation>Liste der Sessions</translation>
+    </message>
+    <message>
+        <source>Reading your library: %1 of %2 recordings</source>
+        <translation>Ihre Bibliothek wird gelesen: %1 von %2 Aufzeichnungen</translation>
     </message>
 </context>
 </TS>

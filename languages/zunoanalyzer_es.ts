@@ -2753,6 +2753,13 @@ Cree un nuevo mapa con ella, elija un mapa con «Mapas» (Ctrl+M) o copie el arc
     </message>
 </context>
 <context>
+    <name>zuno::PassProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Reference</name>
     <message>
         <source>No lap serves as reference yet.</source>
@@ -3329,6 +3336,10 @@ Arrastre aquí los archivos de sesión (.ra1) de su registrador, elíjalos con �
     <message>
         <source>List of sessions</source>
         <translation>Lista de sesiones</translation>
+    </message>
+    <message>
+        <source>Reading your library: %1 of %2 recordings</source>
+        <translation>Leyendo su biblioteca: %1 de %2 grabaciones</translation>
     </message>
 </context>
 </TS>

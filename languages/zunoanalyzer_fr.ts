@@ -2753,6 +2753,13 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
 </context>
 <context>
+    <name>zuno::PassProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Reference</name>
     <message>
         <source>No lap serves as reference yet.</source>
@@ -3329,6 +3336,10 @@ Déposez ici les fichiers de session (.ra1) de votre boîtier, choisissez-les av
     <message>
         <source>List of sessions</source>
         <translation>Liste des sessions</translation>
+    </message>
+    <message>
+        <source>Reading your library: %1 of %2 recordings</source>
+        <translation>Lecture de votre bibliothèque&#xa0;: %1 sur %2 enregistrements</translation>
     </message>
 </context>
 </TS>

@@ -2753,6 +2753,13 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
 </context>
 <context>
+    <name>zuno::PassProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+</context>
+<context>
     <name>zuno::Reference</name>
     <message>
         <source>No lap serves as reference yet.</source>
@@ -3329,6 +3336,10 @@ Trascina qui i file di sessione (.ra1) del tuo logger, sceglili con «Importa» 
     <message>
         <source>List of sessions</source>
         <translation>Elenco delle sessioni</translation>
+    </message>
+    <message>
+        <source>Reading your library: %1 of %2 recordings</source>
+        <translation>Lettura della libreria: %1 di %2 registrazioni</translation>
     </message>
 </context>
 </TS>
