@@ -152,15 +152,15 @@
     </message>
     <message>
         <source>Acceleration, first axis</source>
-        <translation>Beschleunigung, erste Achse</translation>
+        <translation>Beschl., erste Achse</translation>
     </message>
     <message>
         <source>Acceleration, second axis</source>
-        <translation>Beschleunigung, zweite Achse</translation>
+        <translation>Beschl., zweite Achse</translation>
     </message>
     <message>
         <source>Acceleration, third axis</source>
-        <translation>Beschleunigung, dritte Achse</translation>
+        <translation>Beschl., dritte Achse</translation>
     </message>
     <message>
         <source>Lean angle</source>

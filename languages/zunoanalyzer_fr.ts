@@ -1922,7 +1922,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation>Nouvelle carte à partir de cette session...</translation>
+        <translation>Nouvelle carte de cette session...</translation>
     </message>
     <message>
         <source>The best time of each section, and the lap that holds it</source>
@@ -2533,7 +2533,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation>Nouvelle carte à partir de cette session...</translation>
+        <translation>Nouvelle carte de cette session...</translation>
     </message>
     <message>
         <source>No map found, please try to select one from the Map configuraton panel</source>
@@ -2690,7 +2690,7 @@ Faites-en une nouvelle carte, choisissez une carte avec «&#xa0;Cartes&#xa0;» (
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation>Nouvelle carte à partir de cette session...</translation>
+        <translation>Nouvelle carte de cette session...</translation>
     </message>
     <message>
         <source>Edit...</source>

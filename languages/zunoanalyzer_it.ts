@@ -1922,7 +1922,7 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation>Nuova mappa da questa sessione...</translation>
+        <translation>Nuova mappa dalla sessione...</translation>
     </message>
     <message>
         <source>The best time of each section, and the lap that holds it</source>
@@ -2533,7 +2533,7 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation>Nuova mappa da questa sessione...</translation>
+        <translation>Nuova mappa dalla sessione...</translation>
     </message>
     <message>
         <source>No map found, please try to select one from the Map configuraton panel</source>
@@ -2690,7 +2690,7 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     </message>
     <message>
         <source>New map from this session...</source>
-        <translation>Nuova mappa da questa sessione...</translation>
+        <translation>Nuova mappa dalla sessione...</translation>
     </message>
     <message>
         <source>Edit...</source>
