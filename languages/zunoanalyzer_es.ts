@@ -390,11 +390,11 @@
     <name>LapScene</name>
     <message>
         <source>gaining</source>
-        <translation>ganancia</translation>
+        <translation>gana</translation>
     </message>
     <message>
         <source>losing %1 s / 100 m</source>
-        <translation>pérdida %1 s / 100 m</translation>
+        <translation>pierde %1 s / 100 m</translation>
     </message>
     <message>
         <source>braking</source>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>reference, lap %1</source>
-        <translation>referencia, vuelta %1</translation>
+        <translation>ref., vuelta %1</translation>
     </message>
     <message>
         <source>brakes</source>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Offline map</source>
-        <translation>Mapa sin conexión</translation>
+        <translation>Sin conexión</translation>
     </message>
     <message>
         <source>first sample</source>

@@ -2193,7 +2193,7 @@ Usala per creare una nuova mappa, scegli una mappa con «Mappe» (Ctrl+M) o copi
     <name>zuno::LineSwitch</name>
     <message>
         <source>Gain/loss</source>
-        <translation>Guad./perdita</translation>
+        <translation>Guadagno/perdita</translation>
     </message>
     <message>
         <source>Speed</source>
