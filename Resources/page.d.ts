@@ -91,6 +91,8 @@ interface ScenePayload {
     signs: SceneSign[];
     gates: SceneGate[];
     acts: SceneAct[];
+    /** Makes the rider's unit of km/h. */
+    speedFactor: number;
     /** The way of a session without laps, of every so many samples. */
     path?: ([number, number] | [null, null])[];
     step?: number;

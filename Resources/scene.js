@@ -13,7 +13,7 @@ const LineWidth = 5;
 const CasingWidth = 7;
 /** How many shades a line has: neighbours of the same one are drawn in one go. */
 const Shades = 24;
-/** Metres between places of the line that signs keep away from. */
+/** Pixels. */
 const SignHeight = 19;
 /** Below these widths of the view only larger differences keep their value. */
 const NarrowViews = [{ width: 560, least: 0.1 }, { width: 640, least: 0.055 }];
@@ -98,6 +98,63 @@ function stopColour(value, stops, none) {
     return mixed(stops[first], stops[Math.min(first + 1, stops.length - 1)], at - first);
 }
 
+// What the rider wants to see
+
+/** Whether the line tells a value; two laps may have one colour each instead. */
+function isLineColoured() {
+    return secondLap === null || options.compareGradient !== "false";
+}
+
+/** The gates that are shown: the line always, as it tells where a lap begins.
+ *  @param {ScenePayload} shown */
+function shownGates(shown) {
+    return shown.gates.filter((gate) => gate.isStart || options.landmarks !== "false");
+}
+
+/** The way to the right of a line at one of its samples, metres east and north of length 1.
+ *  @param {LapPoint[]} line @param {LapPoint} point */
+function rightOf(line, point) {
+    const at = line.findIndex((other) =>
+        other.dataCoordX === point.dataCoordX && other.dataCoordY === point.dataCoordY);
+    const from = at < 0 ? null : positionOf(line[Math.max(at - 2, 0)]);
+    const to = at < 0 ? null : positionOf(line[Math.min(at + 2, line.length - 1)]);
+    if (from === null || to === null)
+        return { dx: 0, dy: 1 };
+    const east = (to.lng - from.lng) * Math.cos(from.lat * Math.PI / 180);
+    const north = to.lat - from.lat;
+    const length = Math.hypot(east, north);
+    return length > 0 ? { dx: north / length, dy: -east / length } : { dx: 0, dy: 1 };
+}
+
+/** Signs of the first lap's lowest and highest speeds. They give way to all others.
+ *  @param {LapPayload} lap @param {ScenePayload} shown @returns {SceneSign[]} */
+function speedSigns(lap, shown) {
+    const line = withPosition(samplesOf(lap));
+    const sign = (/** @type {LapPoint} */ point, /** @type {string} */ arrow) => ({
+        .../** @type {google.maps.LatLngLiteral} */ (positionOf(point)),
+        ...rightOf(line, point),
+        label: `${arrow}${Math.round(point.dataSpeed * shown.speedFactor)}`,
+        value: "",
+        colour: shown.colours.edge,
+        ink: shown.colours.text,
+        weight: -2,
+        optional: true,
+        zone: -1,
+    });
+    // The corners' signs tell the lowest speeds already where the line tells the speed.
+    const lowest = shown.mode === "speed" && shown.signs.some((one) => one.zone >= 0)
+        ? [] : lap.minSpeeds;
+    return [...withPosition(lap.maxSpeeds).map((point) => sign(point, "\u2191")),
+        ...withPosition(lowest).map((point) => sign(point, "\u2193"))];
+}
+
+/** @param {ScenePayload} shown */
+function shownSigns(shown) {
+    const signs = shown.signs.filter((sign) => !sign.optional || options.landmarks !== "false");
+    return options.minMax === "false" || firstLap === null
+        ? signs : [...signs, ...speedSigns(firstLap, shown)];
+}
+
 // Lines
 
 /**
@@ -106,6 +163,8 @@ function stopColour(value, stops, none) {
  */
 function drawColoured(lap, shown) {
     const samples = samplesOf(lap);
+    if (!isLineColoured())
+        return [drawSolid(pathOf(samples), shown.colours.lap1, LineWidth)];
     const fits = shown.values.length === samples.length;
     const line = samples.map((point, i) => ({
         place: positionOf(point),
@@ -259,17 +318,30 @@ function drawSign(sign, placed, zoom, index) {
     return markers;
 }
 
-/** A short line across the track. @param {SceneGate} gate */
+/** A short line across the track, and behind that of the start an arrow on the way that is ridden.
+ *  @param {SceneGate} gate */
 function drawGate(gate) {
     const colours = /** @type {ScenePayload} */ (scene).colours;
     const half = Math.max(roadPixels() / 2 + 4, 9);
-    return drawSymbol({ lat: gate.lat, lng: gate.lng }, {
+    const line = drawSymbol({ lat: gate.lat, lng: gate.lng }, {
         path: `M ${-half} 0 H ${half}`,
         rotation: gate.heading,
         strokeColor: gate.isStart ? colours.text : colours.secondText,
         strokeWeight: gate.isStart ? 4 : 2,
         fillOpacity: 0,
     }, null, 500);
+    return gate.isStart ? [line, drawWayArrow(gate)] : [line];
+}
+
+/** Notched, unlike the triangles of who brakes. @param {SceneGate} gate */
+function drawWayArrow(gate) {
+    const colours = /** @type {ScenePayload} */ (scene).colours;
+    return drawSymbol({ lat: gate.lat, lng: gate.lng }, {
+        path: "M -7 -8 L 0 -24 L 7 -8 L 0 -12 Z",
+        rotation: gate.heading,
+        fillColor: colours.text,
+        strokeColor: colours.casing,
+    }, null, 501);
 }
 
 /** @param {SceneAct} act */
@@ -320,14 +392,15 @@ function drawSigns() {
     if (scene === null || map === null || zoom === undefined)
         return;
     const shown = scene;
-    sceneSigns.push(...shown.gates.map(drawGate), ...shown.acts.map(drawAct));
+    sceneSigns.push(...shownGates(shown).flatMap(drawGate), ...shown.acts.map(drawAct));
     const bounds = viewBounds();
     const near = bounds === null ? trackSpots(zoom) : trackSpots(zoom).filter((spot) =>
         spot.x > bounds.left - 50 && spot.x < bounds.right + 50
         && spot.y > bounds.top - 50 && spot.y < bounds.bottom + 50);
-    const placed = placeSigns(shown.signs.map((sign) => wishOf(sign, zoom)), near,
+    const signs = shownSigns(shown);
+    const placed = placeSigns(signs.map((sign) => wishOf(sign, zoom)), near,
         roadPixels() / 2, bounds, bounds === null ? [] : buttonBlocks(bounds));
-    shown.signs.forEach((sign, i) => {
+    signs.forEach((sign, i) => {
         const found = placed[i];
         if (found === null)
             return;
@@ -464,15 +537,21 @@ function showSceneLegend() {
     document.body.style.setProperty("--text", colours.text);
     document.body.style.setProperty("--second", colours.secondText);
     document.body.style.setProperty("--edge", colours.edge);
-    const bar = legendPart("bar", "");
-    bar.style.background = `linear-gradient(to right, ${stops.join(", ")})`;
-    const parts = [legendPart("text", legend.from), bar, legendPart("text", legend.to)];
+    /** @type {HTMLElement[]} */
+    const parts = [];
+    if (isLineColoured()) {
+        const bar = legendPart("bar", "");
+        bar.style.background = `linear-gradient(to right, ${stops.join(", ")})`;
+        parts.push(legendPart("text", legend.from), bar, legendPart("text", legend.to));
+    }
     const sample = (/** @type {string} */ kind, /** @type {string} */ colour,
         /** @type {string} */ text) => {
         const sign = legendPart(kind, "");
         sign.style.setProperty("--sign", colour);
         parts.push(sign, legendPart("text", text));
     };
+    if (!isLineColoured())
+        sample("whole", colours.lap1, window.zunoPage?.texts.firstLap ?? "");
     if (secondLap !== null)
         sample("dash", colours.lap2, legend.other);
     if (scene.acts.length > 0) {

@@ -439,6 +439,7 @@ private Q_SLOTS:
         const QJsonObject scene
             = QJsonDocument::fromJson(scenePayload(view.state, LineMode::Gain)).object();
         QCOMPARE(scene[u"path"].toArray().size(), 91);
+        QCOMPARE(scene[u"speedFactor"].toDouble(), 1.0);
         QCOMPARE(scene[u"signs"][1][u"label"].toString(), u"last sample"_s);
         view.state.showRange({100, 200});
         view.state.showLap({&view.session, view.first.get()});

@@ -98,15 +98,18 @@ QString lap(double north = 0.0)
 QString scene()
 {
     return QStringLiteral(
-        R"({"mode":"gain","values":[0,0.5,1,null,1],"stops":["#000000","#ffffff"],"colours":)"
+        R"({"mode":"gain","speedFactor":0.5,"values":[0,0.5,1,null,1],"stops":["#000000","#ffffff"],"colours":)"
         R"({"map":"#101010","road":"#202020","roadEdge":"#303030","casing":"#404040",)"
         R"("text":"#ffffff","secondText":"#cccccc","card":"#505050","edge":"#606060",)"
         R"("lap1":"#0000ff","lap2":"#ff8000","neutral":"#707070"},"signs":[)"
         R"({"lat":0,"lng":0.001,"dx":0,"dy":1,"label":"1","value":"+0.41","colour":"#ff8000",)"
         R"("ink":"#ff8000","weight":0.41,"optional":false,"zone":3},)"
         R"({"lat":0,"lng":0.002,"dx":0,"dy":1,"label":"2","value":"+0.01","colour":"#606060",)"
-        R"("ink":"#ffffff","weight":0.01,"optional":false,"zone":4}],)"
-        R"("gates":[{"lat":0,"lng":0,"heading":90,"isStart":true}],)"
+        R"("ink":"#ffffff","weight":0.01,"optional":false,"zone":4},)"
+        R"({"lat":0,"lng":0.003,"dx":0,"dy":1,"label":"P1","value":"","colour":"#606060",)"
+        R"("ink":"#cccccc","weight":-1,"optional":true,"zone":-1}],)"
+        R"("gates":[{"lat":0,"lng":0,"heading":90,"isStart":true},)"
+        R"({"lat":0,"lng":0.003,"heading":90,"isStart":false}],)"
         R"("acts":[{"lat":0,"lng":0.0015,"isBraking":true,"isOther":false}],)"
         R"("legend":{"from":"gaining","to":"losing","other":"reference, lap 6",)"
         R"("brakes":"brakes","gas":"on the gas","offline":"Offline map"}})");
@@ -158,6 +161,8 @@ private Q_SLOTS:
     void centres();
     void options();
     void drawsScene();
+    void sceneOptions_data();
+    void sceneOptions();
     void drawsRide();
     void placesSigns_data();
     void placesSigns();
@@ -415,7 +420,9 @@ void TestMapPage::drawsScene()
     // The other lap dashed below, then the line in its colours on a casing.
     QCOMPARE(shapes("`${s.strokeWeight}${s.strokeColor}${s.icons ? 'dashed' : ''}`", "s.path"),
              "5#404040 3#ff8000dashed 7#404040 5#000000 5#808080 5#ffffff");
-    QCOMPARE(shapes("s.label.text", "s.label && s.visible"), "+0.41 1 +0.01 2");
+    QCOMPARE(shapes("s.label.text", "s.label && s.zIndex < 1004"), "+0.41 1 +0.01 2");
+    // The way that is ridden, at the line.
+    QCOMPARE(shapes("s.icon.rotation", "s.zIndex === 501"), "90");
     QCOMPARE(
         text(QStringLiteral("document.getElementById('line').innerText.replace(/\\s+/g, ' ')")),
         "gaining losing reference, lap 6 brakes on the gas 200 m");
@@ -432,6 +439,51 @@ void TestMapPage::drawsScene()
     run(call("drawScene", {QStringLiteral("{}")}));
     QCOMPARE(shapes("`${s.path.length}/${s.strokeWeight}`", "s.path"), "2/5 2/5 2/5");
     QCOMPARE(shapes("s.label.text", "s.visible && s.label"), "57 201 P1 P2 Start");
+}
+
+void TestMapPage::sceneOptions_data()
+{
+    QTest::addColumn<bool>("twoLaps");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QByteArray>("labels");
+    QTest::addColumn<QByteArray>("gates");
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("legend");
+
+    // The speeds in the unit of the scene, which is half of km/h.
+    const auto row = [](const char *name, bool twoLaps, const char *options, const char *labels,
+                        const char *gates, const char *line, const char *legend) {
+        QTest::newRow(name) << twoLaps << u'{' + QString::fromLatin1(options) + u'}'
+                            << QByteArray(labels) << QByteArray(gates) << QByteArray(line)
+                            << QByteArray(legend);
+    };
+    constexpr auto Everything = "+0.41 1 +0.01 2 P1 \u2191101 \u219329";
+    constexpr auto Coloured = "#000000 #808080 #ffffff";
+    row("standard", true, "", Everything, "4 2", Coloured, "gaining");
+    row("everything", true, R"("minMax":"true","landmarks":"true","compareGradient":"true")",
+        Everything, "4 2", Coloured, "gaining");
+    row("no speeds", true, R"("minMax":"false")", "+0.41 1 +0.01 2 P1", "4 2", Coloured, "gaining");
+    row("no section ends", true, R"("landmarks":"false")", "+0.41 1 +0.01 2 \u2191101 \u219329",
+        "4", Coloured, "gaining");
+    row("one colour a lap", true, R"("compareGradient":"false")", Everything, "4 2", "#0000ff",
+        "first lap");
+    row("one lap", false, R"("compareGradient":"false")", Everything, "4 2", Coloured, "gaining");
+}
+
+void TestMapPage::sceneOptions()
+{
+    QFETCH(const bool, twoLaps);
+    QFETCH(const QString, options);
+    load(standIn());
+    run(call("initMap", {QStringLiteral("0°, 0°")}) + u';'
+        + (twoLaps ? call("drawTwoLaps", {lap(), lap(1)}) : call("drawOneLap", {lap()})) + u';'
+        + call("drawScene", {scene()}) + u';' + call("setOptions", {options}));
+    QTEST(shapes("s.label.text", "s.label"), "labels");
+    QTEST(shapes("s.icon.strokeWeight", "s.zIndex === 500"), "gates");
+    QTEST(shapes("s.strokeColor", "s.path && !s.icons && s.strokeWeight === 5")
+              .replace(twoLaps ? "#404040 " : "", ""),
+          "line");
+    QTEST(text(QStringLiteral("document.querySelector('#line .text').textContent")), "legend");
 }
 
 // A whole session comes with the scene; a click means the sample of the recording.

@@ -445,6 +445,7 @@ QByteArray scenePayload(const ChartState &state, LineMode wanted)
         json.member("mode", QString::fromLatin1(ModeNames[static_cast<std::size_t>(mode)]));
         const std::size_t size = state.first()->size();
         const std::size_t step = state.isRide() ? (size + MostRidePoints - 1) / MostRidePoints : 1;
+        json.member("speedFactor", units().speed(1.0));
         writeScale(json, scale, step);
         writeColours(json);
         if (state.isRide()) {

@@ -21,11 +21,11 @@ inline constexpr int LineModeCount = 4;
 
 /// The JSON text of what the map page draws of the laps of @p state, besides their samples: "mode",
 /// "values" (a number from 0 to 1 for each sample of the first lap, null where nothing is known),
-/// the colours "stops" from 0 to 1, further "colours" by name, and lists of "signs" (corners with
-/// the mode's value), "gates" (line and sections) and "acts" (where somebody brakes and goes on the
-/// gas, of the zone that is looked at), and the texts of the "legend". A session without laps has
-/// its way as "path", a list of [latitude, longitude], of every so many samples ("step"). An empty
-/// object without a lap.
+/// what makes the rider's unit of km/h ("speedFactor"), the colours "stops" from 0 to 1, further
+/// "colours" by name, and lists of "signs" (corners with the mode's value), "gates" (line and
+/// sections) and "acts" (where somebody brakes and goes on the gas, of the zone that is looked at),
+/// and the texts of the "legend". A session without laps has its way as "path", a list of
+/// [latitude, longitude], of every so many samples ("step"). An empty object without a lap.
 [[nodiscard]] QByteArray scenePayload(const ChartState &state, LineMode wanted);
 
 } // namespace zuno
