@@ -305,7 +305,6 @@ function showPath() {
     pathLine = drawLine(edited.path, {
         strokeColor: EditColours.path, strokeOpacity: 0.7, strokeWeight: 1,
     });
-    map.setOptions({ disableDoubleClickZoom: true });
     fitPath();
 }
 
@@ -446,7 +445,6 @@ function editDraft(text) {
 function endEditing() {
     clearEditing();
     edited = null;
-    map?.setOptions({ disableDoubleClickZoom: false });
     redraw();
 }
 

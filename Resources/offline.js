@@ -66,6 +66,7 @@
                 renderer: L.canvas({ padding: 0.5 }),
                 attributionControl: false,
                 zoomControl: false,
+                doubleClickZoom: !options.disableDoubleClickZoom,
                 // Any zoom, so that what is fitted into the view fills it.
                 zoomSnap: 0,
                 zoomDelta: 0.5,
@@ -85,13 +86,6 @@
             this.leaflet.panTo(toLeaflet(place), { animate: false });
         }
         getZoom() { return this.leaflet.getZoom(); }
-        /** @param {{ disableDoubleClickZoom?: boolean }} options */
-        setOptions(options) {
-            if (options.disableDoubleClickZoom)
-                this.leaflet.doubleClickZoom.disable();
-            else
-                this.leaflet.doubleClickZoom.enable();
-        }
         getBounds() { return new LatLngBounds(this.leaflet.getBounds()); }
         /** @param {LatLngBounds} bounds @param {Required<google.maps.Padding>} padding */
         fitBounds(bounds, padding) {
@@ -103,7 +97,8 @@
                 paddingBottomRight: [padding.right, padding.bottom],
             });
         }
-        /** @param {"click" | "idle"} event @param {(event: { latLng: LatLng }) => void} slot */
+        /** @param {"click" | "dblclick" | "idle"} event
+         *  @param {(event: { latLng: LatLng }) => void} slot */
         addListener(event, slot) {
             if (event === "idle")
                 this.leaflet.on("moveend", () => slot(eventAt(this.leaflet.getCenter())));

@@ -307,6 +307,14 @@ function fitLapAgain() {
     fitLap();
 }
 
+/** As a double click on a chart does. */
+function showWholeLap() {
+    if (isEditing())
+        return;
+    fitWanted = true;
+    fitLap();
+}
+
 function showLegend() {
     const hasLine = firstLines.length > 0 && scene === null;
     const gradient = secondLap === null || options.compareGradient === "true";
@@ -406,7 +414,9 @@ function initMap(text) {
         center: parseCentre(text),
         mapTypeId: "satellite",
         streetViewControl: false,
+        disableDoubleClickZoom: true,
     });
+    map.addListener("dblclick", showWholeLap);
     map.addListener("click", (/** @type {google.maps.MapMouseEvent} */ event) => {
         if (event.latLng && isEditing())
             clickTrack(event.latLng);

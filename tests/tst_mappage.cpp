@@ -327,7 +327,7 @@ void TestMapPage::drawsLaps()
     run(call("initMap", {QStringLiteral("46.1°, -6.2°")}));
     QCOMPARE(text(QStringLiteral("JSON.stringify(map.options)")),
              R"({"zoom":16,"center":{"lat":46.1,"lng":-6.2},"mapTypeId":"satellite",)"
-             R"("streetViewControl":false})");
+             R"("streetViewControl":false,"disableDoubleClickZoom":true})");
     run(call("setOptions", {QStringLiteral(R"({"minMax":"","landmarks":"","compareGradient":"%1"})")
                                 .arg(compareGradient)}));
     // Drawn twice, what was drawn before has gone.
@@ -570,8 +570,15 @@ void TestMapPage::fillsItsView()
     // The road is as wide as in metres, at any zoom.
     run(QStringLiteral("map.leaflet.setZoom(20, {animate: false})"));
     QTRY_VERIFY(run(QStringLiteral("roadLines[1].line.options.weight > 70")).toBool());
+    // A double click shows the whole lap again, and nothing zooms besides.
+    QVERIFY(run(width).toDouble() > 1);
+    run(QStringLiteral("map.leaflet.getContainer().dispatchEvent("
+                       "new MouseEvent('dblclick', {bubbles: true, clientX: 90, clientY: 90}))"));
+    QTRY_VERIFY2(run(width).toDouble() < 1, text(width).constData());
+    QVERIFY(!run(QStringLiteral("map.leaflet.doubleClickZoom.enabled()")).toBool());
     // A lap without positions is none, at any zoom, and the next one is drawn again.
-    run(call("drawOneLap", {QStringLiteral(R"({"lapPoints":[],"landmarks":[]})")}));
+    run(call("drawOneLap",
+             {QStringLiteral(R"({"lapPoints":[],"maxSpeeds":[],"minSpeeds":[],"landmarks":[]})")}));
     run(QStringLiteral("map.leaflet.setZoom(16, {animate: false})"));
     QSignalSpy drawn(m_view, &MapViewController::lapDrawn);
     run(call("drawOneLap", {lap()}));
