@@ -126,10 +126,13 @@ function rightOf(line, point) {
     return length > 0 ? { dx: north / length, dy: -east / length } : { dx: 0, dy: 1 };
 }
 
-/** Signs of the first lap's lowest and highest speeds. They give way to all others.
+/** Signs of the first lap's lowest and highest speeds. They give way to all others, and the less
+ *  outstanding ones to the rest of them.
  *  @param {LapPayload} lap @param {ScenePayload} shown @returns {SceneSign[]} */
 function speedSigns(lap, shown) {
     const line = withPosition(samplesOf(lap));
+    const speeds = [...lap.maxSpeeds, ...lap.minSpeeds].map((point) => point.dataSpeed);
+    const middle = (Math.min(...speeds) + Math.max(...speeds)) / 2;
     const sign = (/** @type {LapPoint} */ point, /** @type {string} */ arrow) => ({
         .../** @type {google.maps.LatLngLiteral} */ (positionOf(point)),
         ...rightOf(line, point),
@@ -137,7 +140,7 @@ function speedSigns(lap, shown) {
         value: "",
         colour: shown.colours.edge,
         ink: shown.colours.text,
-        weight: -2,
+        weight: Math.min(Math.abs(point.dataSpeed - middle) / 1000, 0.9) - 2,
         optional: true,
         zone: -1,
     });

@@ -43,6 +43,24 @@ function lineTouchesBox(line, box) {
     return false;
 }
 
+/** Whether a leader crosses the line of the track, besides where it begins.
+ *  @param {Leader} leader @param {Spot[]} track */
+function leaderCrosses({ from, to }, track) {
+    const length = Math.hypot(to.x - from.x, to.y - from.y);
+    const middle = { x: (from.x + to.x) / 2, y: (from.y + to.y) / 2, w: 0, h: 0 };
+    const near = track.filter((spot) => boxNearSpot(middle, spot, length / 2 + 3));
+    for (let done = 4; near.length > 0 && done <= length; done += 1.5) {
+        const spot = {
+            x: from.x + (to.x - from.x) * done / length,
+            y: from.y + (to.y - from.y) * done / length,
+        };
+        // No two places of the line are farther than 4 pixels apart.
+        if (near.some((other) => Math.hypot(other.x - spot.x, other.y - spot.y) < 2.2))
+            return true;
+    }
+    return false;
+}
+
 /**
  * A box beside a place, @p distance from the edge of the road.
  * @param {SignWish} wish @param {number} w @param {number} distance @param {number} turn
@@ -90,7 +108,8 @@ class SignField {
             && !this.boxes.some((other) => boxesTouch(box, other))
             && !this.leaders.some((line) => lineTouchesBox(line, box))
             && (leader === null || !this.boxes.some((other) => lineTouchesBox(leader, other)))
-            && !this.track.some((spot) => boxNearSpot(box, spot, this.road + 2));
+            && !this.track.some((spot) => boxNearSpot(box, spot, this.road + 2))
+            && (leader === null || !leaderCrosses(leader, this.track));
     }
 
     /** @param {PlacedBox} placed */

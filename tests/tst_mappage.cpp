@@ -421,6 +421,11 @@ void TestMapPage::drawsScene()
     QCOMPARE(shapes("`${s.strokeWeight}${s.strokeColor}${s.icons ? 'dashed' : ''}`", "s.path"),
              "5#404040 3#ff8000dashed 7#404040 5#000000 5#808080 5#ffffff");
     QCOMPARE(shapes("s.label.text", "s.label && s.zIndex < 1004"), "+0.41 1 +0.01 2");
+    // Of two places for one sign of a speed the more outstanding speed has it.
+    QCOMPARE(text(QStringLiteral("speedSigns({...firstLap, maxSpeeds: [100, 200, 150].map((v) => "
+                                 "({...firstLap.maxSpeeds[0], dataSpeed: v})), minSpeeds: []}, "
+                                 "scene).sort((a, b) => b.weight - a.weight).at(-1).label")),
+             "\u219175");
     // The way that is ridden, at the line.
     QCOMPARE(shapes("s.icon.rotation", "s.zIndex === 501"), "90");
     QCOMPARE(
@@ -535,6 +540,7 @@ void TestMapPage::placesSigns_data()
     row("dropped when it may", "[wish(200), wish(200, {optional: true, farthest: 13})]",
         "{left: 189, right: 211, top: -34, bottom: 9}", "200,-23n -");
     row("beside a button", "[wish(200)]", "null, [{x: 200, y: -30, w: 90, h: 30}]", "289,-24l");
+    row("no leader over the line", "[wish(200, {y: 12})]", "null", "200,35");
     row("out of sight", "[wish(500)]", "{left: 0, right: 400, top: -99, bottom: 99}", "-");
 }
 
