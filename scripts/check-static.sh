@@ -23,16 +23,11 @@ build() {
     fi
 }
 
-each() { # each FILES COMMAND...: several at a time; without the lines that only count warnings
-    local files=$1
-    shift
-    xargs -n "$files" -P "$(nproc)" "$@" 2>&1 |
-        { grep -v -E '^[0-9]+ (warning|error)s? (and [0-9]+ errors? )?(generated|treated as errors?)' || true; }
-}
-
+# What a file has passed as it is now is not checked again: see check-changed.py.
 clang-tidy() {
     build && printf '%s\n' "${sources[@]}" |
-        each 1 clang-tidy -p build/ci --quiet --extra-arg=-Wno-unknown-warning-option
+        scripts/check-changed.py clang-tidy build/ci .clang-tidy -- \
+            clang-tidy -p build/ci --quiet --extra-arg=-Wno-unknown-warning-option
 }
 
 # Left out: what only Qt 5 has another way for, a signal that has to have the name it has, a
@@ -40,9 +35,10 @@ clang-tidy() {
 clazy() {
     local checks=level1,no-qstring-ref,no-overloaded-signal,no-writing-to-temporary,no-connect-non-signal
     build && printf '%s\n' "${sources[@]}" | grep -v '^tests/' |
-        each 6 clazy-standalone -p build/ci -checks="$checks" &&
+        scripts/check-changed.py clazy build/ci -- clazy-standalone -p build/ci -checks="$checks" &&
         printf '%s\n' "${sources[@]}" | grep '^tests/' |
-        each 6 clazy-standalone -p build/ci -checks="$checks,no-non-pod-global-static"
+        scripts/check-changed.py clazy build/ci -- \
+            clazy-standalone -p build/ci -checks="$checks,no-non-pod-global-static"
 }
 
 cppcheck() {
