@@ -23,6 +23,7 @@
 
 #include <maps/page/jsconnector.h>
 #include <maps/page/mapviewcontroller.h>
+#include <maps/page/mapwebpage.h>
 #include <maps/payload/lappayload.h>
 
 namespace zuno {
@@ -90,7 +91,7 @@ public:
     {
         QElapsedTimer timer;
         timer.start();
-        wait(&MapViewController::lapDrawn, [&] { Q_EMIT m_view.page()->drawOneLap(payload); });
+        wait(&MapViewController::lapDrawn, [&] { Q_EMIT m_view.page()->connector().drawOneLap(payload); });
         return static_cast<double>(timer.nsecsElapsed()) / 1e6;
     }
 
