@@ -102,14 +102,14 @@ class SignField {
                 && box.y - box.h / 2 >= this.bounds.top && box.y + box.h / 2 <= this.bounds.bottom);
     }
 
-    /** @param {PlacedBox} placed */
-    hasRoom({ box, leader }) {
+    /** @param {PlacedBox} placed @param {boolean} mayCross whether its leader may cross the line */
+    hasRoom({ box, leader }, mayCross) {
         return this.isInside(box)
             && !this.boxes.some((other) => boxesTouch(box, other))
             && !this.leaders.some((line) => lineTouchesBox(line, box))
             && (leader === null || !this.boxes.some((other) => lineTouchesBox(leader, other)))
             && !this.track.some((spot) => boxNearSpot(box, spot, this.road + 2))
-            && (leader === null || !leaderCrosses(leader, this.track));
+            && (leader === null || mayCross || !leaderCrosses(leader, this.track));
     }
 
     /** @param {PlacedBox} placed */
@@ -124,8 +124,9 @@ class SignField {
  * The first place with room for a box of that width: on the outside of the corner, near before
  * far, then inside.
  * @param {SignWish} wish @param {number} w @param {SignField} field
+ * @param {boolean} mayCross
  */
-function findPlace(wish, w, field) {
+function findPlace(wish, w, field, mayCross = false) {
     for (const side of [1, -1]) {
         const turned = { ...wish, dx: wish.dx * side, dy: wish.dy * side };
         for (const distance of SignDistances) {
@@ -133,7 +134,7 @@ function findPlace(wish, w, field) {
                 break;
             for (const turn of SignTurns) {
                 const placed = boxBeside(turned, w, distance, turn, field.road);
-                if (field.hasRoom(placed))
+                if (field.hasRoom(placed, mayCross))
                     return placed;
             }
         }
@@ -183,7 +184,9 @@ function placeSigns(wishes, track, road, bounds, blocks = []) {
         if (!isSeen)
             continue;
         let isWhole = wish.w > wish.small;
-        let found = isWhole ? findPlace(wish, wish.w, field) : null;
+        // A value is worth more than a leader that crosses nothing.
+        let found = isWhole
+            ? findPlace(wish, wish.w, field) ?? findPlace(wish, wish.w, field, true) : null;
         if (found === null) {
             isWhole = false;
             found = findPlace(wish, wish.small, field);

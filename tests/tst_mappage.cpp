@@ -541,6 +541,8 @@ void TestMapPage::placesSigns_data()
         "{left: 189, right: 211, top: -34, bottom: 9}", "200,-23n -");
     row("beside a button", "[wish(200)]", "null, [{x: 200, y: -30, w: 90, h: 30}]", "289,-24l");
     row("no leader over the line", "[wish(200, {y: 12})]", "null", "200,35");
+    row("rather than without its value", "[wish(200, {y: 12})]",
+        "{left: 0, right: 400, top: -99, bottom: 30}", "200,-23l");
     row("out of sight", "[wish(500)]", "{left: 0, right: 400, top: -99, bottom: 99}", "-");
 }
 
