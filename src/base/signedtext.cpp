@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QLocale>
 
@@ -13,8 +14,9 @@ namespace zuno {
 QString signedText(double value, int decimals)
 {
     constexpr QChar Minus(0x2212);
-    const QString digits = QLocale().toString(std::fabs(value), 'f', decimals);
-    const bool isZero = std::ranges::all_of(digits, [](QChar c) { return c.digitValue() <= 0; });
+    QString digits = QLocale().toString(std::fabs(value), 'f', decimals);
+    const bool isZero
+        = std::ranges::all_of(std::as_const(digits), [](QChar c) { return c.digitValue() <= 0; });
     if (isZero)
         return digits;
     return (value < 0.0 ? Minus : QChar(u'+')) + digits;

@@ -116,8 +116,7 @@ QString shownNumber(double value, int decimals, bool isDifference)
 {
     const double power = std::pow(10.0, decimals);
     const double rounded = std::round(value * power) / power + 0.0;
-    const QString text
-        = QLocale().toString(isDifference ? std::abs(rounded) : rounded, 'f', decimals);
+    QString text = QLocale().toString(isDifference ? std::abs(rounded) : rounded, 'f', decimals);
     if (!isDifference || rounded == 0)
         return text;
     return (rounded > 0 ? u'+' : u'\u2212') + text;
