@@ -91,7 +91,8 @@ public:
     {
         QElapsedTimer timer;
         timer.start();
-        wait(&MapViewController::lapDrawn, [&] { Q_EMIT m_view.page()->connector().drawOneLap(payload); });
+        wait(&MapViewController::lapDrawn,
+             [&] { Q_EMIT m_view.page()->connector().drawOneLap(payload); });
         return static_cast<double>(timer.nsecsElapsed()) / 1e6;
     }
 
