@@ -77,7 +77,12 @@ recordings() {
 }
 
 # The programs hold out against damaged files as Debian's own do.
-hardened() { hardening-check --nocfprotection "$programs/zunoanalyzer" "$work/root/usr/bin/zuno"; }
+# The tool is built with FORTIFY as well, but calls nothing whose buffer has a size that the compiler
+# knows: there is no protected function to be found in it.
+hardened() {
+    hardening-check --nocfprotection "$programs/zunoanalyzer" &&
+        hardening-check --nocfprotection --nofortify "$work/root/usr/bin/zuno"
+}
 
 failed=()
 check() { # check NAME FUNCTION
