@@ -49,7 +49,7 @@ check_pdf() { # check_pdf LANGUAGE
         "$(pdfimages -list "$pdf" | awk '$3 == "image"' | wc -l)"
     grep -qE '^Page size: .*\(A4\)' <<<"$info" || complain "$pdf: not for A4."
     pages=$(sed -nE 's/^Pages: +//p' <<<"$info")
-    ((pages >= 14 && pages <= 20)) || complain "$pdf: $pages pages."
+    ((pages >= 14 && pages <= 24)) || complain "$pdf: $pages pages."
     pdffonts "$pdf" | awk 'NR > 2 { ++fonts; if ($(NF - 4) != "yes" || $(NF - 2) != "yes") bad = 1 }
         END { exit bad || !fonts }' || complain "$pdf: it does not bring its letters."
 
